@@ -1,0 +1,33 @@
+# kdqcore_test(<file.cpp> [LAYERS <folder>...] [LIBRARIES <target>...] [LABELS <label>...] [TIMEOUT <s>])
+#
+# One Qt Test executable, named as the file; its CTest label is its folder. LAYERS links the objects of these
+# folders in, for tests of internals that the library does not export.
+
+set(kdqcore_locale_dir ${CMAKE_BINARY_DIR}/locale)
+find_program(LOCALEDEF localedef)
+if(LOCALEDEF AND NOT EXISTS ${kdqcore_locale_dir}/de_DE.UTF-8)
+    # A locale with a decimal comma, so that tests of number texts mean something on any machine.
+    file(MAKE_DIRECTORY ${kdqcore_locale_dir})
+    execute_process(COMMAND ${LOCALEDEF} -i de_DE -f UTF-8 ${kdqcore_locale_dir}/de_DE.UTF-8
+                    OUTPUT_QUIET ERROR_QUIET)
+endif()
+
+function(kdqcore_test source)
+    cmake_parse_arguments(TEST "" "TIMEOUT" "LAYERS;LIBRARIES;LABELS" ${ARGN})
+    get_filename_component(name ${source} NAME_WE)
+    get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+    if(NOT TEST_TIMEOUT)
+        set(TEST_TIMEOUT 120)
+    endif()
+    add_executable(${name} ${source})
+    target_link_libraries(${name} PRIVATE kdqcore_testsupport kdqcore_flags ${TEST_LIBRARIES})
+    foreach(layer IN LISTS TEST_LAYERS)
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:kdqcore_${layer}>)
+        get_property(included GLOBAL PROPERTY kdqcore_includes_${layer})
+        target_include_directories(${name} PRIVATE ${included})
+    endforeach()
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        LABELS "${folder};${TEST_LABELS}" TIMEOUT ${TEST_TIMEOUT}
+        ENVIRONMENT "LOCPATH=${kdqcore_locale_dir};LC_ALL=de_DE.UTF-8;TZ=Asia/Kathmandu;KDQ_TEST_DATA=${PROJECT_SOURCE_DIR}")
+endfunction()

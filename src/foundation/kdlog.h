@@ -1,0 +1,81 @@
+#pragma once
+
+#include <kdqcore_export.h>
+
+#include <QString>
+
+/// The one door to the debug log.
+///
+/// Library and applications write log lines through KD_LOG, never through the back end's own macros: it knows
+/// only four levels and would end the process at its highest. A line works at any time: before
+/// kdDebugLog::createInstance it goes to the back end's defaults, after kdDebugLog::removeInstance to
+/// standard error, and it never ends the process.
+///
+/// \code
+/// KD_LOG(kdLog::Error, kdLog::Paths, QStringLiteral("Folder '%1' is missing.").arg(path));
+/// \endcode
+///
+/// Thread-safe.
+namespace kdLog {
+
+/// Seven severities, 0 the least severe. A line of severity 4 or more is on disk when the call returns.
+enum Severity {
+    Trace = 0, ///< life-cycle traces and routine facts
+    Detail = 1,
+    Notable = 2, ///< notable steps
+    Notice = 3, ///< start-up information, model-check warnings
+    Fault = 4, ///< failed set-up steps, socket faults, failed assertions
+    Error = 5,
+    Critical = 6
+};
+
+/// What a line is about. Its text, padded to 17 characters, opens the line.
+enum Tag {
+    General,
+    Remote,
+    License,
+    Paths,
+    FailedAssert,
+    BatchMode,
+    Setup,
+    Command,
+    Settings,
+    WriteDat,
+    Socket,
+    ModelCheck,
+    Material,
+    InterProcessCom
+};
+
+/// The tag's text, padded with blanks to 17 characters.
+KDQCORE_EXPORT const char* tagText(Tag tag);
+
+/// Writes one line. \a file is a source path; the log shows its base name in lower case.
+KDQCORE_EXPORT void write(Severity severity, Tag tag, const char* file, int line, const QString& text);
+
+/// One line as the log received it.
+struct Record {
+    Severity severity;
+    Tag tag;
+    QString file; ///< base name in lower case
+    int line;
+    QString text; ///< without the tag
+};
+
+/// Sees every line while it lives, in the thread that writes the line and before the call returns; a sink must
+/// not log itself. For tests and for applications that show the log.
+class KDQCORE_EXPORT Sink {
+public:
+    Sink();
+    virtual ~Sink();
+    Q_DISABLE_COPY(Sink)
+
+    virtual void received(const Record& record) = 0;
+};
+
+} // namespace kdLog
+
+#define KD_LOG(severity, tag, text) kdLog::write(severity, tag, __FILE__, __LINE__, text)
+
+/// Logs a violated assumption of the caller (severity 4, tag FailedAssert); the code after it takes a safe way on.
+#define KD_LOG_FAILED_ASSERT(text) KD_LOG(kdLog::Fault, kdLog::FailedAssert, text)

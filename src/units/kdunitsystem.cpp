@@ -1,0 +1,6 @@
+#include "kdunitsystem.h"
+
+QString kdUnitSystem::symbol() const
+{
+    return QStringLiteral("-");
+}
