@@ -3,9 +3,8 @@
 #include <QList>
 #include <QMutex>
 
-#include <glog/logging.h>
-
 #include <algorithm>
+#include <glog/logging.h>
 
 namespace kdLog {
 
@@ -41,9 +40,10 @@ int backEndLevel(Severity severity)
 const char* tagText(Tag tag)
 {
     static const char* const texts[] = {
-        "General          ", "Remote           ", "License          ", "Paths            ", "FailedAssert     ",
-        "BatchMode        ", "Setup            ", "Command          ", "Settings         ", "WriteDat         ",
-        "Socket           ", "ModelCheck       ", "Material         ", "InterProcessCom  ",
+        "General          ", "Remote           ", "License          ", "Paths            ",
+        "FailedAssert     ", "BatchMode        ", "Setup            ", "Command          ",
+        "Settings         ", "WriteDat         ", "Socket           ", "ModelCheck       ",
+        "Material         ", "InterProcessCom  ",
     };
     return texts[tag];
 }

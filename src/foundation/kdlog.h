@@ -23,8 +23,8 @@ enum Severity {
     Trace = 0, ///< life-cycle traces and routine facts
     Detail = 1,
     Notable = 2, ///< notable steps
-    Notice = 3, ///< start-up information, model-check warnings
-    Fault = 4, ///< failed set-up steps, socket faults, failed assertions
+    Notice = 3,  ///< start-up information, model-check warnings
+    Fault = 4,   ///< failed set-up steps, socket faults, failed assertions
     Error = 5,
     Critical = 6
 };
@@ -62,8 +62,8 @@ struct Record {
     QString text; ///< without the tag
 };
 
-/// Sees every line while it lives, in the thread that writes the line and before the call returns; a sink must
-/// not log itself. For tests and for applications that show the log.
+/// Sees every line while it lives, in the thread that writes the line and before the call returns; a sink
+/// must not log itself. For tests and for applications that show the log.
 class KDQCORE_EXPORT Sink {
 public:
     Sink();
@@ -77,5 +77,6 @@ public:
 
 #define KD_LOG(severity, tag, text) kdLog::write(severity, tag, __FILE__, __LINE__, text)
 
-/// Logs a violated assumption of the caller (severity 4, tag FailedAssert); the code after it takes a safe way on.
+/// Logs a violated assumption of the caller (severity 4, tag FailedAssert); the code after it takes a safe
+/// way on.
 #define KD_LOG_FAILED_ASSERT(text) KD_LOG(kdLog::Fault, kdLog::FailedAssert, text)

@@ -7,7 +7,7 @@ namespace nPlatform {
 
 qint64 monotonicMilliseconds()
 {
-    timespec now {};
+    timespec now{};
     clock_gettime(CLOCK_MONOTONIC, &now);
     return qint64(now.tv_sec) * 1000 + now.tv_nsec / 1000000;
 }

@@ -1,7 +1,7 @@
-#include <kdQCore/kdLog>
-
 #include "kdqtest.h"
 #include "logcapture.h"
+
+#include <kdQCore/kdLog>
 
 class TestKdLog : public QObject {
     Q_OBJECT
