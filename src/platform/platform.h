@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
+#include <memory>
+
 /// The operating system behind one interface. platform_posix.cpp and platform_windows.cpp implement it;
-/// nothing above this folder calls the system itself. All functions are thread-safe.
+/// nothing above this folder calls the system itself. All functions are thread-safe unless they say
+/// otherwise; an object of one of the classes belongs to one thread at a time.
 namespace nPlatform {
 
 /// Milliseconds of a steady clock that never jumps or wraps; only differences mean something.
@@ -12,5 +16,117 @@ qint64 monotonicMilliseconds();
 /// The system's text for an error code, with the line break that the system ends it with; empty where the
 /// system does not know the code.
 QString systemErrorText(unsigned long errorCode);
+
+/// The code of the calling thread's last failed system call. Ask at once: any later call may replace it.
+unsigned long lastErrorCode();
+
+/// Faults that our own readers find where the system would have found them.
+enum class DataFault {
+    BadExecutable,   ///< the bytes are no executable
+    ResourceMissing, ///< a resource of the file is missing or damaged
+};
+
+/// The system's own error code for such a fault.
+unsigned long errorCodeOf(DataFault fault);
+
+/// What is known of this machine and its user.
+struct SystemInformation {
+    QString operatingSystem;
+    QString processor;          ///< the maker's name of the processor
+    QString architecture;       ///< "x64", "Intel Itanium-based", "x86" or "Unknown architecture"
+    int cores = 0;              ///< logical processors
+    quint64 physicalMemory = 0; ///< bytes
+    QString hostName;
+    QString userName; ///< account name
+    QString hostId;   ///< stays the same over restarts; empty where the system keeps none
+};
+
+/// Collected at the first call, the same object ever after.
+const SystemInformation& systemInformation();
+
+/// What the system tells about a process.
+struct ProcessFacts {
+    bool alive = false;     ///< false also for one that has ended and is only kept for its parent
+    QString executableName; ///< file name without folder; empty where the system does not tell
+    QString
+        startTime; ///< tells a process from a later one with the same id, also over restarts; may be empty
+};
+
+ProcessFacts processFacts(qint64 processId);
+
+enum class StandardStream { Input, Output, Error };
+
+/// Whether a person sits at the other end.
+bool isTerminal(StandardStream stream);
+
+/// Names the system's zone in the environment where it names none, so that the C library does not look the
+/// zone file up for every time text. Does nothing on Windows. Call it before other threads start.
+void presetTimeZone();
+
+/// A file that one process creates and all others find taken. It stays when the object closes it.
+class ExclusiveFile {
+public:
+    enum class Failure {
+        None,
+        Exists,       ///< another owner holds the file, or something else bears its name
+        NotPermitted, ///< this user may not create it
+        Unexpected,   ///< see errorCode()
+    };
+
+    ExclusiveFile();
+    ~ExclusiveFile();
+    Q_DISABLE_COPY(ExclusiveFile)
+
+    /// Creates the file and keeps it open for writing; others may read it. False if it exists already.
+    bool create(const QString& absolutePath);
+    bool isOpen() const;
+    /// Writes all bytes or fails.
+    bool write(const QByteArray& bytes);
+    /// Returns when the bytes are on disk.
+    bool flush();
+    /// Sets the time of the last change to now.
+    bool touch();
+    void close();
+
+    /// Of the last operation that returned a result.
+    Failure failure() const { return m_failure; }
+    /// The system's own number behind failure(); 0 after success.
+    unsigned long errorCode() const { return m_errorCode; }
+
+private:
+    bool succeed();
+    bool fail(Failure failure, unsigned long errorCode);
+
+    struct Handle;
+    std::unique_ptr<Handle> m_handle;
+    Failure m_failure = Failure::None;
+    unsigned long m_errorCode = 0;
+};
+
+/// The bytes of a file, read-only, paged in by the system as they are touched. The file must not be
+/// shortened meanwhile: POSIX systems end a process that touches bytes past the new end.
+class MappedFile {
+public:
+    /// How far the opening came.
+    enum class Failure { None, Open, CreateMapping, MapView };
+
+    explicit MappedFile(const QString& path);
+    ~MappedFile();
+    Q_DISABLE_COPY(MappedFile)
+
+    Failure failure() const { return m_failure; }
+    unsigned long errorCode() const { return m_errorCode; }
+    /// Null after a failure. An empty file fails with CreateMapping.
+    const uchar* data() const { return m_data; }
+    qint64 size() const { return m_size; }
+
+private:
+    void fail(Failure failure, unsigned long errorCode);
+
+    const uchar* m_data = nullptr;
+    qint64 m_size = 0;
+    Failure m_failure = Failure::None;
+    unsigned long m_errorCode = 0;
+};
 
 } // namespace nPlatform

@@ -1,9 +1,113 @@
 #include "platform.h"
 
+#include <QFile>
+#include <QSysInfo>
+
+#include <cerrno>
+#include <climits>
+#include <csignal>
 #include <cstring>
 #include <ctime>
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <sys/utsname.h>
+#include <unistd.h>
+#include <vector>
 
 namespace nPlatform {
+
+namespace {
+
+unsigned long currentError()
+{
+    return static_cast<unsigned long>(errno);
+}
+
+// strerror_r has two forms; which one a C library offers shows in the type of its result.
+[[maybe_unused]] QString errorText(int, const char* buffer)
+{
+    return QString::fromLocal8Bit(buffer);
+}
+
+[[maybe_unused]] QString errorText(const char* text, const char*)
+{
+    return QString::fromLocal8Bit(text);
+}
+
+QString rawErrorText(int errorCode)
+{
+    char buffer[256] = {};
+    return errorText(strerror_r(errorCode, buffer, sizeof buffer), buffer);
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString architectureName()
+{
+    utsname system{};
+    uname(&system);
+    const QString machine = QString::fromLocal8Bit(system.machine);
+    if (machine == QLatin1String("x86_64") || machine == QLatin1String("amd64"))
+        return QStringLiteral("x64");
+    if (machine == QLatin1String("ia64"))
+        return QStringLiteral("Intel Itanium-based");
+    if (machine.size() == 4 && machine.startsWith(QLatin1Char('i')) && machine.endsWith(QLatin1String("86")))
+        return QStringLiteral("x86");
+    return QStringLiteral("Unknown architecture");
+}
+
+QString processorName()
+{
+    const QList<QByteArray> lines = contentOf(QStringLiteral("/proc/cpuinfo")).split('\n');
+    for (const QByteArray& line : lines)
+        if (line.startsWith("model name"))
+            return QString::fromUtf8(line.mid(line.indexOf(':') + 1)).simplified();
+    return QSysInfo::currentCpuArchitecture();
+}
+
+QString accountName()
+{
+    std::vector<char> buffer(16384);
+    passwd entry{};
+    passwd* found = nullptr;
+    if (getpwuid_r(geteuid(), &entry, buffer.data(), buffer.size(), &found) == 0 && found)
+        return QString::fromLocal8Bit(found->pw_name);
+    return QString::number(geteuid());
+}
+
+SystemInformation collectSystemInformation()
+{
+    SystemInformation result;
+    result.operatingSystem =
+        QStringLiteral("%1 (%2 %3)")
+            .arg(QSysInfo::prettyProductName(), QSysInfo::kernelType(), QSysInfo::kernelVersion());
+    result.processor = processorName();
+    result.architecture = architectureName();
+    result.cores = static_cast<int>(sysconf(_SC_NPROCESSORS_ONLN));
+    result.physicalMemory =
+        static_cast<quint64>(sysconf(_SC_PHYS_PAGES)) * static_cast<quint64>(sysconf(_SC_PAGESIZE));
+    result.hostName = QSysInfo::machineHostName();
+    result.userName = accountName();
+    result.hostId = QString::fromLatin1(QSysInfo::machineUniqueId());
+    return result;
+}
+
+QString executableNameOf(qint64 processId)
+{
+    QString path = QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(processId));
+    const QString deleted = QStringLiteral(" (deleted)");
+    if (path.endsWith(deleted))
+        path.chop(deleted.size());
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+} // namespace
 
 qint64 monotonicMilliseconds()
 {
@@ -14,12 +118,172 @@ qint64 monotonicMilliseconds()
 
 QString systemErrorText(unsigned long errorCode)
 {
-    char buffer[256] = {};
-    const char* text = strerror_r(int(errorCode), buffer, sizeof buffer);
-    const QString result = QString::fromLocal8Bit(text);
-    if (result.startsWith(QLatin1String("Unknown error")))
+    if (errorCode > INT_MAX)
         return QString();
-    return result + QLatin1Char('\n');
+    // No error bears the largest number, so its text shows how this system, in this language, says "unknown".
+    const QString unknown =
+        rawErrorText(INT_MAX).replace(QString::number(INT_MAX), QString::number(errorCode));
+    const QString text = rawErrorText(static_cast<int>(errorCode));
+    return text == unknown ? QString() : text + QLatin1Char('\n');
+}
+
+unsigned long lastErrorCode()
+{
+    return currentError();
+}
+
+unsigned long errorCodeOf(DataFault fault)
+{
+    return fault == DataFault::BadExecutable ? ENOEXEC : ENODATA;
+}
+
+const SystemInformation& systemInformation()
+{
+    static const SystemInformation information = collectSystemInformation();
+    return information;
+}
+
+ProcessFacts processFacts(qint64 processId)
+{
+    ProcessFacts facts;
+    // 0 and negative numbers address groups of processes.
+    if (processId <= 0 || processId > INT_MAX)
+        return facts;
+    const QByteArray record = contentOf(QStringLiteral("/proc/%1/stat").arg(processId));
+    // The name in parentheses may itself hold blanks and parentheses; the fields after it may not.
+    const QList<QByteArray> fields = record.mid(record.lastIndexOf(')') + 2).split(' ');
+    constexpr int stateField = 0;
+    constexpr int startTimeField = 19;
+    if (fields.size() <= startTimeField) {
+        facts.alive = kill(static_cast<pid_t>(processId), 0) == 0 || errno == EPERM;
+        return facts;
+    }
+    facts.alive = fields[stateField] != "Z" && fields[stateField] != "X";
+    facts.executableName = executableNameOf(processId);
+    const QByteArray boot = contentOf(QStringLiteral("/proc/sys/kernel/random/boot_id")).trimmed();
+    facts.startTime = QString::fromLatin1(fields[startTimeField] + '@' + boot);
+    return facts;
+}
+
+bool isTerminal(StandardStream stream)
+{
+    switch (stream) {
+    case StandardStream::Input:
+        return isatty(STDIN_FILENO) == 1;
+    case StandardStream::Output:
+        return isatty(STDOUT_FILENO) == 1;
+    case StandardStream::Error:
+        return isatty(STDERR_FILENO) == 1;
+    }
+    return false;
+}
+
+void presetTimeZone()
+{
+    if (qEnvironmentVariableIsSet("TZ") || !QFile::exists(QStringLiteral("/etc/localtime")))
+        return;
+    qputenv("TZ", ":/etc/localtime");
+    tzset();
+}
+
+struct ExclusiveFile::Handle {
+    int descriptor = -1;
+};
+
+ExclusiveFile::ExclusiveFile() : m_handle(std::make_unique<Handle>()) { }
+
+ExclusiveFile::~ExclusiveFile()
+{
+    close();
+}
+
+bool ExclusiveFile::create(const QString& absolutePath)
+{
+    close();
+    const QByteArray path = QFile::encodeName(absolutePath);
+    m_handle->descriptor = open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    if (isOpen())
+        return succeed();
+    const unsigned long code = currentError();
+    if (code == EEXIST)
+        return fail(Failure::Exists, code);
+    if (code != EACCES && code != EPERM && code != EROFS)
+        return fail(Failure::Unexpected, code);
+    return fail(QFile::exists(absolutePath) ? Failure::Exists : Failure::NotPermitted, code);
+}
+
+bool ExclusiveFile::isOpen() const
+{
+    return m_handle->descriptor >= 0;
+}
+
+bool ExclusiveFile::write(const QByteArray& bytes)
+{
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const ssize_t count =
+            ::write(m_handle->descriptor, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return fail(Failure::Unexpected, currentError());
+        done += count;
+    }
+    return succeed();
+}
+
+bool ExclusiveFile::flush()
+{
+    if (fsync(m_handle->descriptor) == 0)
+        return succeed();
+    return fail(Failure::Unexpected, currentError());
+}
+
+bool ExclusiveFile::touch()
+{
+    if (futimens(m_handle->descriptor, nullptr) == 0)
+        return succeed();
+    return fail(Failure::Unexpected, currentError());
+}
+
+void ExclusiveFile::close()
+{
+    if (isOpen())
+        ::close(m_handle->descriptor);
+    m_handle->descriptor = -1;
+}
+
+MappedFile::MappedFile(const QString& path)
+{
+    // Without blocking: the name may be that of a pipe.
+    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0) {
+        fail(Failure::Open, currentError());
+        return;
+    }
+    struct stat status { };
+    fstat(descriptor, &status);
+    if (!S_ISREG(status.st_mode)) {
+        fail(Failure::Open, S_ISDIR(status.st_mode) ? EISDIR : ENODEV);
+    } else if (status.st_size == 0) {
+        fail(Failure::CreateMapping, EINVAL);
+    } else {
+        void* view =
+            mmap(nullptr, static_cast<size_t>(status.st_size), PROT_READ, MAP_PRIVATE, descriptor, 0);
+        if (view == MAP_FAILED) {
+            fail(Failure::MapView, currentError());
+        } else {
+            m_data = static_cast<const uchar*>(view);
+            m_size = status.st_size;
+        }
+    }
+    ::close(descriptor);
+}
+
+MappedFile::~MappedFile()
+{
+    if (m_data)
+        munmap(const_cast<uchar*>(m_data), static_cast<size_t>(m_size));
 }
 
 } // namespace nPlatform
