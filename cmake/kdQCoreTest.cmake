@@ -29,5 +29,6 @@ function(kdqcore_test source)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${folder};${TEST_LABELS}" TIMEOUT ${TEST_TIMEOUT}
+        FAIL_REGULAR_EXPRESSION "QWARN  :" # an unexpected warning of Qt is a failure
         ENVIRONMENT "LOCPATH=${kdqcore_locale_dir};LC_ALL=de_DE.UTF-8;TZ=Asia/Kathmandu;KDQ_TEST_DATA=${PROJECT_SOURCE_DIR}")
 endfunction()
