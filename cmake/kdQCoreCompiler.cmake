@@ -16,7 +16,13 @@ target_compile_definitions(kdqcore_flags INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
     QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS QT_DEPRECATED_WARNINGS
     $<$<CONFIG:Debug>:QT_DEBUG> $<$<NOT:$<CONFIG:Debug>>:QT_NO_DEBUG>)
-if(NOT MSVC)
+if(WIN32)
+    target_compile_definitions(kdqcore_flags INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN UNICODE _UNICODE)
+endif()
+if(MSVC)
+    target_compile_options(kdqcore_flags INTERFACE /utf-8 /W4 /permissive- /Zc:__cplusplus
+        $<$<BOOL:${KDQCORE_WERROR}>:/WX>)
+else()
     target_compile_options(kdqcore_flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
         -Wconversion -Wsign-conversion -Wformat=2 -Wnull-dereference -Wimplicit-fallthrough
