@@ -1,0 +1,431 @@
+#pragma once
+
+#include "kddatacolumn.h"
+
+#include <kdqcore_export.h>
+
+#include <QList>
+#include <QPair>
+#include <QPointF>
+#include <QSharedPointer>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <iterator>
+#include <memory>
+#include <utility>
+#include <vector>
+
+class kdUnitValue;
+class QIODevice;
+class QLocale;
+class QTextStream;
+class QXmlStreamReader;
+class QXmlStreamWriter;
+
+/// A table of measured or computed process data: a flow curve, a temperature over time, a press stroke.
+///
+/// Most tables are XY tables: two columns, X the independent and Y the dependent variable, each with its
+/// unit. Such a table is handled by points; a table with more columns by kdDataColumn.
+///
+/// \code
+/// kdDataTable curve(kdUnitSystem::Time, kdUnitSystem::Temperature); // in s and K
+/// curve.addPoint(0.0, 293.15);
+/// curve.addPoint(60.0, 1218.49);
+/// double kelvin = curve.getInterpolDoubleValue(1, 30.0, kdDataTable::HoldEndValues);
+/// curve.toUnit(1, 1); // to the second units of both dimensions: ms and degC
+/// \endcode
+///
+/// The table owns its columns and deletes them; a copy has columns of its own. All columns hold the same
+/// number of values: who changes a column through its pointer keeps to that. Operations on points do nothing
+/// and return false for a table that is not an XY table. Indices out of range are ignored and read as 0.
+///
+/// Several threads may call const members of one table at the same time; a change needs exclusive access.
+class KDQCORE_EXPORT kdDataTable {
+public:
+    /// What the table describes, as stored in files. Any other number is kept as it was read.
+    enum Type : int {
+        TypeUnspecified = 0,
+        TypeFlowCurve = 1,
+        TypeTemperatureOverTime = 2,
+        TypePressStroke = 3,
+        TypeMaterialProperty = 4
+    };
+
+    /// What a lookup returns outside the range of X.
+    enum e_InterpolationRuleOutsideInterval : int {
+        HoldEndValues = 0, ///< the Y value of the nearer end
+        ZeroOutside = 1    ///< 0; the ends themselves still belong to the range
+    };
+
+    using UvPoint = QPair<kdUnitValue, kdUnitValue>; ///< X and Y of a point with their units
+
+    /// Walks over the rows of an XY table as points, by value. Valid until the table's columns or number of
+    /// rows change.
+    class PointIterator {
+    public:
+        using iterator_category = std::random_access_iterator_tag;
+        using value_type = QPointF;
+        using difference_type = int;
+        using reference = QPointF;
+        class pointer { // keeps the point that operator-> shows alive
+        public:
+            explicit pointer(const QPointF& point) : m_point(point) { }
+            const QPointF* operator->() const { return &m_point; }
+
+        private:
+            QPointF m_point;
+        };
+
+        PointIterator() = default;
+        PointIterator(const kdDataColumn* x, const kdDataColumn* y, int row) : m_x(x), m_y(y), m_row(row) { }
+
+        QPointF operator*() const { return at(m_row); }
+        pointer operator->() const { return pointer(at(m_row)); }
+        QPointF operator[](int offset) const { return at(m_row + offset); }
+        PointIterator& operator++() { return *this += 1; }
+        PointIterator& operator--() { return *this -= 1; }
+        PointIterator operator++(int) { return std::exchange(*this, *this + 1); }
+        PointIterator operator--(int) { return std::exchange(*this, *this - 1); }
+        PointIterator& operator+=(int rows)
+        {
+            m_row += rows;
+            return *this;
+        }
+        PointIterator& operator-=(int rows) { return *this += -rows; }
+        PointIterator operator+(int rows) const { return PointIterator(m_x, m_y, m_row + rows); }
+        PointIterator operator-(int rows) const { return PointIterator(m_x, m_y, m_row - rows); }
+        int operator-(const PointIterator& other) const { return m_row - other.m_row; }
+        bool operator==(const PointIterator& other) const { return m_x == other.m_x && m_row == other.m_row; }
+        bool operator!=(const PointIterator& other) const { return !(*this == other); }
+        bool operator<(const PointIterator& other) const { return m_row < other.m_row; }
+        bool operator>(const PointIterator& other) const { return other < *this; }
+        bool operator<=(const PointIterator& other) const { return !(other < *this); }
+        bool operator>=(const PointIterator& other) const { return !(*this < other); }
+
+    private:
+        QPointF at(int row) const { return m_x ? QPointF(m_x->value(row), m_y->value(row)) : QPointF(); }
+
+        const kdDataColumn* m_x = nullptr;
+        const kdDataColumn* m_y = nullptr;
+        int m_row = 0;
+    };
+
+    // --- Construction and comparison ---
+
+    /// A table without columns.
+    explicit kdDataTable(bool editable = true);
+    /// An XY table without points, in the SI units of the dimensions.
+    kdDataTable(kdUnitSystem::Dimension x, kdUnitSystem::Dimension y);
+    kdDataTable(const kdDataTable& other);
+    kdDataTable(kdDataTable&& other) noexcept;
+    kdDataTable& operator=(const kdDataTable& other);
+    kdDataTable& operator=(kdDataTable&& other) noexcept;
+    ~kdDataTable();
+
+    /// Make \a copy a copy of this table. The first form of the pointer is replaced by a new table.
+    void getCopy(kdDataTable& copy) const;
+    void getCopy(QSharedPointer<kdDataTable>& copy) const;
+    /// Copies the attributes and two of the columns, which become columns 0 and 1. False, and \a copy
+    /// unchanged, for an index out of range.
+    bool getCopy(kdDataTable& copy, int xIndex, int yIndex) const;
+
+    /// Compares name, comment, editable flag, default columns, id tag and columns, not type and colour id.
+    bool operator==(const kdDataTable& other) const;
+    bool operator!=(const kdDataTable& other) const { return !(*this == other); }
+    /// Compares the columns only.
+    bool equalsContent(const kdDataTable& other) const;
+
+    // --- Attributes ---
+
+    QString name() const { return m_name; }
+    void setName(const QString& name) { m_name = name; }
+    QString comment() const { return m_comment; }
+    void setComment(const QString& comment) { m_comment = comment; }
+    /// Identifies the table across files; empty for most tables.
+    QString idTag() const { return m_idTag; }
+    void setIdTag(const QString& idTag) { m_idTag = idTag; }
+    bool hasIdTag() const { return !m_idTag.isEmpty(); }
+    Type type() const { return m_type; }
+    void setType(Type type) { m_type = type; }
+    bool isEditable() const { return m_editable; }
+    void setEditable(bool editable) { m_editable = editable; }
+    /// The columns that a diagram shows first, 0 and 1 at first. The setters ignore an index out of range.
+    int defaultXColumnIndex() const { return m_defaultXColumnIndex; }
+    void setDefaultXColumnIndex(int index);
+    int defaultYColumnIndex() const { return m_defaultYColumnIndex; }
+    void setDefaultYColumnIndex(int index);
+    /// Number of the curve's colour in the application's palette; -1 where it has none of its own.
+    int colorId() const { return m_colorId; }
+    void setColorId(int colorId) { m_colorId = colorId; }
+    bool hasPreferedColor() const { return m_colorId != -1; }
+
+    // --- Columns ---
+
+    int columns() const { return static_cast<int>(m_columns.size()); }
+    /// Number of values of column 0.
+    int rows() const;
+    int size() const { return rows(); }
+    bool isEmpty() const { return rows() == 0; }
+
+    /// Null for an index out of range. The table keeps the column.
+    const kdDataColumn* column(int index) const;
+    kdDataColumn* column(int index);
+    /// As column(), for an index that is known to exist; any other is logged and answered by an empty column
+    /// that belongs to no table.
+    const kdDataColumn& columnRef(int index) const;
+    kdDataColumn& columnRef(int index);
+    /// The first column that matches, or null.
+    const kdDataColumn* columnForID(int id) const;
+    kdDataColumn* columnForID(int id);
+    const kdDataColumn* getDataColumnByName(const QString& name) const;
+    kdDataColumn* getDataColumnByName(const QString& name);
+    const kdDataColumn* getDataColumnByTitle(const QString& title) const;
+    kdDataColumn* getDataColumnByTitle(const QString& title);
+    /// -1 where no column has the name.
+    int getDataColumnIndexByName(const QString& name) const;
+
+    /// Appends a copy. A column whose length differs from that of column 0, when that is not empty, is
+    /// refused: the log tells, and the call returns false.
+    bool appendColumn(const kdDataColumn& column);
+    /// As appendColumn(), but takes the column itself. The table owns it only if the call returns true; a
+    /// refused column (wrong length, null, already in the table) stays the caller's to delete.
+    bool append(kdDataColumn* column);
+    /// Appends copies of all columns of the other table, or none where one of them does not fit.
+    bool append(const kdDataTable& table);
+    /// Appends the points of another XY table, converted to the units of this one. False, and nothing
+    /// changed, where a unit cannot be converted.
+    bool appendXYValue(const kdDataTable& table);
+
+    /// Delete a column; false where there is none such.
+    bool removeAt(int index);
+    bool remove(kdDataColumn* column);
+    /// Puts another column in a place and deletes the old one. Refused like append() where the table has
+    /// other columns with values and the lengths differ; a refused column stays the caller's.
+    bool replaceDataColumnAt(int index, kdDataColumn* column);
+    bool replaceColumn(int index, const kdDataColumn& column);
+    bool replaceColumn(kdDataColumn* oldColumn, kdDataColumn* newColumn);
+    /// Makes the table as new: no columns, no name, default attributes.
+    void clear();
+    /// Deletes all columns.
+    void clearColumns();
+    /// Removes the values of an XY table and keeps its columns.
+    void clearXYColumnValues();
+
+    void setXName(const QString& name);
+    void setYName(const QString& name);
+    void setColumColor(int index, int red, int green, int blue);
+
+    // --- Points of an XY table ---
+
+    /// Two columns of which the first may serve as X and the second as Y.
+    bool isXYDataTable() const;
+
+    PointIterator begin() const;
+    /// Equals begin() for a table that is not an XY table.
+    PointIterator end() const;
+    QVector<QPointF> points() const;
+    /// (0, 0) for an index out of range.
+    QPointF pointAt(int index) const;
+    bool setPointAt(int index, const QPointF& point);
+    bool setPointAt(int index, double x, double y) { return setPointAt(index, QPointF(x, y)); }
+    bool addPoint(const QPointF& point);
+    bool addPoint(double x, double y) { return addPoint(QPointF(x, y)); }
+    /// Inserts before \a index; an index equal to rows() appends.
+    bool insertPoint(int index, const QPointF& point);
+    bool insertPoint(int index, double x, double y) { return insertPoint(index, QPointF(x, y)); }
+    bool removePointAt(int index);
+    bool setPoints(const QVector<QPointF>& points);
+
+    /// The point with the units of its columns; two empty values for an index out of range.
+    UvPoint uvPointAt(int index) const;
+    /// The values are converted to the units of the columns; false, and nothing changed, where that cannot
+    /// be.
+    bool setUvPointAt(int index, const UvPoint& point);
+    bool setUvPointAt(int index, const kdUnitValue& x, const kdUnitValue& y);
+    bool addUvPoint(const UvPoint& point);
+    bool addUvPoint(const kdUnitValue& x, const kdUnitValue& y);
+
+    /// The points and the indices of their units; with \a inViewUnits converted to the view units.
+    bool getXYData(QVector<QPointF>& points, int& unitX, int& unitY, bool inViewUnits = false) const;
+    /// The values of both axes, in the units of the columns.
+    bool getXYAxisData(QVector<double>& x, QVector<double>& y) const;
+    bool getXYAxisData(QList<double>& x, QList<double>& y) const;
+    /// Makes the table an XY table of these columns, which it then owns; they may be its own (which swaps the
+    /// axes). False, and ownership stays with the caller, where one is null, both are one or their lengths
+    /// differ.
+    bool setXYData(kdDataColumn* x, kdDataColumn* y);
+    /// Sets the points and the indices of the units that they are in. A table without columns gets two.
+    bool setXYData(const QVector<QPointF>& points, int unitX, int unitY);
+
+    // --- Units ---
+
+    /// Convert all columns; a column that has no unit, or none of that index, stays as it is. The axes alone
+    /// return whether they were converted.
+    void toViewUnit();
+    void toSIUnit();
+    void toUnit(int unitX, int unitY);
+    bool xToViewUnit();
+    bool yToViewUnit();
+    bool xToUnit(int unit);
+    bool xToUnit(const kdUnitSystem& unit);
+    bool yToUnit(int unit);
+    bool yToUnit(const kdUnitSystem& unit);
+    /// Every column but the first; false where one of them could not be converted.
+    bool allYToUnit(int unit);
+    bool allYToUnit(const kdUnitSystem& unit);
+
+    /// Index of the unit of column 0 or 1; false, and -1, where there is no such column.
+    bool unitX(int& unit) const;
+    bool unitY(int& unit) const;
+    /// Set the unit without touching the values.
+    void setUnitX(int unit);
+    void setUnitX(const kdUnitSystem& unit);
+    void setUnitY(int unit);
+    void setUnitY(const kdUnitSystem& unit);
+    kdUnitSystem xUnitSystem() const;
+    kdUnitSystem yUnitSystem() const;
+    /// Whether no column has a dimension.
+    bool allColumnsUnitSystemNone() const;
+
+    // A dimension alone is no unit; without these it would be taken for the index of one.
+    bool xToUnit(kdUnitSystem::Dimension) = delete;
+    bool yToUnit(kdUnitSystem::Dimension) = delete;
+    bool allYToUnit(kdUnitSystem::Dimension) = delete;
+    void setUnitX(kdUnitSystem::Dimension) = delete;
+    void setUnitY(kdUnitSystem::Dimension) = delete;
+
+    // --- Values ---
+
+    /// Extremes of columns 0 and 1 with their units; an empty value without such a column.
+    kdUnitValue maxXValue() const;
+    kdUnitValue minXValue() const;
+    kdUnitValue maxYValue() const;
+    kdUnitValue minYValue() const;
+    /// First row of the extreme of column 1; -1 where there is none.
+    int indexOfYMax() const;
+    int indexOfYMin() const;
+    /// Arithmetic mean of a column without its NaN, 0 where nothing is left.
+    double columnAverage(int index) const;
+
+    /// Y at \a x on the straight line between the neighbouring nodes, in the units of the columns.
+    ///
+    /// Takes logarithmic time where X rises or falls, and gives what a search from the first node on would
+    /// give: nodes nearer than 1e-20 to \a x answer with their own Y, the first such node wins. Where X
+    /// neither rises nor falls, the line through the first two nodes answers. 0 for empty columns and for
+    /// columns of different lengths; a single node answers for every x.
+    static double getInterpolDoubleValue(const kdDataColumn& xColumn, const kdDataColumn& yColumn, double x,
+                                         e_InterpolationRuleOutsideInterval rule = HoldEndValues);
+    static double getInterpolDoubleValue(const kdDataColumn* xColumn, const kdDataColumn* yColumn, double x,
+                                         e_InterpolationRuleOutsideInterval rule = HoldEndValues);
+    /// With column 0 as X; 0 for an index out of range.
+    double getInterpolDoubleValue(int yColumn, double x,
+                                  e_InterpolationRuleOutsideInterval rule = HoldEndValues) const;
+    /// The mean of y1 and y2 where x1 and x2 are nearer than 1e-20.
+    static double linearInterpolation(double x, double x1, double y1, double x2, double y2);
+
+    // --- Sorting and scaling ---
+
+    /// Whether the table can be sorted: an XY table with points.
+    bool canSortXYData() const;
+    /// Sort the points; equal ones keep their order, NaN go last. Nothing happens where canSortXYData() is
+    /// false.
+    void sortForXValues(bool descending = false);
+    void sortForYValues(bool descending = false);
+    void scaleXData(double factor);
+    /// Scales every column but the first.
+    void scaleYData(double factor);
+
+    // --- Combining curves ---
+    //
+    // These take another curve in any units that convert to those of this table; columns without a unit are
+    // taken as they are. The result runs in the direction of this table, in its units and with its
+    // attributes. Rows whose X is NaN are left out. All return false, and change nothing, where they cannot
+    // be done.
+
+    /// X rises, falls or is constant, and no two neighbouring rows have the same X with different Y.
+    bool canSumOrSubtract() const;
+    /// Adds the Y of the other curve, at the X values of both together; a curve that ends earlier goes on
+    /// with its end value. Both must pass canSumOrSubtract(). A table with several Y columns takes one Y
+    /// column for all of its own, or as many as it has itself.
+    bool sumXY(const kdDataTable& table);
+    /// As sumXY(), but subtracts.
+    bool subtractXY(const kdDataTable& table);
+    /// The mean of both curves, at the X values of both together, over the range that both cover. Same
+    /// conditions as sumXY(); false where the ranges do not meet. \a result may be either of the two.
+    bool average(const kdDataTable& other, kdDataTable& result) const;
+    /// The part of this curve within the range of X of the other, with interpolated points at the cuts. False
+    /// where X neither rises nor falls or the ranges do not meet. \a result may be either of the two.
+    bool getCutByOtherTable(const kdDataTable& other, kdDataTable& result) const;
+    /// Replaces X by the given values, in their order, and every Y by its lookup there, with the end values
+    /// outside; NaN among them is left out. False where X neither rises nor falls or nothing is given.
+    bool applySamplingPoints(const kdDataColumn& samplingPoints);
+
+    // --- Editing curves ---
+
+    /// Removes the rows whose Y is zero in the given unit, up to the rounding of a conversion (with degC,
+    /// those at 273.15 K), and returns how many.
+    int removePointsWithYValueZero(const kdUnitSystem& unitSystem);
+    /// Maps Y linearly so that it runs from \a minimum to \a maximum, both in the given unit. False, and
+    /// nothing changed, where Y is constant, the limits are not in order or the unit does not fit.
+    bool adjustYValuesToNewMinMax(const kdUnitSystem& unitSystem, double minimum, double maximum);
+    /// Keeps the rows from \a first to \a last, both included. False, and nothing changed, for a range that
+    /// does not lie within the table.
+    bool cropDataTable(int first, int last);
+    /// Of the leading rows with equal X (with \a useY: equal Y) only the last stays. Returns how many went.
+    int removeMultipleXValuesAtBeginning(bool useY = false);
+    /// First and last row of the first stretch in which Y rises, as cropDataTable() takes them: the forward
+    /// stroke of a press. Rests within the stretch belong to it, rests before and after it do not; a NaN ends
+    /// it. False, and both -1, where Y never rises.
+    bool getForthStrokeSection(int& first, int& last) const;
+    /// Sorts by X, then moves the curve so that it begins at 0. False where there is no X or one is negative.
+    bool moveAllXToZero();
+    /// Sorts by X; whether the first X is 0.0.
+    bool allXGreaterZeroExceptFirst();
+    /// Sorts by X; whether no X is negative.
+    bool allXPositive();
+    /// Whether all Y of all Y columns are greater than 0; a NaN is not.
+    bool allYGreaterZero() const;
+
+    // --- Files and streams ---
+
+    static QString xmlStartElement();
+    static QString tagNameForJES();
+    QString toXml() const;
+    static kdDataTable fromXml(const QString& xml, bool* ok = nullptr);
+    bool readXML(QXmlStreamReader& reader, const QString& startElement = xmlStartElement());
+    bool writeXML(QIODevice& device) const;
+    bool writeXML(QXmlStreamWriter& writer) const;
+    bool readXMLForJES(QXmlStreamReader& reader);
+    bool writeXMLForJES(QXmlStreamWriter& writer) const;
+    static void importValuesFromTextStream(QTextStream& stream, QList<QStringList>* values);
+    bool exportValuesToTextStream(QTextStream& stream, const QString& separator = QStringLiteral(";"),
+                                  bool withHeader = true, const QLocale* locale = nullptr) const;
+
+    /// Bytes held by the table, its columns included.
+    qint64 memoryFootprint() const;
+
+private:
+    using ColumnPointer = std::unique_ptr<kdDataColumn>;
+
+    bool fits(const kdDataColumn* column, int replacedIndex) const;
+    int indexOf(const kdDataColumn* column) const;
+    void copyAttributes(const kdDataTable& other);
+    void sortPoints(bool byX, bool descending);
+    void removeRows(const QVector<bool>& removed);
+    bool combineYColumns(const kdDataTable& other, double (*operation)(double, double));
+
+    std::vector<ColumnPointer> m_columns;
+    QString m_name;
+    QString m_comment;
+    QString m_idTag;
+    Type m_type = TypeUnspecified;
+    bool m_editable = true;
+    int m_defaultXColumnIndex = 0;
+    int m_defaultYColumnIndex = 1;
+    int m_colorId = -1;
+};
+
+/// Agrees with operator==.
+KDQCORE_EXPORT uint qHash(const kdDataTable& table, uint seed = 0);
