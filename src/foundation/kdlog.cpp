@@ -1,73 +1,157 @@
 #include "kdlog.h"
 
-#include <QList>
-#include <QMutex>
+#include "kdlogbackend_p.h"
 
 #include <algorithm>
-#include <glog/logging.h>
+#include <atomic>
+#include <cstring>
+#include <mutex>
+#include <vector>
 
 namespace kdLog {
 
 namespace {
 
 struct Sinks {
-    QMutex mutex;
-    QList<Sink*> list;
+    std::recursive_mutex mutex;
+    std::vector<Sink*> list; ///< null: left during the delivery that is running
+    bool delivering = false;
 };
 
 Sinks& sinks()
 {
-    static Sinks instance;
-    return instance;
+    // Never destroyed: destructors of other static objects may still log.
+    static Sinks* const instance = new Sinks;
+    return *instance;
 }
 
-QString baseName(const char* file)
+std::atomic<int> sinkCount{0};
+std::atomic<int> minimum{Trace};
+
+constexpr int tagCount = 14;
+constexpr const char* tagTexts[tagCount] = {
+    "General          ", "Remote           ", "License          ", "Paths            ", "FailedAssert     ",
+    "BatchMode        ", "Setup            ", "Command          ", "Settings         ", "WriteDat         ",
+    "Socket           ", "ModelCheck       ", "Material         ", "InterProcessCom  ",
+};
+
+/// Base name of a source path in lower case, in a buffer of its own.
+class BaseName {
+public:
+    explicit BaseName(const char* path)
+    {
+        const char* begin = path ? path : "";
+        for (const char* c = begin; *c; ++c)
+            if (*c == '/' || *c == '\\')
+                begin = c + 1;
+        char* out = m_text;
+        for (; *begin && out < m_text + sizeof m_text - 1; ++begin)
+            *out++ = *begin >= 'A' && *begin <= 'Z' ? char(*begin + ('a' - 'A')) : *begin;
+        *out = '\0';
+    }
+
+    const char* text() const { return m_text; }
+
+private:
+    char m_text[128];
+};
+
+bool isControl(char c)
 {
-    const QString path = QString::fromLocal8Bit(file);
-    const int slash = std::max(path.lastIndexOf(QLatin1Char('/')), path.lastIndexOf(QLatin1Char('\\')));
-    return path.mid(slash + 1).toLower();
+    return static_cast<unsigned char>(c) < 0x20 && c != '\t';
 }
 
-int backEndLevel(Severity severity)
+/// A text that comes from outside must not be able to forge a line or to command a terminal.
+QByteArray harmless(const QString& text)
 {
-    if (severity >= Error)
-        return google::GLOG_ERROR;
-    return severity >= Notice ? google::GLOG_WARNING : google::GLOG_INFO;
+    QByteArray bytes = text.toLocal8Bit();
+    if (std::none_of(bytes.cbegin(), bytes.cend(), isControl))
+        return bytes;
+    bytes.replace("\r\n", "\n");
+    std::replace_if(
+        bytes.begin(), bytes.end(), [](char c) { return isControl(c) && c != '\n'; }, ' ');
+    return bytes.replace("\n", "\n    ");
+}
+
+void deliver(const Record& record)
+{
+    Sinks& s = sinks();
+    const std::lock_guard<std::recursive_mutex> lock(s.mutex);
+    if (s.delivering) // a sink that logs itself
+        return;
+    s.delivering = true;
+    const std::size_t count = s.list.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!s.list[i])
+            continue;
+        try {
+            s.list[i]->received(record);
+        } catch (...) {
+            // The caller only wanted to log: the next sink is served, the fault stays the sink's own.
+            continue;
+        }
+    }
+    s.list.erase(std::remove(s.list.begin(), s.list.end(), nullptr), s.list.end());
+    s.delivering = false;
 }
 
 } // namespace
 
 const char* tagText(Tag tag)
 {
-    static const char* const texts[] = {
-        "General          ", "Remote           ", "License          ", "Paths            ",
-        "FailedAssert     ", "BatchMode        ", "Setup            ", "Command          ",
-        "Settings         ", "WriteDat         ", "Socket           ", "ModelCheck       ",
-        "Material         ", "InterProcessCom  ",
-    };
-    return texts[tag];
+    return tagTexts[tag >= 0 && tag < tagCount ? tag : General];
+}
+
+bool isWanted(Severity severity)
+{
+    return severity >= minimum.load(std::memory_order_relaxed)
+        || sinkCount.load(std::memory_order_relaxed) > 0;
+}
+
+Severity minimumSeverity()
+{
+    return Severity(minimum.load(std::memory_order_relaxed));
+}
+
+void setMinimumSeverity(Severity severity)
+{
+    minimum.store(severity, std::memory_order_relaxed);
 }
 
 void write(Severity severity, Tag tag, const char* file, int line, const QString& text)
 {
-    const QString name = baseName(file);
-    google::LogMessage(name.toLocal8Bit().constData(), line, backEndLevel(severity)).stream()
-        << tagText(tag) << text.toLocal8Bit().constData();
-    QMutexLocker lock(&sinks().mutex);
-    for (Sink* sink : qAsConst(sinks().list))
-        sink->received({severity, tag, name, line, text});
+    const BaseName name(file);
+    severity = std::clamp(severity, Trace, Critical);
+    if (severity >= minimumSeverity())
+        nLogBackEnd::write(severity, tagText(tag), name.text(), line, harmless(text));
+    if (sinkCount.load() > 0)
+        deliver({severity, tag, QString::fromLocal8Bit(name.text()), line, text});
 }
 
 Sink::Sink()
 {
-    QMutexLocker lock(&sinks().mutex);
-    sinks().list.append(this);
+    const std::lock_guard<std::recursive_mutex> lock(sinks().mutex);
+    sinks().list.push_back(this);
+    ++sinkCount;
 }
 
 Sink::~Sink()
 {
-    QMutexLocker lock(&sinks().mutex);
-    sinks().list.removeAll(this);
+    detach();
+}
+
+void Sink::detach()
+{
+    Sinks& s = sinks();
+    const std::lock_guard<std::recursive_mutex> lock(s.mutex);
+    const auto found = std::find(s.list.begin(), s.list.end(), this);
+    if (found == s.list.end())
+        return;
+    --sinkCount;
+    if (s.delivering)
+        *found = nullptr;
+    else
+        s.list.erase(found);
 }
 
 } // namespace kdLog

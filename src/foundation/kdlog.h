@@ -8,12 +8,16 @@
 ///
 /// Library and applications write log lines through KD_LOG, never through the back end's own macros: it knows
 /// only four levels and would end the process at its highest. A line works at any time: before
-/// kdDebugLog::createInstance it goes to the back end's defaults, after kdDebugLog::removeInstance to
-/// standard error, and it never ends the process.
+/// kdDebugLog::createInstance and after kdDebugLog::removeInstance it goes to standard error. No line ends
+/// the process.
 ///
 /// \code
 /// KD_LOG(kdLog::Error, kdLog::Paths, QStringLiteral("Folder '%1' is missing.").arg(path));
 /// \endcode
+///
+/// The text is written in local 8-bit encoding. Whoever reads the file finds a severity digit at the start of
+/// each line and nowhere else: further lines of a text are indented by four blanks, other control characters
+/// become blanks. Texts of more than 29 000 bytes are cut.
 ///
 /// Thread-safe.
 namespace kdLog {
@@ -50,6 +54,13 @@ enum Tag {
 /// The tag's text, padded with blanks to 17 characters.
 KDQCORE_EXPORT const char* tagText(Tag tag);
 
+/// Lines of a lower severity do not reach the file; sinks see every line. Trace at the start.
+KDQCORE_EXPORT void setMinimumSeverity(Severity severity);
+KDQCORE_EXPORT Severity minimumSeverity();
+
+/// Whether anyone takes a line of this severity. KD_LOG asks it before the text is built.
+KDQCORE_EXPORT bool isWanted(Severity severity);
+
 /// Writes one line. \a file is a source path; the log shows its base name in lower case.
 KDQCORE_EXPORT void write(Severity severity, Tag tag, const char* file, int line, const QString& text);
 
@@ -62,8 +73,10 @@ struct Record {
     QString text; ///< without the tag
 };
 
-/// Sees every line while it lives, in the thread that writes the line and before the call returns; a sink
-/// must not log itself. For tests and for applications that show the log.
+/// Sees every line while it lives, in the thread that writes the line and before the call returns. One line
+/// is delivered at a time, so received() needs no lock of its own; it must not wait for another thread that
+/// logs. A line that it logs itself reaches the file, but no sink. For tests and for applications that show
+/// the log.
 class KDQCORE_EXPORT Sink {
 public:
     Sink();
@@ -71,11 +84,18 @@ public:
     Q_DISABLE_COPY(Sink)
 
     virtual void received(const Record& record) = 0;
+
+protected:
+    /// Waits for a delivery in another thread and takes no further line. Where other threads log, the derived
+    /// class calls it first thing in its destructor: the base's comes too late for the members.
+    void detach();
 };
 
 } // namespace kdLog
 
-#define KD_LOG(severity, tag, text) kdLog::write(severity, tag, __FILE__, __LINE__, text)
+/// Writes one line; \a text is evaluated only if someone takes it.
+#define KD_LOG(severity, tag, text) \
+    (kdLog::isWanted(severity) ? kdLog::write(severity, tag, __FILE__, __LINE__, text) : void())
 
 /// Logs a violated assumption of the caller (severity 4, tag FailedAssert); the code after it takes a safe
 /// way on.
