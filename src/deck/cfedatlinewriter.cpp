@@ -1,0 +1,526 @@
+#include "cfedatlinewriter.h"
+
+#include "cfeabstractdatcard.h"
+#include "dattext_p.h"
+
+#include <kdQCore/kdLog>
+
+#include <QFileDevice>
+#include <QTextCodec>
+#include <QTextStream>
+
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+constexpr int longestFieldText = 127;
+constexpr int widestField = 126;
+constexpr int longestJoinedText = 1023;
+constexpr int longestCommentPiece = 158;
+
+// A caller's stream may pad what is put into it; a deck's fields are laid out already.
+class PlainOutput {
+public:
+    explicit PlainOutput(QTextStream& stream) : m_stream(stream), m_fieldWidth(stream.fieldWidth())
+    {
+        if (m_fieldWidth != 0)
+            m_stream.setFieldWidth(0);
+    }
+    ~PlainOutput()
+    {
+        if (m_fieldWidth != 0)
+            m_stream.setFieldWidth(m_fieldWidth);
+    }
+    Q_DISABLE_COPY(PlainOutput)
+
+private:
+    QTextStream& m_stream;
+    int m_fieldWidth;
+};
+
+const QTextCodec* codecOf(const QTextStream& stream)
+{
+    return stream.codec() ? stream.codec() : QTextCodec::codecForLocale();
+}
+
+bool flushDevice(QIODevice* device)
+{
+    auto* file = qobject_cast<QFileDevice*>(device);
+    return !file || (file->flush() && file->error() == QFileDevice::NoError);
+}
+
+} // namespace
+
+cFeAbstractDatCard::~cFeAbstractDatCard() = default;
+
+CFEDatLineWriter::CFEDatLineWriter(datExtensionMode mode, datFormat format)
+    : m_format(format), m_extensionMode(mode)
+{
+}
+
+CFEDatLineWriter::CFEDatLineWriter() : CFEDatLineWriter(extended, free) { }
+
+CFEDatLineWriter::~CFEDatLineWriter() = default;
+
+void CFEDatLineWriter::setFileHandler(std::FILE* file)
+{
+    m_ownStream.reset();
+    m_file = file;
+    if (file)
+        m_ownStream = std::make_unique<QTextStream>(file, QIODevice::WriteOnly);
+    m_stream = m_ownStream.get();
+}
+
+void CFEDatLineWriter::setFileHandler(std::nullptr_t)
+{
+    setFileHandler(static_cast<std::FILE*>(nullptr));
+}
+
+void CFEDatLineWriter::setFileHandler(QTextStream* stream)
+{
+    if (m_ownStream)
+        m_ownStream->flush();
+    m_stream = stream;
+}
+
+void CFEDatLineWriter::pushFormat(datFormat format)
+{
+    m_formatStack.append(m_format);
+    m_format = format;
+}
+
+CFEDatLineWriter::datFormat CFEDatLineWriter::popFormat()
+{
+    if (m_formatStack.isEmpty())
+        KD_LOG_FAILED_ASSERT(QStringLiteral("No deck format was saved that could be restored."));
+    else
+        m_format = m_formatStack.takeLast();
+    return m_format;
+}
+
+bool CFEDatLineWriter::flush()
+{
+    if (!m_stream)
+        return !m_isInWriteMode;
+    m_stream->flush();
+    bool ok = flushDevice(m_stream->device());
+    if (m_ownStream && m_stream == m_ownStream.get())
+        ok = std::fflush(m_file) == 0 && std::ferror(m_file) == 0 && ok;
+    return ok && m_stream->status() == QTextStream::Ok;
+}
+
+bool CFEDatLineWriter::writeCard(const cFeAbstractDatCard& card)
+{
+    return card.write(*this);
+}
+
+void CFEDatLineWriter::cropDoubleValue(double& value)
+{
+    const double magnitude = std::fabs(value);
+    if (magnitude < MIN_COORD_VALUE()) {
+        value = 0.0;
+    } else if (magnitude >= MAX_COORD_VALUE() && std::isfinite(value)) {
+        const int excess = static_cast<int>(std::log10(magnitude) + 1.0) - MAX_DATFILE_EXP();
+        if (excess >= 1)
+            value /= std::pow(10.0, excess);
+    }
+}
+
+QString CFEDatLineWriter::singleLine(const QString& text)
+{
+    QString result = text;
+    result.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    for (QChar& c : result)
+        if (c == QLatin1Char('\n') || c == QLatin1Char('\r') || c.isNull())
+            c = QLatin1Char(' ');
+    return result;
+}
+
+bool CFEDatLineWriter::isStreamGood() const
+{
+    return m_stream && m_stream->status() == QTextStream::Ok && (m_stream->device() || m_stream->string());
+}
+
+bool CFEDatLineWriter::canBypassStream() const
+{
+    return m_stream->device() && !m_stream->generateByteOrderMark()
+        && nDatText::keepsAscii(*codecOf(*m_stream));
+}
+
+bool CFEDatLineWriter::put(const char* latin1, std::ptrdiff_t length)
+{
+    if (!m_isInWriteMode || length == 0)
+        return true;
+    if (!isStreamGood())
+        return false;
+    const PlainOutput plain(*m_stream);
+    *m_stream << QLatin1String(latin1, static_cast<int>(length));
+    return m_stream->status() == QTextStream::Ok;
+}
+
+bool CFEDatLineWriter::putText(const QByteArray& local)
+{
+    if (nDatText::isAscii(local))
+        return put(local.constData(), local.size());
+    if (!m_isInWriteMode)
+        return true;
+    if (!isStreamGood())
+        return false;
+    const QString text = QString::fromLocal8Bit(local.constData(), local.size());
+    const bool isLocalText = text.toLocal8Bit() == local;
+    if (!isLocalText && canBypassStream() && codecOf(*m_stream) == QTextCodec::codecForLocale())
+        return writeThrough(local.constData(), local.size());
+    const PlainOutput plain(*m_stream);
+    *m_stream << text;
+    return m_stream->status() == QTextStream::Ok;
+}
+
+bool CFEDatLineWriter::writeThrough(const char* bytes, std::ptrdiff_t length)
+{
+    m_stream->flush();
+    if (m_stream->status() != QTextStream::Ok)
+        return false;
+    QIODevice* const device = m_stream->device();
+    if (device->write(bytes, length) != length || !flushDevice(device))
+        m_stream->setStatus(QTextStream::WriteFailed);
+    return m_stream->status() == QTextStream::Ok;
+}
+
+bool CFEDatLineWriter::writeIntFixedField(int value)
+{
+    char text[doubleBufferSize];
+    return put(text, formatItem(value, true, text) - text);
+}
+
+bool CFEDatLineWriter::writeIntFreeField(int value)
+{
+    char text[doubleBufferSize];
+    return put(text, formatItem(value, false, text) - text);
+}
+
+bool CFEDatLineWriter::writeInt(int value)
+{
+    return isFixed() ? writeIntFixedField(value) : writeIntFreeField(value);
+}
+
+bool CFEDatLineWriter::writeIntNTimes(int value, int count)
+{
+    for (int i = 0; i < count; ++i)
+        if (!writeInt(value))
+            return false;
+    return true;
+}
+
+bool CFEDatLineWriter::writeDoubleFixedField(double value, bool leadingBlank)
+{
+    char text[doubleBufferSize];
+    return put(text, formatDouble(value, leadingBlank, text));
+}
+
+bool CFEDatLineWriter::writeDoubleFreeField(double value)
+{
+    char text[2 * doubleBufferSize];
+    return put(text, formatItem(value, false, text) - text);
+}
+
+bool CFEDatLineWriter::writeDouble(double value, bool leadingBlank)
+{
+    return isFixed() ? writeDoubleFixedField(value, leadingBlank) : writeDoubleFreeField(value);
+}
+
+bool CFEDatLineWriter::writeDoubleValue(double value)
+{
+    return writeDouble(value, false);
+}
+
+bool CFEDatLineWriter::writeDoubleNTimes(double value, int count)
+{
+    for (int i = 0; i < count; ++i)
+        if (!writeDoubleValue(value))
+            return false;
+    return true;
+}
+
+bool CFEDatLineWriter::writeStringFixedField(const QByteArray& text, int width)
+{
+    if (width > widestField || (width > 0 && text.size() > width))
+        return false;
+    return putText(text.rightJustified(width));
+}
+
+bool CFEDatLineWriter::writeStringFreeField(const QByteArray& text)
+{
+    return putText(text + ',');
+}
+
+bool CFEDatLineWriter::writeField(const QByteArray& text, int width)
+{
+    const QByteArray field = nDatText::singleLine(text);
+    if (field.size() > longestFieldText)
+        return false;
+    return isFixed() ? writeStringFixedField(field, width) : writeStringFreeField(field);
+}
+
+bool CFEDatLineWriter::writeString(const char* text, int width)
+{
+    return writeField(nDatText::toBytes(text), width);
+}
+
+bool CFEDatLineWriter::writeString(const std::string& text, int width)
+{
+    return writeField(nDatText::toBytes(text), width);
+}
+
+bool CFEDatLineWriter::writeString(const QString& text, int width)
+{
+    return writeField(nDatText::toBytes(text), width);
+}
+
+bool CFEDatLineWriter::writeKey(const QByteArray& key)
+{
+    const QByteArray field = nDatText::singleLine(key);
+    if (field.size() > longestFieldText)
+        return false;
+    return isFixed() ? putText(field.leftJustified(getMaxWidthForDouble())) : writeStringFreeField(field);
+}
+
+bool CFEDatLineWriter::writeParameterSectionKey(const QString& key)
+{
+    return writeKey(nDatText::toBytes(key));
+}
+
+bool CFEDatLineWriter::writeParameterSectionKey(const char* key)
+{
+    return writeKey(nDatText::toBytes(key));
+}
+
+bool CFEDatLineWriter::writeParameterSectionKey(const std::string& key)
+{
+    return writeKey(nDatText::toBytes(key));
+}
+
+bool CFEDatLineWriter::writeLineBreak()
+{
+    return put("\n", 1);
+}
+
+bool CFEDatLineWriter::writeCommentStart()
+{
+    return put("$ ", 2);
+}
+
+bool CFEDatLineWriter::writeCommentPart(int value)
+{
+    return putText(QByteArray::number(value));
+}
+
+bool CFEDatLineWriter::writeCommentPart(double value)
+{
+    char text[doubleBufferSize];
+    return put(text, formatDouble(value, false, text));
+}
+
+bool CFEDatLineWriter::writeCommentPart(const char* text)
+{
+    return putText(nDatText::singleLine(nDatText::toBytes(text)));
+}
+
+bool CFEDatLineWriter::writeCommentPart(const std::string& text)
+{
+    return putText(nDatText::singleLine(nDatText::toBytes(text)));
+}
+
+bool CFEDatLineWriter::writeCommentPart(const QString& text)
+{
+    return putText(nDatText::singleLine(nDatText::toBytes(text)));
+}
+
+bool CFEDatLineWriter::writeSingleCommentLine(const QString& text)
+{
+    return putText("$ " + nDatText::singleLine(nDatText::toBytes(text)) + '\n');
+}
+
+bool CFEDatLineWriter::writeSingleCommentLine(const char* text)
+{
+    return putText("$ " + nDatText::singleLine(nDatText::toBytes(text)) + '\n');
+}
+
+bool CFEDatLineWriter::writeSingleCommentLine(const std::string& text)
+{
+    return putText("$ " + nDatText::singleLine(nDatText::toBytes(text)) + '\n');
+}
+
+bool CFEDatLineWriter::writeCommentLines(const QByteArray& text)
+{
+    const QByteArray comment = nDatText::singleLine(text);
+    QByteArray lines;
+    int start = 0;
+    for (; comment.size() - start >= longestCommentPiece;) {
+        const int length = nDatText::pieceLength(comment, start, longestCommentPiece);
+        lines += "$ " + comment.mid(start, length) + '\n';
+        start += length;
+    }
+    return putText(lines + "$ " + comment.mid(start) + '\n');
+}
+
+bool CFEDatLineWriter::writeCommentLine(const char* text)
+{
+    return writeCommentLines(nDatText::toBytes(text));
+}
+
+bool CFEDatLineWriter::writeCommentLine(const std::string& text)
+{
+    return writeCommentLines(nDatText::toBytes(text));
+}
+
+bool CFEDatLineWriter::writeCommentLine(const QString& text)
+{
+    return writeCommentLines(nDatText::toBytes(text));
+}
+
+bool CFEDatLineWriter::writeKeywordLine(const char* text)
+{
+    return putText(nDatText::toBytes(text) + '\n');
+}
+
+bool CFEDatLineWriter::writeKeywordLine(const std::string& text)
+{
+    return putText(nDatText::toBytes(text) + '\n');
+}
+
+bool CFEDatLineWriter::writeKeywordLine(const QString& text)
+{
+    return putText(nDatText::toBytes(text) + '\n');
+}
+
+bool CFEDatLineWriter::writeStringUnformatted(const char* text)
+{
+    return putText(nDatText::toBytes(text));
+}
+
+bool CFEDatLineWriter::writeStringUnformatted(const std::string& text)
+{
+    return putText(nDatText::toBytes(text));
+}
+
+bool CFEDatLineWriter::writeStringUnformatted(const QString& text)
+{
+    return putText(nDatText::toBytes(text));
+}
+
+bool CFEDatLineWriter::writeJoined(const QByteArray& first, const QByteArray& second)
+{
+    const QByteArray text = first + second;
+    return text.size() <= longestJoinedText && putText(text);
+}
+
+bool CFEDatLineWriter::writeJoinedLatin1(const QByteArray& first, const QByteArray& second)
+{
+    const QByteArray text = first + second;
+    return text.size() <= longestJoinedText && put(text.constData(), text.size());
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(const char* first, const char* second)
+{
+    return writeJoined(nDatText::toBytes(first), nDatText::toBytes(second));
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(const std::string& first, const std::string& second)
+{
+    return writeJoined(nDatText::toBytes(first), nDatText::toBytes(second));
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(const QString& first, const QString& second)
+{
+    return writeJoinedLatin1(nDatText::toLatin1Bytes(first), nDatText::toLatin1Bytes(second));
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(const char* first, int second)
+{
+    return writeJoined(nDatText::toBytes(first), QByteArray::number(second));
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(const std::string& first, int second)
+{
+    return writeJoined(nDatText::toBytes(first), QByteArray::number(second));
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(const QString& first, int second)
+{
+    return writeJoinedLatin1(nDatText::toLatin1Bytes(first), QByteArray::number(second));
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(int first, const char* second)
+{
+    return writeJoined(QByteArray::number(first), nDatText::toBytes(second));
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(int first, const std::string& second)
+{
+    return writeJoined(QByteArray::number(first), nDatText::toBytes(second));
+}
+
+bool CFEDatLineWriter::writeStringCombiUnformatted(int first, const QString& second)
+{
+    return writeJoinedLatin1(QByteArray::number(first), nDatText::toLatin1Bytes(second));
+}
+
+bool CFEDatLineWriter::writeKeywordAndNumber(const char* keyword, int n)
+{
+    bool ok = writeString(keyword, 0);
+    ok = writeInt(n) && ok;
+    return writeLineBreak() && ok;
+}
+
+bool CFEDatLineWriter::writeElement(int n)
+{
+    return writeKeywordAndNumber("element", n);
+}
+
+bool CFEDatLineWriter::writeFeature(int n)
+{
+    return writeKeywordAndNumber("feature", n);
+}
+
+bool CFEDatLineWriter::writeNodal(int n)
+{
+    return writeKeywordAndNumber("nodal", n);
+}
+
+bool CFEDatLineWriter::writeKeywordAndText(const char* keyword, const QByteArray& text)
+{
+    bool ok = writeString(keyword, 0);
+    ok = putText(nDatText::singleLine(text)) && ok;
+    return writeLineBreak() && ok;
+}
+
+bool CFEDatLineWriter::writeLoadcase(const QString& name)
+{
+    return writeKeywordAndText("loadcase", nDatText::toBytes(name));
+}
+
+bool CFEDatLineWriter::writeLoadcase(const char* name)
+{
+    return writeKeywordAndText("loadcase", nDatText::toBytes(name));
+}
+
+bool CFEDatLineWriter::writeLoadcase(const std::string& name)
+{
+    return writeKeywordAndText("loadcase", nDatText::toBytes(name));
+}
+
+bool CFEDatLineWriter::writeTitle(const QString& text)
+{
+    return writeKeywordAndText("title", nDatText::toBytes(text));
+}
+
+bool CFEDatLineWriter::writeTitle(const char* text)
+{
+    return writeKeywordAndText("title", nDatText::toBytes(text));
+}
+
+bool CFEDatLineWriter::writeTitle(const std::string& text)
+{
+    return writeKeywordAndText("title", nDatText::toBytes(text));
+}
