@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -109,9 +110,12 @@ void kdDataColumn::sortValues()
 
 void kdDataColumn::noteInserted(double value)
 {
-    if (m_values.size() == 1 && !isNaN(value))
-        generateMinMax();
-    widenExtremes(value);
+    if (m_values.size() == 1 && !isNaN(value)) {
+        m_minimum.store(value, std::memory_order_relaxed);
+        m_maximum.store(value, std::memory_order_relaxed);
+    } else {
+        widenExtremes(value);
+    }
 }
 
 void kdDataColumn::widenExtremes(double value)

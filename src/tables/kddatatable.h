@@ -2,6 +2,7 @@
 
 #include "kddatacolumn.h"
 
+#include <kdQCore/kdUnitValue>
 #include <kdqcore_export.h>
 
 #include <QList>
@@ -17,7 +18,6 @@
 #include <utility>
 #include <vector>
 
-class kdUnitValue;
 class QIODevice;
 class QLocale;
 class QTextStream;
@@ -409,11 +409,12 @@ public:
 private:
     using ColumnPointer = std::unique_ptr<kdDataColumn>;
 
-    bool fits(const kdDataColumn* column, int replacedIndex) const;
+    bool fits(const kdDataColumn& column) const;
     int indexOf(const kdDataColumn* column) const;
     void copyAttributes(const kdDataTable& other);
     void sortPoints(bool byX, bool descending);
-    void removeRows(const QVector<bool>& removed);
+    void keepRows(const QVector<int>& rows);
+    bool inColumnUnits(const UvPoint& point, QPointF& converted) const;
     bool combineYColumns(const kdDataTable& other, double (*operation)(double, double));
 
     std::vector<ColumnPointer> m_columns;
