@@ -1,0 +1,7 @@
+#include "coioexception.h"
+
+coIOException::coIOException() = default;
+
+coIOException::coIOException(const QString& message) : kdException(message) { }
+
+coIOException::~coIOException() = default;
