@@ -25,7 +25,7 @@ if(MSVC)
 else()
     target_compile_options(kdqcore_flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
-        -Wconversion -Wsign-conversion -Wformat=2 -Wnull-dereference -Wimplicit-fallthrough
+        -Wconversion -Wsign-conversion -Wformat=2 -Wimplicit-fallthrough
         $<$<BOOL:${KDQCORE_WERROR}>:-Werror>
         -ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
 endif()
