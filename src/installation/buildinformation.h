@@ -6,13 +6,14 @@
 /// file.
 namespace nBuildInformation {
 
-/// The number of the source revision in decimal, "0" where the sources are not under version control.
+/// How many commits the sources have come through: a number, so that version texts stay comparable. "0" where
+/// the sources are not under version control.
 QString revision();
-/// "2018-06-30"; the build date where the revision is not known.
+/// "2018-06-30", or "unknown".
 QString revisionDate();
-/// UTC, "2018-06-30"; taken when this revision was first configured, or from SOURCE_DATE_EPOCH.
+/// In UTC, "Jun 30 2018"; taken once for a revision.
 QString buildDate();
-/// UTC, "14:05:59".
+/// In UTC, "14:05:59".
 QString buildTime();
 /// The operating system and the width of its pointers: "linux64", "win64".
 QString platform();

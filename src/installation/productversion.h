@@ -10,6 +10,8 @@ class ProductVersion {
 public:
     constexpr explicit ProductVersion(coProductType::e_Type type) : m_type(type) { }
 
+    bool isKnown() const { return m_type != coProductType::Unknown; }
+
     QString productName() const;
     QString productVersion() const;            ///< "2018"
     QString fullVersion(bool withMinor) const; ///< "2018.1"

@@ -1,0 +1,322 @@
+#include "kdqtest.h"
+#include "logcapture.h"
+
+#include <kdQCore/kdCommandDispatcher>
+#include <kdQCore/nCompanyInfo>
+#include <kdQCore/nGlobal>
+#include <kdQCore/nKaldoranAm>
+#include <kdQCore/nKaldoranCommon>
+#include <kdQCore/nKaldoranDemos>
+#include <kdQCore/nKaldoranJes>
+#include <kdQCore/nKaldoranJoining>
+#include <kdQCore/nKaldoranMaterial>
+#include <kdQCore/nKaldoranWelding>
+#include <kdQCore/nProcessInfo>
+
+#include <QRegularExpression>
+
+namespace am = nKaldoranAm;
+namespace demos = nKaldoranDemos;
+namespace jes = nKaldoranJes;
+namespace joining = nKaldoranJoining;
+namespace material = nKaldoranMaterial;
+namespace welding = nKaldoranWelding;
+
+namespace {
+
+// The version functions that all members of the family have.
+struct Family {
+    const char* name;
+    QString (*productName)();
+    QString (*productVersion)();
+    QString (*fullVersion)(bool);
+    QString (*fullRevisionVersion)();
+    QString (*fullRevisionOSVersion)();
+    QString (*fullRevisionOSVersionDate)();
+    QString (*nameAndFull)();
+    QString (*nameAndRevision)();
+    QString (*nameAndOS)();
+    QString (*nameAndTime)();
+};
+
+#define FAMILY(ns)                                                                                   \
+    {                                                                                                \
+#ns, ns::productName, ns::productVersion, ns::fullVersion, ns::fullRevisionVersion,          \
+            ns::fullRevisionOSVersion, ns::fullRevisionOSVersionDate, ns::productNameAndFullVersion, \
+            ns::productNameAndFullRevisionVersion, ns::productNameAndFullRevisionOSVersion,          \
+            ns::productNameAndFullRevisionOSVersionTime                                              \
+    }
+
+const Family families[] = {FAMILY(am), FAMILY(welding), FAMILY(joining), FAMILY(jes)};
+
+bool matches(const QString& text, const QString& pattern)
+{
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(text).hasMatch();
+}
+
+} // namespace
+
+class TestProductTexts : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void literalTexts_data();
+    void literalTexts();
+    void versionFamily_data();
+    void versionFamily();
+    void processInfo_data();
+    void processInfo();
+    void commentOfJoiningFiles();
+    void pagesAndDocumentsFollowTheLanguage_data();
+    void pagesAndDocumentsFollowTheLanguage();
+    void linkTextIsPlainText();
+    void missingMaterialApplicationIsLogged();
+};
+
+void TestProductTexts::cleanup()
+{
+    if (kdCommandDispatcher::created())
+        kdCommandDispatcher::removeInstance();
+    QLocale::setDefault(QLocale::system());
+}
+
+void TestProductTexts::literalTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    int number = 0;
+    const auto row = [&number](const QString& text, const char* expected) {
+        QTest::addRow("%d %s", ++number, expected) << text << QString::fromUtf8(expected);
+    };
+    row(am::productName(), "Kaldoran Additive");
+    row(am::fullVersionAndSuffix(), "2018 (dev)");
+    row(am::amDirName(), "additive");
+    row(am::iniFileName(), "kaldoran.additive");
+    row(am::versionDependentIniFileName(false), "kaldoran.additive_2018");
+    row(am::versionDependentIniFileName(true), "kaldoran.additive_2018.1");
+    row(am::exeFileName(false), "Kaldoran Additive");
+    row(am::exeFileName(true), "Kaldoran Additive.exe");
+    row(am::databaseDirectoryName(), "MasterLibrary");
+
+    row(welding::productName(), "Kaldoran Welding");
+    row(welding::fullVersionAndSuffix(), "2018 (dev)");
+    row(welding::weldingDirName(), "welding");
+    row(welding::iniFileName(), "kaldoran.welding");
+    row(welding::versionDependentIniFileName(true), "kaldoran.welding_2018.1");
+    row(welding::exeFileName(false), "kaldoran.welding");
+    row(welding::exeFileName(true), "kaldoran.welding.exe");
+    row(welding::databaseDirectoryName(), "Database");
+
+    row(joining::productName(), "Kaldoran Joining Optimizer");
+    row(joining::productNameFullVersionAndSuffix(), "Kaldoran Joining Optimizer 2018.1 (dev)");
+    row(joining::joiningDirName(), "joining");
+    row(joining::exeFileName(), "kaldoran.joining.exe");
+    row(joining::iniFileName(), "kaldoran.joining");
+    row(joining::settingsFolderName(), "kaldoran.joining_2018.1");
+    row(joining::settingsFileNameInvDbSpr(), "invDbSpr");
+    row(joining::settingsFileNameInvDbCli(), "invDbCli");
+    row(joining::settingsFileNameInvDbRsw(), "invDbRsw");
+    row(joining::settingsFileNameResultViewColumnsSpr(), "resultViewColumnsSpr");
+    row(joining::settingsFileNameResultViewColumnsCli(), "resultViewColumnsCli");
+    row(joining::settingsFileNameResultViewColumnsRsw(), "resultViewColumnsRsw");
+    row(joining::settingsFileNameResultThresholdsSpr(QString()), "resultThresholdsSpr");
+    row(joining::settingsFileNameResultThresholdsCli(QStringLiteral("%1")), "resultThresholdsCli_%1");
+    row(joining::settingsFileNameResultThresholdsRsw(QStringLiteral("a")), "resultThresholdsRsw_a");
+
+    row(material::productName(), "Kaldoran Material");
+    row(material::productNameForSettings(), "material");
+    row(material::productNameAndVersion(), "Kaldoran Material 2018");
+    row(material::fullVersion(), "2018.1");
+    row(material::iniFileName(), "kaldoran.material");
+    row(material::exeFileName(false), "kaldoran.material");
+    row(material::exeFileName(true), "kaldoran.material.exe");
+    row(material::fileExtension(), ".xmt");
+    row(material::fileExtensionWildcard(), "*.xmt");
+    row(material::xmtVersion11(), "-xmt_11");
+    row(material::xmtVersion12(), "-xmt_12");
+    row(material::newMatDefaultName(), "New_Material");
+    row(material::validationExceptionFileName(), "validation_exceptions.txt");
+    row(QFileInfo(material::intermediateFilePath()).fileName(), "Kaldoran Material Intermediate Files");
+    row(material::callerVersionStartParamFlag(), "-callerVersion");
+    row(material::validateMaterialsStartParam(), "-validateMaterials");
+    row(material::validationReportTargetPathStartParam(), "-reportPath");
+    row(material::addToDatabaseFlag(), "-addToDatabase");
+    row(material::showDatabaseFlag(), "-showDatabase");
+    row(material::openFileFlag(), "-open");
+    row(material::readOnlyFlag(), "-readOnly");
+    row(material::nFilterArgs::commandArg(), "-filters");
+    row(material::nFilterArgs::wildcard(), "*");
+    row(material::nFilterArgs::groupFlag(), "Group");
+    row(material::nFilterArgs::areaFlag(), "Area");
+    row(material::nFilterArgs::pairSeparator(), ":");
+    row(material::nFilterArgs::listSeparator(), ";");
+    row(material::nFilterArgs::mkFilterArg(QStringLiteral("Area"), QStringLiteral("%2")), "Area:%2");
+    row(material::nAreaOfApplication::welding(), "Welding");
+    row(material::nAreaOfApplication::powder(), "Powder");
+    row(material::nAreaOfApplication::basePlate(), "Base plate");
+    row(material::toolMaterialFlag(), "Tool material");
+    row(material::Legacy::toolSteelGroup(), "ToolSteel");
+    row(material::Docs::relDamageTutorialPath(), "Chapters/02_10_Damage/Damage");
+
+    row(demos::productName(), "Kaldoran Demos");
+    row(demos::productNameForFilePath(), "kaldoran.demos");
+    row(demos::iniFileName(), "kaldoran.demos");
+    row(demos::productVersion(), "2018");
+    row(demos::productNameAndVersion(), "Kaldoran Demos 2018");
+    row(demos::exeFileName(false), "kaldoran.demos");
+    row(demos::exeFileName(true), "kaldoran.demos.exe");
+    row(demos::startMenuName(), "Demos & Examples");
+    row(demos::demosFileExtension(false), "kddemos");
+    row(demos::demosFileExtension(true), ".kddemos");
+    row(demos::standardNameFilter().join(QLatin1Char('|')), "*.xml|*.kddemos");
+
+    row(jes::shortProductName(), "jes");
+    row(jes::iniFileSuffix(), ".ini");
+    row(jes::opFolderName(), "_stages");
+    row(jes::projectSettingsFolderName(), "_projectSettings");
+    row(jes::backgroundImageFileName(), "backgroundImage");
+    row(jes::defaultProjectName(), "Project");
+    row(jes::imagesFolderName(), "_images");
+    row(jes::projectFileExtension(), ".jes");
+    row(jes::projectFileSelectionFilter(), "jes files (*.jes)");
+
+    row(nKaldoranCommon::versionCheckExeFileName(), "versioncheck.exe");
+    row(nKaldoranCommon::versionInfoFileName(), "versions.xml");
+    row(nKaldoranCommon::weldMonitorName(), "Welding monitor");
+    row(nGlobal::kaldoranRemapName(), "Kaldoran Remap");
+    row(nGlobal::kaldoranMultimeshName(), "Kaldoran Multimesh");
+    row(nGlobal::kaldoranUtilitiesName(), "Kaldoran.utilities");
+    row(nGlobal::kaldoranUtilitiesVersion(), "2018");
+
+    // A name with a place marker in it must come through as it is.
+    const auto slashed = [](const QString& path) { return QDir::fromNativeSeparators(path); };
+    const QString folder = QStringLiteral("f");
+    row(slashed(jes::createProjectFilePath(folder, QStringLiteral("%1"))), "f/%1/%1.jes");
+    row(slashed(jes::createProjectFolderPath(folder, QStringLiteral("p"))), "f/p");
+}
+
+void TestProductTexts::literalTexts()
+{
+    QFETCH(QString, text);
+    QTEST(text, "expected");
+}
+
+void TestProductTexts::versionFamily_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < int(std::size(families)); ++i)
+        QTest::newRow(families[i].name) << i;
+}
+
+void TestProductTexts::versionFamily()
+{
+    QFETCH(int, index);
+    const Family& family = families[index];
+    const QString name = family.productName();
+    const QString version = family.productVersion();
+    QCOMPARE(family.fullVersion(false), version);
+    QVERIFY(
+        matches(family.fullVersion(true), QRegularExpression::escape(version) + QStringLiteral("\\.\\d+")));
+
+    const QString withRevision = family.fullRevisionVersion();
+    const QString withSystem = family.fullRevisionOSVersion();
+    const QString full = QRegularExpression::escape(family.fullVersion(true));
+    QVERIFY(matches(withRevision, full + QStringLiteral("\\.\\d+")));
+    QVERIFY(
+        matches(withSystem, QRegularExpression::escape(withRevision) + QStringLiteral("\\.[a-z]+(32|64)")));
+    QVERIFY(
+        matches(family.fullRevisionOSVersionDate(),
+                QRegularExpression::escape(withSystem) + QStringLiteral(" [A-Z][a-z]{2} [0-9]{2} [0-9]{4}")));
+
+    QCOMPARE(family.nameAndFull(), name + QLatin1Char(' ') + family.fullVersion(true));
+    QCOMPARE(family.nameAndRevision(), name + QLatin1Char(' ') + withRevision);
+    QCOMPARE(family.nameAndOS(), name + QLatin1Char(' ') + withSystem);
+    QVERIFY(
+        matches(family.nameAndTime(),
+                QRegularExpression::escape(family.nameAndOS()) + QStringLiteral(" - \\d\\d:\\d\\d:\\d\\d")));
+}
+
+void TestProductTexts::processInfo_data()
+{
+    QTest::addColumn<int>("product");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("version");
+    const QString undefined = QStringLiteral("Undefined");
+    QTest::newRow("none") << 0 << undefined << undefined;
+    QTest::newRow("forming") << 1 << "Kaldoran Forming"
+                             << "2018";
+    QTest::newRow("welding") << 2 << welding::productName() << welding::productVersion();
+    QTest::newRow("joining") << 3 << joining::productName() << joining::productVersion();
+    QTest::newRow("job editor") << 4 << undefined << undefined;
+    QTest::newRow("material") << 5 << material::productName() << material::productVersion();
+    QTest::newRow("additive") << 6 << undefined << undefined;
+    QTest::newRow("unheard of") << -77 << undefined << undefined;
+}
+
+void TestProductTexts::processInfo()
+{
+    QFETCH(int, product);
+    QTEST(nProcessInfo::productName(static_cast<nKaldoranProducts::e_Product>(product)), "name");
+    QTEST(nProcessInfo::productVersion(static_cast<nKaldoranProducts::e_Product>(product)), "version");
+}
+
+void TestProductTexts::commentOfJoiningFiles()
+{
+    const QString comment = joining::fileComment(QStringLiteral("Rivets %2"));
+    const QString expected = QStringLiteral("Rivets %2 - written by ") + nCompanyInfo::companyName()
+        + QStringLiteral(" Kaldoran Joining Optimizer 2018\\.1 \\(rev\\. \\d+, \\S+\\) "
+                         "\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d");
+    QVERIFY2(matches(comment, expected), qPrintable(comment));
+    const QDateTime written = QDateTime::fromString(comment.section(QLatin1Char(' '), -1), Qt::ISODate);
+    QVERIFY(qAbs(written.secsTo(QDateTime::currentDateTime())) < 60);
+}
+
+void TestProductTexts::pagesAndDocumentsFollowTheLanguage_data()
+{
+    QTest::addColumn<int>("locale");
+    QTest::addColumn<int>("commandLanguage"); // -1: no dispatcher
+    QTest::addColumn<QString>("code");
+    QTest::newRow("German") << int(QLocale::German) << -1 << "de";
+    QTest::newRow("English") << int(QLocale::English) << -1 << "en";
+    QTest::newRow("French") << int(QLocale::French) << -1 << "en";
+    QTest::newRow("dispatcher") << int(QLocale::German) << int(kdQLanguage::English) << "en";
+}
+
+void TestProductTexts::pagesAndDocumentsFollowTheLanguage()
+{
+    QFETCH(int, locale);
+    QFETCH(int, commandLanguage);
+    QFETCH(QString, code);
+    QLocale::setDefault(QLocale(static_cast<QLocale::Language>(locale)));
+    if (commandLanguage >= 0) {
+        kdCommandDispatcher::createInstance();
+        QVERIFY(kdCommandDispatcher::I().setLanguage(static_cast<kdQLanguage::KDLANGUAGE>(commandLanguage)));
+    }
+    const QString page = nCompanyInfo::companyContactHomepage();
+    QVERIFY2(page.endsWith(QLatin1Char('/') + code), qPrintable(page));
+    QVERIFY(page.contains(nCompanyInfo::organisationDomainName()));
+    QCOMPARE(material::tutorialFilePath(),
+             material::documentsFolder() + QStringLiteral("/Kaldoran_Material_Tutorial_") + code
+                 + QStringLiteral(".pdf"));
+}
+
+void TestProductTexts::linkTextIsPlainText()
+{
+    QCOMPARE(nCompanyInfo::companyContactHomepageLink(QStringLiteral("A & <b> %1")),
+             QStringLiteral("<a href=\"") + nCompanyInfo::companyContactHomepage()
+                 + QStringLiteral("\">A &amp; &lt;b&gt; %1</a>"));
+}
+
+void TestProductTexts::missingMaterialApplicationIsLogged()
+{
+    LogCapture log;
+    QVERIFY(!QFileInfo::exists(material::executableFilePath()));
+    QVERIFY(!material::execute());
+    QVERIFY(log.contains(kdLog::Fault, kdLog::General,
+                         QStringLiteral("Open Kaldoran Material, path ") + material::executableFilePath()
+                             + QStringLiteral(":, failed")));
+}
+
+KDQ_TEST_MAIN(TestProductTexts)
+#include "tst_producttexts.moc"
