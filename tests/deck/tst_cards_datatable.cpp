@@ -1,0 +1,196 @@
+#include "expecteddeck.h"
+#include "kdqtest.h"
+
+#include <kdQCore/coFeDataTableCard>
+#include <kdQCore/kdDataColumn>
+#include <kdQCore/kdDataTable>
+#include <kdQCore/kdUnitSystem>
+
+using Values = QList<double>;
+using Variable = coFeTableCard::IndependentVarUsingValues;
+Q_DECLARE_METATYPE(kdDataTable)
+
+namespace {
+
+nMarc::e_TableVariableType type(int code)
+{
+    return static_cast<nMarc::e_TableVariableType>(code);
+}
+
+kdUnitSystem unit(const char* symbol)
+{
+    return kdUnitSystem::fromSymbol(QString::fromUtf8(symbol));
+}
+
+kdDataColumn column(const char* symbol, const QVector<double>& values)
+{
+    kdDataColumn result;
+    result.setUnit(unit(symbol));
+    result.setValues(values);
+    return result;
+}
+
+kdDataTable table(const QList<kdDataColumn>& columns)
+{
+    kdDataTable result;
+    result.setName(QStringLiteral("steel"));
+    for (const kdDataColumn& column : columns)
+        result.appendColumn(column);
+    return result;
+}
+
+coFeDataTableCard emptyCard()
+{
+    return coFeDataTableCard(QStringLiteral("steel"), 1, Variable(type(12), false, {}));
+}
+
+const kdDataTable yieldStress = table({column("degC", {20, 400}), column("MPa", {355, 100})});
+const kdDataTable flowCurves =
+    table({column("%", {0, 1}), column("MPa", {0, 210}), column("MPa", {0, 189}), column("MPa", {0, 150})});
+
+} // namespace
+
+class TestDataTableCard : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pointsInSI()
+    {
+        coFeDataTableCard card = emptyCard();
+        QVERIFY(!write(card, layouts[0]).result);
+        QVERIFY2(card.setTable(yieldStress), qPrintable(card.errorText()));
+        const Written written = write(card, layouts[0]);
+        QCOMPARE(written.deck,
+                 QByteArray("tablesteel\n"
+                            "    1    1    0    0    2\n"
+                            "   12    2    1\n"
+                            "2.93149E+23.55000E+8\n"
+                            "6.73149E+21.00000E+8\n"));
+        QVERIFY(written.result);
+    }
+
+    void gridInChosenUnits()
+    {
+        coFeDataTableCard card = emptyCard();
+        const Variable temperature(type(5), {20, 200, 300});
+        QVERIFY2(card.setGrid(flowCurves, temperature, unit("-"), unit("MPa")), qPrintable(card.errorText()));
+        const Written written = write(card, layouts[2]);
+        QCOMPARE(written.deck,
+                 QByteArray("table,steel\n"
+                            "1,2,0,0,0,\n"
+                            "12,2,1,5,3,2,\n"
+                            "0.00000E+0,1.00000E-2,\n"
+                            "2.00000E+1,2.00000E+2,3.00000E+2,\n"
+                            "0.00000E+0,2.10000E+2 c\n"
+                            "0.00000E+0,1.89000E+2 c\n"
+                            "0.00000E+0,1.50000E+2,\n"));
+        QVERIFY(written.result);
+        QVERIFY(card.setTable(yieldStress));
+        QCOMPARE(card.nIndependentVars(), 1);
+        QVERIFY(write(card, layouts[2]).result);
+    }
+
+    void copiesOwnTheirValues()
+    {
+        auto original = std::make_unique<coFeDataTableCard>(emptyCard());
+        original->setTable(yieldStress);
+        const QByteArray deck = write(*original, layouts[0]).deck;
+        const coFeDataTableCard copy(*original);
+        coFeDataTableCard assigned = emptyCard();
+        assigned = *original;
+        assigned = *&assigned;
+        original.reset();
+        QCOMPARE(write(copy, layouts[0]).deck, deck);
+        QCOMPARE(write(assigned, layouts[0]).deck, deck);
+    }
+
+    void tablesThatDoNotFit_data()
+    {
+        QTest::addColumn<kdDataTable>("table");
+        QTest::addColumn<QString>("reason");
+        const auto row = [](const char* name, const kdDataTable& table, const char* reason) {
+            QTest::newRow(name) << table
+                                << QStringLiteral("Table 'steel' does not fit the card: ")
+                    + QLatin1String(reason);
+        };
+        row("three columns", table({column("s", {1}), column("K", {1}), column("K", {1})}),
+            "it is no XY table, but has 3 column(s).");
+        row("no columns", table({}), "it is no XY table, but has 0 column(s).");
+        row("empty", table({column("s", {}), column("K", {})}), "it has no rows.");
+        row("descending", table({column("min", {0, 3, 2}), column("K", {1, 2, 3})}),
+            "x must not descend, but 120 in row 3 follows 180.");
+        row("NaN in x", table({column("s", {0, qQNaN()}), column("K", {1, 2})}),
+            "value 2 of column 1 is no finite number.");
+        row("infinite y", table({column("s", {0, 1}), column("K", {qInf(), 2})}),
+            "value 1 of column 2 is no finite number.");
+        row("overflow in SI", table({column("s", {0}), column("GPa", {1e300})}),
+            "value 1 of column 2 is no finite number.");
+    }
+
+    void tablesThatDoNotFit()
+    {
+        QFETCH(kdDataTable, table);
+        coFeDataTableCard card = emptyCard();
+        QVERIFY(card.setTable(yieldStress));
+        const QByteArray before = write(card, layouts[1]).deck;
+        QVERIFY(!card.setTable(table));
+        QTEST(card.errorText(), "reason");
+        QCOMPARE(write(card, layouts[1]).deck, before);
+        QVERIFY(card.setTable(yieldStress));
+        QCOMPARE(card.errorText(), QString());
+    }
+
+    void unitsThatDoNotFit()
+    {
+        coFeDataTableCard card = emptyCard();
+        QVERIFY(!card.setTable(yieldStress, unit("K"), unit("mm")));
+        QCOMPARE(card.errorText(),
+                 QStringLiteral("Table 'steel' does not fit the card: column 2 is in 'MPa', which "
+                                "cannot be converted to 'mm'."));
+        kdDataColumn unitless = column("K", {7});
+        unitless.setUnitIndex(-1);
+        QVERIFY(card.setTable(table({unitless, unitless})));
+        QCOMPARE(*card.values(), Values{7});
+    }
+
+    void gridsThatDoNotFit_data()
+    {
+        QTest::addColumn<Values>("temperatures");
+        QTest::addColumn<QVector<double>>("strains");
+        QTest::addColumn<QString>("reason");
+        const auto row = [](const char* name, const Values& temperatures, const QVector<double>& strains,
+                            const char* reason) {
+            QTest::newRow(name) << temperatures << strains
+                                << QStringLiteral("Table 'steel' does not fit the card: ")
+                    + QLatin1String(reason);
+        };
+        row("too few", {20}, {0, 1},
+            "it has 3 columns, but the grid needs one for x and one for each of 1 values of the second "
+            "variable.");
+        row("none", {}, {0, 1},
+            "it has 3 columns, but the grid needs one for x and one for each of 0 values of the second "
+            "variable.");
+        row("equal x", {20, 30}, {1, 1}, "x must ascend, but value 2 is 1 after 1.");
+        row("equal x within", {20, 30}, {1, 1, 2}, "x must ascend, but value 2 is 1 after 1.");
+        row("descending x", {20, 30}, {2, 1}, "x must ascend, but value 2 is 1 after 2.");
+        row("NaN x", {20, 30}, {qQNaN(), 1}, "value 1 of column 1 is no finite number.");
+        row("equal second", {20, 20}, {0, 1}, "the second variable must ascend, but value 2 is 20 after 20.");
+        row("NaN second", {qQNaN(), 20}, {0, 1}, "value 1 of the second variable is no finite number.");
+        row("no rows", {20, 30}, {}, "it has no rows.");
+    }
+
+    void gridsThatDoNotFit()
+    {
+        QFETCH(Values, temperatures);
+        QFETCH(QVector<double>, strains);
+        const kdDataTable grid = table({column("-", strains), column("MPa", QVector<double>(strains.size())),
+                                        column("MPa", QVector<double>(strains.size()))});
+        coFeDataTableCard card = emptyCard();
+        QVERIFY(!card.setGrid(grid, Variable(type(5), temperatures)));
+        QTEST(card.errorText(), "reason");
+        QCOMPARE(card.nIndependentVars(), 1);
+    }
+};
+
+KDQ_TEST_MAIN(TestDataTableCard)
+#include "tst_cards_datatable.moc"
