@@ -12,7 +12,7 @@
 ///
 /// \code
 /// try {
-///     table.importValuesFromTextStream(stream);
+///     kdDataTable::importFromTextStream(stream, table);
 /// } catch (const kdTypedException<QPair<int, int>>& failure) {
 ///     showCell(failure.payload().first, failure.payload().second, failure.getErrorMessage());
 /// }
