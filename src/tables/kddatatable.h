@@ -388,18 +388,70 @@ public:
     /// Whether all Y of all Y columns are greater than 0; a NaN is not.
     bool allYGreaterZero() const;
 
-    // --- Files and streams ---
+    // --- XML ---
+    //
+    // Written are name, id tag, comment and type of the table, of each column the title, type, unit, usage
+    // and name, and the values in C notation with 16 significant digits: a value of 17 digits comes back
+    // rounded at the sixteenth. Characters that XML cannot hold become U+FFFD.
+    //
+    // Readers replace what is written and keep the rest (editable flag, colour id, default columns as far as
+    // they exist). They take the elements in any order, skip those they do not know, and go by what is there:
+    // an element goes before the attribute of the same name, and the claimed numbers of columns and rows do
+    // not matter. The unit goes by its symbol, then by its index; the dimension by its number, in files
+    // without that by the column's type, then by the symbol. On failure they raise an error on the reader
+    // that names row and column, counted from 1, return false and leave the table as it was.
 
-    static QString xmlStartElement();
-    static QString tagNameForJES();
+    static QString xmlStartElement(); ///< "kdDataTable"
+    static QString tagNameForJES();   ///< "DataTable"
+    /// The element alone, without a declaration.
     QString toXml() const;
+    /// A table without columns, and \a ok false, where the text holds no table or is not well-formed.
     static kdDataTable fromXml(const QString& xml, bool* ok = nullptr);
+    /// The reader stands on or somewhere before the start element, and afterwards on its end element. The
+    /// search ends with the element in which the reader stands.
     bool readXML(QXmlStreamReader& reader, const QString& startElement = xmlStartElement());
+    /// Writes a whole document. A closed device is opened, emptied and closed again. False where the device
+    /// does not take all of it.
     bool writeXML(QIODevice& device) const;
+    /// Writes the element where the writer stands.
     bool writeXML(QXmlStreamWriter& writer) const;
+    /// The form that the job editor reads: the same content in an element "DataTable", every value of a row
+    /// followed by ";".
     bool readXMLForJES(QXmlStreamReader& reader);
     bool writeXMLForJES(QXmlStreamWriter& writer) const;
-    static void importValuesFromTextStream(QTextStream& stream, QList<QStringList>* values);
+
+    // --- Text ---
+
+    /// Reads a text of measured values: one line a row, one field a column.
+    ///
+    /// Fields are separated by ";", else by tabs, else by ",", else by blanks, whichever the first line of
+    /// values holds; they may stand in quotation marks. With ";" or tabs a comma in a number is its decimal
+    /// mark. Empty lines, empty fields at the end of a line, and lines that begin with # // % ! $ or * are
+    /// skipped. Above the values may stand
+    /// - a line of names, with units in brackets ("time [s]; force (kN)") or not, and a line of units;
+    /// - or one line for each column as exportValuesToTextStream() writes it, with or without "#"; the
+    ///   separator in these lines is then that of the file, and a comma beside it a decimal mark;
+    /// - or a comment line of names with a unit for each.
+    ///
+    /// The table gets new columns, the first as X and all others as Y, and keeps everything else. A name
+    /// whose unit is not known stays whole. Text without values and header gives a table without columns.
+    ///
+    /// Throws kdTypedException<QPair<int, int>> and leaves the table as it was where a field is no number,
+    /// the fields of two lines differ in number or the header does not fit. The payload is the line in the
+    /// text and the field in the line, both counted from 1; the message says it in words.
+    static void importFromTextStream(QTextStream& stream, kdDataTable& table);
+    /// The same, for the bare texts: one list for each line of values, with decimal points, and one for each
+    /// line of the header (names, units, or dimension, unit and name of a column). Lists are replaced; each
+    /// may be null.
+    static void importValuesFromTextStream(QTextStream& stream, QList<QStringList>* values,
+                                           QList<QStringList>* headers = nullptr);
+    /// Writes, for every column, a line "#dimension=4;unit=1;name=width" (numbers of dimension and unit; the
+    /// separator as given), then one line a row, with the shortest texts that read back as the same doubles.
+    ///
+    /// Of the locale the decimal comma is taken, unless the separator holds a comma; null means a point. Line
+    /// breaks in names become blanks. False, and nothing written, for a separator that is empty or could be
+    /// taken for part of a number or of the header (letters, digits, + - . = # " and line breaks); false
+    /// also where the stream fails.
     bool exportValuesToTextStream(QTextStream& stream, const QString& separator = QStringLiteral(";"),
                                   bool withHeader = true, const QLocale* locale = nullptr) const;
 
@@ -412,6 +464,7 @@ private:
     bool fits(const kdDataColumn& column) const;
     int indexOf(const kdDataColumn* column) const;
     void copyAttributes(const kdDataTable& other);
+    void replaceColumns(std::vector<ColumnPointer> columns);
     void sortPoints(bool byX, bool descending);
     void keepRows(const QVector<int>& rows);
     bool inColumnUnits(const UvPoint& point, QPointF& converted) const;

@@ -1,0 +1,430 @@
+#include "kdqtest.h"
+
+#include <kdQCore/kdDataTable>
+
+#include <QBuffer>
+#include <QFile>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace {
+
+const double missing = std::numeric_limits<double>::quiet_NaN();
+const double infinity = std::numeric_limits<double>::infinity();
+
+kdDataColumn column(const kdUnitSystem& unit, const QString& name, const QVector<double>& values)
+{
+    kdDataColumn result;
+    result.setUnit(unit);
+    result.setName(name);
+    result.setValues(values);
+    return result;
+}
+
+kdDataTable flowCurve()
+{
+    kdDataTable table;
+    table.setName(QStringLiteral("flow curve"));
+    table.setComment(QStringLiteral("S355, <20 °C> & \"rolled\"\r\nline 2\rline 3\ttab "));
+    table.setIdTag(QStringLiteral("{42}"));
+    table.setType(kdDataTable::TypeFlowCurve);
+    kdDataColumn strain = column(kdUnitSystem(kdUnitSystem::None, 0), QStringLiteral("ε"), {0, 0.002, 0.15});
+    strain.setUsage(kdDataColumn::UsageX);
+    strain.setTitle(QStringLiteral("Plastic\nstrain; \"true\""));
+    kdDataColumn stress =
+        column(kdUnitSystem(kdUnitSystem::Stress, 2), QStringLiteral("σ"), {355, 357.5, -1e-300});
+    stress.setUsage(kdDataColumn::UsageY);
+    table.appendColumn(strain);
+    table.appendColumn(stress);
+    return table;
+}
+
+QString xml(const QByteArray& columnsAndRows)
+{
+    return QString::fromUtf8("<kdDataTable name='t'>" + columnsAndRows + "</kdDataTable>");
+}
+
+const QByteArray twoColumns = "<columndata/><columndata/>";
+
+using Write = QByteArray (*)(const kdDataTable&);
+using Read = bool (*)(const QByteArray&, kdDataTable&);
+
+QByteArray writtenToDevice(const kdDataTable& table)
+{
+    QBuffer device;
+    device.open(QIODevice::WriteOnly);
+    return table.writeXML(device) ? device.data() : QByteArray();
+}
+
+QByteArray writtenForJes(const kdDataTable& table)
+{
+    QByteArray result;
+    QXmlStreamWriter writer(&result);
+    return table.writeXMLForJES(writer) ? result : QByteArray();
+}
+
+QByteArray writtenToString(const kdDataTable& table)
+{
+    return table.toXml().toUtf8();
+}
+
+bool readFromXml(const QByteArray& text, kdDataTable& table)
+{
+    QXmlStreamReader reader(text);
+    return table.readXML(reader);
+}
+
+bool readForJes(const QByteArray& text, kdDataTable& table)
+{
+    QXmlStreamReader reader(text);
+    return table.readXMLForJES(reader);
+}
+
+bool readFromString(const QByteArray& text, kdDataTable& table)
+{
+    bool ok = false;
+    table = kdDataTable::fromXml(QString::fromUtf8(text), &ok);
+    return ok;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Write)
+Q_DECLARE_METATYPE(Read)
+
+class TestTableXml : public QObject {
+    Q_OBJECT
+
+private:
+    static void forms()
+    {
+        QTest::addColumn<Write>("write");
+        QTest::addColumn<Read>("read");
+        QTest::newRow("device") << &writtenToDevice << &readFromXml;
+        QTest::newRow("string") << &writtenToString << &readFromString;
+        QTest::newRow("job editor") << &writtenForJes << &readForJes;
+    }
+
+private Q_SLOTS:
+    void roundTrip_data() { forms(); }
+    void roundTrip()
+    {
+        QFETCH(Write, write);
+        QFETCH(Read, read);
+        const kdDataTable table = flowCurve();
+        kdDataTable result;
+        QVERIFY(read(write(table), result));
+        QVERIFY(result == table);
+        QCOMPARE(int(result.type()), int(table.type()));
+        const kdDataTable withoutColumns;
+        QVERIFY(read(write(withoutColumns), result));
+        QVERIFY(result == withoutColumns);
+    }
+
+    // Special values and random bits: the text of each is that of QString::number, and reads back as it does.
+    void values_data() { forms(); }
+    void values()
+    {
+        QFETCH(Write, write);
+        QFETCH(Read, read);
+        QVector<double> values{0.0,  -0.0, 1.5,      5e-324,   -1.7976931348623157e308, 0.1, 1e15,
+                               1e16, 1e-5, infinity, -infinity};
+        for (const double tie :
+             {4239147494527480.5, 5.9604644775390625e-08, 0.00012345671653747559, 1.0009765625,
+              2.2204460492503131e-16, 999999999999999.95, 9999999999999998.0})
+            values << tie << -tie;
+        QRandomGenerator random(20240607);
+        for (int i = 0; i < 20000; ++i)
+            values.append(random.bounded(1e16) / (quint64(1) << random.bounded(30)));
+        while (values.size() < 40000) {
+            const quint64 bits = random.generate64();
+            double value;
+            std::memcpy(&value, &bits, sizeof value);
+            values.append(std::isnan(value) ? 0.1 * values.size() : value);
+        }
+        kdDataTable table;
+        table.appendColumn(column(kdUnitSystem(), QString(), values));
+        const QByteArray text = write(table);
+        kdDataTable result;
+        QVERIFY(read(text, result));
+        QCOMPARE(result.rows(), values.size());
+        int position = 0;
+        for (int i = 0; i < values.size(); ++i) {
+            const QString number = QString::number(values.at(i), 'g', 16);
+            position =
+                text.indexOf("nb=\"" + QByteArray::number(i + 1) + "\">" + number.toLatin1(), position);
+            QVERIFY2(position > 0, qPrintable(number));
+            QCOMPARE(QString::number(result.column(0)->value(i), 'g', 16), number);
+        }
+    }
+
+    void missingValues_data() { forms(); }
+    void missingValues()
+    {
+        QFETCH(Write, write);
+        QFETCH(Read, read);
+        kdDataTable table;
+        table.appendColumn(column(kdUnitSystem(), QString(), {missing, 1.0, -missing}));
+        kdDataTable result;
+        QVERIFY(read(write(table), result));
+        QCOMPARE(result.rows(), 3);
+        QVERIFY(std::isnan(result.column(0)->value(0)) && std::isnan(result.column(0)->value(2)));
+        QCOMPARE(result.column(0)->value(1), 1.0);
+    }
+
+    void rowsAreSeparatedOrTerminated()
+    {
+        kdDataTable table(kdUnitSystem::Length, kdUnitSystem::Stress);
+        table.addPoint(1.5, 2);
+        QVERIFY(table.toXml().contains(QLatin1String("<row nb=\"1\">1.5;2</row>")));
+        QVERIFY(writtenForJes(table).contains("<DataTable ")
+                && writtenForJes(table).contains("<row nb=\"1\">1.5;2;</row>"));
+        QVERIFY(table.toXml().contains(
+            QLatin1String("<columndata title=\"\" type=\"7\" datatype=\"1\" fffunit=\"0\" unit_symbol=\"Pa\" "
+                          "usage=\"2\" dimension=\"30\">")));
+    }
+
+    // Whatever the catalogue holds, and pairs that it does not hold.
+    void everyUnitReturns_data() { forms(); }
+    void everyUnitReturns()
+    {
+        QFETCH(Write, write);
+        QFETCH(Read, read);
+        kdDataTable table;
+        for (int number = 0; number < kdUnitSystem::dimensionCount() + 2; ++number) {
+            const auto dimension = kdUnitSystem::Dimension(number);
+            for (int unit = -1; unit <= kdUnitSystem::unitCount(dimension); ++unit)
+                table.appendColumn(column(kdUnitSystem(dimension, unit), QString::number(unit), {1.0}));
+        }
+        table.column(3)->setType(kdDataColumn::Type(77));
+        table.column(3)->setUsage(kdDataColumn::Usage(-5));
+        kdDataTable result;
+        QVERIFY(read(write(table), result));
+        QVERIFY(result == table);
+    }
+
+    void textsThatXmlCannotHold_data() { forms(); }
+    void textsThatXmlCannotHold()
+    {
+        QFETCH(Write, write);
+        QFETCH(Read, read);
+        const QString replacement(QChar(QChar::ReplacementCharacter));
+        kdDataTable table(kdUnitSystem::Time, kdUnitSystem::Length);
+        table.setName(QLatin1String("a\x01") + QChar(0xd800) + QChar(0xfffe) + QChar(0));
+        table.setComment(QString(QChar(0xdc00)) + QString::fromUtf8("\xf0\x9f\x94\xa5"));
+        table.setXName(QStringLiteral("]]>&#0;"));
+        kdDataTable result;
+        QVERIFY(read(write(table), result));
+        QCOMPARE(result.name(), QLatin1Char('a') + replacement.repeated(4));
+        QCOMPARE(result.comment(), replacement + QString::fromUtf8("\xf0\x9f\x94\xa5"));
+        QCOMPARE(result.column(0)->name(), table.column(0)->name());
+    }
+
+    void unitOfForeignColumns_data()
+    {
+        QTest::addColumn<QString>("attributes");
+        QTest::addColumn<int>("dimension");
+        QTest::addColumn<int>("unit");
+        QTest::newRow("type code") << "type='8' fffunit='2' unit_symbol='min'" << 3 << 2;
+        QTest::newRow("type code, order of units differs")
+            << "type='9' fffunit='0' unit_symbol='°C'" << 10 << 1;
+        QTest::newRow("type code, index only") << "type='5' fffunit='1'" << 4 << 1;
+        QTest::newRow("symbol only") << "type='0' fffunit='3' unit_symbol='MPa'" << 30 << 2;
+        QTest::newRow("typed symbol") << "type='7' fffunit='0' unit_symbol='N/mm2'" << 30 << 4;
+        QTest::newRow("dimension before type")
+            << "type='7' fffunit='1' unit_symbol='mm' dimension='4'" << 4 << 1;
+        QTest::newRow("symbol before index") << "fffunit='0' unit_symbol='ft' dimension='4'" << 4 << 5;
+        QTest::newRow("unknown symbol, no dimension") << "fffunit='1' unit_symbol='furlong'" << 0 << 1;
+        QTest::newRow("nothing") << "" << 0 << -1;
+        QTest::newRow("dimension of a later version") << "fffunit='7' dimension='99'" << 99 << 7;
+        QTest::newRow("dimension of a later version, known symbol")
+            << "unit_symbol='Pa' dimension='99'" << 30 << 0;
+    }
+    void unitOfForeignColumns()
+    {
+        QFETCH(QString, attributes);
+        bool ok = false;
+        const kdDataTable table = kdDataTable::fromXml(xml("<columndata " + attributes.toUtf8() + "/>"), &ok);
+        QVERIFY(ok);
+        QTEST(int(table.columnRef(0).getUnitSystem().dimension()), "dimension");
+        QTEST(table.columnRef(0).getUnitSystem().unitIndex(), "unit");
+    }
+
+    void tolerated_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("rows first") << "<row>1;2</row><row>3;4</row>" + twoColumns;
+        QTest::newRow("semicolon and blanks at the end")
+            << twoColumns + "<row>\n 1 ; +2;\n</row><row>3;4;</row>";
+        QTest::newRow("unknown elements")
+            << "<x><row>9</row></x>" + twoColumns + "<row>1<y>8</y>;2</row><row>3;4</row>";
+        QTest::newRow("pieces of text")
+            << twoColumns + "<row>1<!-- ;7 -->;<![CDATA[2]]></row><row>&#51;;4</row>";
+        QTest::newRow("false claims") << "<columns>900000000</columns><rows>2000000000</rows>" + twoColumns
+                + "<row nb='7'>1;2</row><row nb='7'>3;4</row>";
+    }
+    void tolerated()
+    {
+        QFETCH(QByteArray, content);
+        bool ok = false;
+        const kdDataTable table = kdDataTable::fromXml(xml(content), &ok);
+        QVERIFY(ok);
+        QCOMPARE(table.columnRef(0).values(), (QVector<double>{1, 3}));
+        QCOMPARE(table.columnRef(1).values(), (QVector<double>{2, 4}));
+    }
+
+    void elementsGoBeforeAttributes()
+    {
+        const kdDataTable table = kdDataTable::fromXml(
+            QStringLiteral("<kdDataTable name='a' type='1'><name>b</name><type>2</type></kdDataTable>"));
+        QCOMPARE(table.name(), QStringLiteral("b"));
+        QCOMPARE(int(table.type()), 2);
+        QCOMPARE(kdDataTable::fromXml(xml(QByteArray())).name(), QStringLiteral("t"));
+    }
+
+    void broken_data()
+    {
+        QTest::addColumn<QString>("document");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("too many values") << xml(twoColumns + "<row>1;2</row><row>1;2;3</row>")
+                                         << "row 2 of 't' has 3 values, the table has 2 columns";
+        QTest::newRow("too few values, first row") << xml(twoColumns + "<row>1</row><row>1;2</row>")
+                                                   << "row 1 of 't' has 1 value, the table has 2 columns";
+        QTest::newRow("too few values, columns last")
+            << xml("<row>1</row>" + twoColumns) << "row 1 of 't' has 1 value, the table has 2 columns";
+        QTest::newRow("empty row") << xml("<columndata/><row/>")
+                                   << "row 1 of 't' has 0 values, the table has 1 column";
+        QTest::newRow("no columns") << xml("<row>1</row>")
+                                    << "row 1 of 't' has 1 value, the table has 0 columns";
+        QTest::newRow("no number") << xml(twoColumns + "<row>1;2</row><row>1;a2</row>")
+                                   << "row 2, column 2: 'a2' is not a number";
+        QTest::newRow("missing value")
+            << xml(twoColumns + "<row>;2</row>") << "row 1, column 1: '' is not a number";
+        QTest::newRow("decimal comma")
+            << xml("<columndata/><row>1,5</row>") << "row 1, column 1: '1,5' is not a number";
+        QTest::newRow("too large") << xml("<columndata/><row>1e999</row>")
+                                   << "row 1, column 1: '1e999' is not a number";
+        QTest::newRow("column type") << xml("<columndata type='length'/>")
+                                     << "'length' is not a whole number";
+        QTest::newRow("unit of another dimension")
+            << xml("<columndata/><columndata dimension='4' unit_symbol='MPa'/>")
+            << "column 2 has the unit 'MPa', which its dimension does not know";
+        QTest::newRow("cut off") << xml(twoColumns).left(40) << "Premature end of document.";
+        QTest::newRow("other element") << "<table/>"
+                                       << "the element 'kdDataTable' is missing";
+    }
+    void broken()
+    {
+        QFETCH(QString, document);
+        kdDataTable table = flowCurve();
+        QXmlStreamReader reader(document);
+        QVERIFY(!table.readXML(reader));
+        QTEST(reader.errorString(), "error");
+        QVERIFY(table == flowCurve());
+        bool ok = true;
+        QVERIFY(kdDataTable::fromXml(document, &ok) == kdDataTable());
+        QVERIFY(!ok);
+    }
+
+    void garbageBehindTheTable()
+    {
+        bool ok = true;
+        kdDataTable::fromXml(flowCurve().toXml() + QLatin1String("<x/>"), &ok);
+        QVERIFY(!ok);
+    }
+
+    void insideALargerDocument()
+    {
+        QString document;
+        QXmlStreamWriter writer(&document);
+        writer.writeStartElement(QStringLiteral("project"));
+        QVERIFY(flowCurve().writeXML(writer));
+        QVERIFY(flowCurve().writeXMLForJES(writer));
+        writer.writeTextElement(QStringLiteral("after"), QString());
+        writer.writeEndElement();
+
+        QXmlStreamReader reader(document);
+        QVERIFY(reader.readNextStartElement());
+        kdDataTable table;
+        QVERIFY(table.readXML(reader)); // stands before the element
+        QVERIFY(reader.isEndElement() && reader.name() == kdDataTable::xmlStartElement());
+        QVERIFY(reader.readNextStartElement());
+        QVERIFY(table.readXMLForJES(reader)); // stands on it
+        QVERIFY(reader.readNextStartElement());
+        QCOMPARE(reader.name().toString(), QStringLiteral("after"));
+        QVERIFY(!table.readXML(reader)); // and finds none in here
+        QVERIFY(table == flowCurve());
+    }
+
+    void otherAttributesStay()
+    {
+        kdDataTable table = flowCurve();
+        table.setEditable(false);
+        table.setColorId(3);
+        table.setDefaultYColumnIndex(0);
+        QVERIFY(readFromXml(writtenToDevice(flowCurve()), table));
+        QCOMPARE(table.isEditable(), false);
+        QCOMPARE(table.colorId(), 3);
+        QCOMPARE(table.defaultYColumnIndex(), 0);
+        table.setDefaultXColumnIndex(1);
+        QVERIFY(readFromXml(xml("<columndata/>").toUtf8(), table));
+        QCOMPARE(table.defaultXColumnIndex(), 0);
+    }
+
+    void devicesThatRefuse()
+    {
+        QFile full(QStringLiteral("/dev/full"));
+        if (!full.exists())
+            QSKIP("This system has no device that is always full.");
+        QVERIFY(!flowCurve().writeXML(full));
+        QVERIFY(!full.isOpen());
+        QFile noFolder(QStringLiteral("/no such folder/table.xml"));
+        QVERIFY(!flowCurve().writeXML(noFolder));
+    }
+
+    // A reader of another make sees the same table.
+    void readByPython()
+    {
+        const QString python = QStandardPaths::findExecutable(QStringLiteral("python3"));
+        if (python.isEmpty())
+            QSKIP("python3 is not installed.");
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("table.xml")));
+        QVERIFY(flowCurve().writeXML(file));
+        const QString script = QStringLiteral(
+            "import sys, xml.etree.ElementTree as E\n"
+            "t = E.parse(sys.argv[1]).getroot()\n"
+            "print(t.tag, t.get('name'), t.get('type'), t.get('columns'), t.get('rows'), sep='|')\n"
+            "print([c.tag for c in t])\n"
+            "print(ascii([t.findtext(n) for n in ('name', 'idTag', 'comment', 'type', 'columns', 'rows')]))\n"
+            "print(ascii([(c.get('title'), c.get('unit_symbol'), c.findtext('name')) for c in "
+            "t.iter('columndata')]))\n"
+            "print([(r.get('nb'), [float(v) for v in r.text.split(';')]) for r in t.iter('row')])\n");
+        QProcess process;
+        process.start(python, {QStringLiteral("-c"), script, file.fileName()});
+        QVERIFY(process.waitForFinished());
+        const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'));
+        QCOMPARE(lines.value(0), QStringLiteral("kdDataTable|flow curve|1|2|3"));
+        QCOMPARE(lines.value(1),
+                 QStringLiteral("['name', 'idTag', 'comment', 'type', 'columns', 'rows', 'columndata', "
+                                "'columndata', 'row', 'row', 'row']"));
+        QCOMPARE(lines.value(2),
+                 QStringLiteral("['flow curve', '{42}', 'S355, <20 \\xb0C> & \"rolled\"\\r\\nline 2\\rline 3"
+                                "\\ttab ', '1', '2', '3']"));
+        QCOMPARE(lines.value(3),
+                 QStringLiteral("[('Plastic\\nstrain; \"true\"', '-', '\\u03b5'), ('', 'MPa', '\\u03c3')]"));
+        QCOMPARE(lines.value(4),
+                 QStringLiteral("[('1', [0.0, 355.0]), ('2', [0.002, 357.5]), ('3', [0.15, -1e-300])]"));
+    }
+};
+
+KDQ_TEST_MAIN(TestTableXml)
+#include "tst_tablexml.moc"
