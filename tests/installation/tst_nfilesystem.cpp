@@ -1,0 +1,190 @@
+#include "kdqtest.h"
+
+#include <kdQCore/kdException>
+#include <kdQCore/nFileSystem>
+
+using namespace nFileSystem;
+
+namespace {
+
+void writeFile(const QString& path, const QByteArray& content = "x")
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Every entry below the folder, links marked with "@".
+QStringList treeOf(const QString& path)
+{
+    QStringList result;
+    QDirIterator entries(path, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        entries.next();
+        const QString mark = entries.fileInfo().isSymbolicLink() ? QStringLiteral("@") : QString();
+        result.append(mark + QDir(path).relativeFilePath(entries.filePath()));
+    }
+    result.sort();
+    return result;
+}
+
+template <typename Function>
+QString failureOf(Function function)
+{
+    try {
+        function();
+    } catch (const kdException& failure) {
+        return failure.getErrorMessage();
+    }
+    return QString();
+}
+
+} // namespace
+
+class TestNFileSystem : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const char* name) const { return m_folder->filePath(QString::fromUtf8(name)); }
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void copiesATree()
+    {
+        writeFile(path("from/a.dat"), "new");
+        writeFile(path("from/.hidden/Größe 1.txt"), "y");
+        QVERIFY(QDir().mkpath(path("from/empty/inner")));
+        QVERIFY(QFile::link(QStringLiteral("a.dat"), path("from/link")));
+        QVERIFY(QFile::link(QStringLiteral("."), path("from/.hidden/circle")));
+        QVERIFY(QFile::link(QStringLiteral("nowhere"), path("from/broken")));
+        writeFile(path("to/run/a.dat"), "old");
+        writeFile(path("to/run/kept"), "kept");
+
+        copyDirRecursivly(path("from"), path("to/run"));
+        QStringList expected = treeOf(path("from")) + QStringList(QStringLiteral("kept"));
+        expected.sort();
+        QCOMPARE(treeOf(path("to/run")), expected);
+        QCOMPARE(contentOf(path("to/run/a.dat")), QByteArray("new"));
+        QCOMPARE(contentOf(path("to/run/.hidden/Größe 1.txt")), QByteArray("y"));
+        QCOMPARE(QFileInfo(path("to/run/link")).canonicalFilePath(),
+                 QFileInfo(path("to/run/a.dat")).canonicalFilePath());
+        copyDirRecursivly(path("from"), path("to/run"));
+        QCOMPARE(treeOf(path("to/run")), expected);
+    }
+
+    void copyIntoItself_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("same") << QStringLiteral("from");
+        QTest::newRow("same, spelt otherwise") << QStringLiteral("./from/../from/");
+        QTest::newRow("below") << QStringLiteral("from/new/newer");
+        QTest::newRow("below through a link") << QStringLiteral("link/new");
+    }
+
+    void copyIntoItself()
+    {
+        QFETCH(QString, target);
+        writeFile(path("from/a"));
+        QVERIFY(QFile::link(path("from"), path("link")));
+        const QStringList before = treeOf(m_folder->path());
+        const QString failure =
+            failureOf([&] { copyDirRecursivly(path("from"), m_folder->filePath(target)); });
+        QVERIFY2(failure.contains(QLatin1String("lies in the source")), qPrintable(failure));
+        QCOMPARE(treeOf(m_folder->path()), before);
+    }
+
+    void copyBesideASimilarName()
+    {
+        writeFile(path("from/a"));
+        copyDirRecursivly(path("from"), path("from2"));
+        QVERIFY(QFile::exists(path("from2/a")));
+    }
+
+    void copyFileKeepsWhatItCannotReplace()
+    {
+        writeFile(path("a"), "content");
+        QVERIFY(failureOf([&] { copyFile(path("a"), path("a")); }).contains(QLatin1String("same file")));
+        QVERIFY(QFile::link(path("a"), path("link")));
+        QVERIFY(failureOf([&] { copyFile(path("a"), path("link")); }).contains(QLatin1String("same file")));
+        QVERIFY(!failureOf([&] { copyFile(path("missing"), path("a")); }).isEmpty());
+        QVERIFY(!failureOf([&] { copyFile(m_folder->path(), path("a")); }).isEmpty());
+        QCOMPARE(contentOf(path("a")), QByteArray("content"));
+        copyFile(path("a"), path("new/b"));
+        QCOMPARE(contentOf(path("new/b")), QByteArray("content"));
+    }
+
+    void removesATreeButNotWhatLinksLeadTo()
+    {
+        writeFile(path("kept/file"));
+        writeFile(path("gone/.inner/file"));
+        QVERIFY(QFile::link(path("kept"), path("gone/link")));
+        QVERIFY(QFile::link(path("nowhere"), path("gone/broken")));
+        QVERIFY(QFile::link(path("kept"), path("linkedFolder")));
+        QFile::setPermissions(path("gone/.inner/file"), QFileDevice::ReadOwner);
+        removeDirRecursivly(path("gone"));
+        removeDirRecursivly(path("linkedFolder"));
+        QCOMPARE(treeOf(m_folder->path()),
+                 QStringList({QStringLiteral("kept"), QStringLiteral("kept/file")}));
+    }
+
+    void failures()
+    {
+        writeFile(path("file"));
+        QVERIFY(QDir().mkpath(path("folder %1")));
+        const QString below = path("file/%1 below");
+        const QString missing = path("missing");
+        QCOMPARE(failureOf([&] { createDir(below); }),
+                 QStringLiteral("Could not create directory '%1'.").arg(below));
+        QCOMPARE(failureOf([&] { copyDirRecursivly(path("folder %1"), below); }),
+                 QStringLiteral("Could not create directory '%1'.").arg(below));
+        const QString noFolder = QStringLiteral("Directory '%1' does not exist.");
+        QCOMPARE(failureOf([&] { copyDirRecursivly(missing, path("x")); }), noFolder.arg(missing));
+        QVERIFY(!QFile::exists(path("x")));
+        QCOMPARE(failureOf([&] { copyDirRecursivly(path("file"), path("x")); }), noFolder.arg(path("file")));
+        QCOMPARE(failureOf([&] { removeDirRecursivly(missing); }), noFolder.arg(missing));
+        QCOMPARE(failureOf([&] { removeDirRecursivly(path("file")); }), noFolder.arg(path("file")));
+        for (const QString& name : {missing, path("folder %1")}) {
+            QFile file(name);
+            QVERIFY(!file.remove());
+            QCOMPARE(failureOf([&] { removeFile(name); }),
+                     QStringLiteral("Failed to remove file '%1': %2").arg(name, file.errorString()));
+        }
+    }
+
+    void cleanPaths_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("withSeparator");
+        QTest::addColumn<QString>("clean");
+        QTest::newRow("plain") << QStringLiteral("/a/b") << false << QStringLiteral("/a/b");
+        QTest::newRow("separator dropped") << QStringLiteral("/a/b/") << false << QStringLiteral("/a/b");
+        QTest::newRow("separator added") << QStringLiteral("a/b") << true << QStringLiteral("a/b/");
+        QTest::newRow("dots and double separators")
+            << QStringLiteral("/a//./x/../b") << true << QStringLiteral("/a/b/");
+        QTest::newRow("root") << QStringLiteral("/") << false << QStringLiteral("/");
+        QTest::newRow("root with separator") << QStringLiteral("/") << true << QStringLiteral("/");
+        QTest::newRow("empty") << QString() << true << QString();
+    }
+
+    void cleanPaths()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, withSeparator);
+        QFETCH(QString, clean);
+        QCOMPARE(toCleanAndNativeDirPath(path, withSeparator), QDir::toNativeSeparators(clean));
+    }
+};
+
+KDQ_TEST_MAIN(TestNFileSystem)
+#include "tst_nfilesystem.moc"
