@@ -22,9 +22,9 @@ KDQCORE_EXPORT QString productNameAndFullRevisionOSVersion();
 KDQCORE_EXPORT QString productNameAndFullRevisionOSVersionTime(); ///< ... " - " and the build time
 KDQCORE_EXPORT QString productNameFullVersionAndSuffix(); ///< "Kaldoran Joining Optimizer 2018.1 (dev)"
 
-KDQCORE_EXPORT QString joiningDirName(); ///< "joining"
-KDQCORE_EXPORT QString exeFileName();    ///< "kaldoran.joining.exe"
-KDQCORE_EXPORT QString iniFileName();    ///< "kaldoran.joining"
+KDQCORE_EXPORT QString joiningDirName();     ///< "joining"
+KDQCORE_EXPORT QString exeFileName();        ///< "kaldoran.joining.exe"
+KDQCORE_EXPORT QString iniFileName();        ///< "kaldoran.joining"
 KDQCORE_EXPORT QString settingsFolderName(); ///< "kaldoran.joining_2018.1"
 
 KDQCORE_EXPORT QString settingsFileNameInvDbSpr();
