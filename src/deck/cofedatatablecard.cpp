@@ -142,7 +142,8 @@ bool coFeDataTableCard::take(const kdDataTable& table, const kdUnitSystem* xUnit
 {
     Reader reader(table);
     if (!table.isXYDataTable())
-        reader.fail(tr("it is no XY table, but has %n column(s).", nullptr, table.columns()));
+        reader.fail(
+            tr("it is no XY table (an X and a Y column); number of columns: %1.").arg(table.columns()));
     else if (table.rows() == 0)
         reader.fail(tr("it has no rows."));
     if (!reader.ok())

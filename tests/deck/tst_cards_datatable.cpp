@@ -114,8 +114,8 @@ private Q_SLOTS:
                     + QLatin1String(reason);
         };
         row("three columns", table({column("s", {1}), column("K", {1}), column("K", {1})}),
-            "it is no XY table, but has 3 column(s).");
-        row("no columns", table({}), "it is no XY table, but has 0 column(s).");
+            "it is no XY table (an X and a Y column); number of columns: 3.");
+        row("no columns", table({}), "it is no XY table (an X and a Y column); number of columns: 0.");
         row("empty", table({column("s", {}), column("K", {})}), "it has no rows.");
         row("descending", table({column("min", {0, 3, 2}), column("K", {1, 2, 3})}),
             "x must not descend, but 120 in row 3 follows 180.");

@@ -146,26 +146,17 @@ private Q_SLOTS:
                 "        1\n"));
     }
 
-    void reproducibilityFollowsTheRigidModesFlag_data()
-    {
-        QTest::addColumn<int>("flag");
-        QTest::addColumn<QByteArray>("field");
-        QTest::newRow("0") << 0 << QByteArray("1");
-        QTest::newRow("1") << 1 << QByteArray("0");
-        QTest::newRow("2") << 2 << QByteArray("2");
-        QTest::newRow("3") << 3 << QByteArray("-1");
-        QTest::newRow("none") << -1 << QByteArray("-1");
-    }
-
     void reproducibilityFollowsTheRigidModesFlag()
     {
-        QFETCH(int, flag);
-        coFeAutoforgeCard process;
-        process.setRemoveRigidModesFlag(static_cast<coFeAutoforgeCard::e_RigidModesFlag>(flag));
-        coFeSolverCard card(nSolver::PardisoParallelDirect);
-        card.setIsConditionalNumericalReproducibilityEnabled(true);
-        card.setAutoforgeField10Value(process.field10RemoveRigidModesFlag());
-        QTEST(write(card, layouts[2]).deck.split('\n').at(1).split(',').at(13), "field");
+        const QMap<int, QByteArray> fieldOfFlag{{0, "1"}, {1, "0"}, {2, "2"}, {3, "-1"}, {-1, "-1"}};
+        for (auto it = fieldOfFlag.begin(); it != fieldOfFlag.end(); ++it) {
+            coFeAutoforgeCard process;
+            process.setRemoveRigidModesFlag(static_cast<coFeAutoforgeCard::e_RigidModesFlag>(it.key()));
+            coFeSolverCard card(nSolver::PardisoParallelDirect);
+            card.setIsConditionalNumericalReproducibilityEnabled(true);
+            card.setAutoforgeField10Value(process.field10RemoveRigidModesFlag());
+            QCOMPARE(write(card, layouts[2]).deck.split('\n').at(1).split(',').at(13), it.value());
+        }
     }
 
     void nonSymmetricSystems()
@@ -282,41 +273,32 @@ private Q_SLOTS:
         QCOMPARE(write(second, layouts[0]).deck.count('\n'), 9);
     }
 
-    void pointCurrentChecksItsPreconditions_data()
-    {
-        QTest::addColumn<bool>("isLabelled");
-        QTest::addColumn<bool>("isSet");
-        QTest::addColumn<bool>("isPlaced");
-        for (int bits = 0; bits < 8; ++bits)
-            QTest::addRow("%d", bits) << ((bits & 1) != 0) << ((bits & 2) != 0) << ((bits & 4) != 0);
-    }
-
     void pointCurrentChecksItsPreconditions()
     {
-        QFETCH(bool, isLabelled);
-        QFETCH(bool, isSet);
-        QFETCH(bool, isPlaced);
-        cFePointCurrentCard card;
-        QStringList expected;
-        if (isLabelled)
-            card.setLabel(QStringLiteral("label"));
-        else
-            expected << QStringLiteral("Missing unique label that is referenced by the LOADCASE option.");
-        if (isSet)
-            card.setTableId(0);
-        else
-            expected << QStringLiteral("Either current value of table id must be set.");
-        if (isPlaced)
-            card.setControlNode(QStringLiteral("node"));
-        else
-            expected << QStringLiteral("Missing control node.");
-        LogCapture log;
-        const Written written = write(card, layouts[0]);
-        QCOMPARE(written.result, expected.isEmpty());
-        QCOMPARE(written.deck.isEmpty(), !expected.isEmpty());
-        QCOMPARE(log.texts(), expected);
-        for (const kdLog::Record& record : log.records())
-            QVERIFY(record.severity == kdLog::Fault && record.tag == kdLog::FailedAssert);
+        const QStringList texts{
+            QStringLiteral("Missing unique label that is referenced by the LOADCASE option."),
+            QStringLiteral("Either current value of table id must be set."),
+            QStringLiteral("Missing control node.")};
+        for (unsigned missing = 0; missing < 8; ++missing) {
+            cFePointCurrentCard card;
+            if (!(missing & 1U))
+                card.setLabel(QStringLiteral("label"));
+            if (!(missing & 2U))
+                card.setTableId(0);
+            if (!(missing & 4U))
+                card.setControlNode(QStringLiteral("node"));
+            QStringList expected;
+            for (int i = 0; i < 3; ++i)
+                if (missing & (1U << i))
+                    expected.append(texts.at(i));
+            LogCapture log;
+            const Written written = write(card, layouts[0]);
+            QCOMPARE(written.result, missing == 0);
+            QCOMPARE(written.deck.isEmpty(), missing != 0);
+            QCOMPARE(log.texts(), expected);
+            for (const kdLog::Record& record : log.records())
+                QVERIFY(record.severity == kdLog::Fault && record.tag == kdLog::FailedAssert);
+        }
     }
 
     void pointCurrentIsWrittenInAmpere()

@@ -149,18 +149,6 @@ private Q_SLOTS:
                                                       "   12    2    2\n"
                                                       "2.93149E+23.55000E+8\n"
                                                       "6.73149E+2-5.0000E-1\n");
-        QTest::newRow("fixed extended") << 1
-                                        << QByteArray("tableyield stress\n"
-                                                      "         3         1         0         0         2\n"
-                                                      "        12         2         2\n"
-                                                      "2.931499999999999E+23.550000000000000E+8\n"
-                                                      "6.731499999999999E+2-5.00000000000000E-1\n");
-        QTest::newRow("free standard") << 2
-                                       << QByteArray("table,yield stress\n"
-                                                     "3,1,0,0,2,\n"
-                                                     "12,2,2,\n"
-                                                     "2.93149E+2,3.55000E+8,\n"
-                                                     "6.73149E+2,-5.0000E-1,\n");
         QTest::newRow("free extended") << 3
                                        << QByteArray("table,yield stress\n"
                                                      "3,1,0,0,2,\n"
