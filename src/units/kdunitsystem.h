@@ -62,7 +62,7 @@ public:
     };
 
     /// The index that stands for "no unit".
-    enum : int { NoUnit = -1 };
+    static constexpr int NoUnit = -1;
 
     /// The plain number: dimension None, unit "-".
     constexpr kdUnitSystem() = default;

@@ -42,7 +42,7 @@ bool readUnit(const QXmlStreamAttributes& attributes, kdUnitSystem* unit)
         return ok;
     }
     const bool isStoredWithoutUnit = attributes.hasAttribute(unitAttribute);
-    *unit = kdUnitSystem(dimension, isStoredWithoutUnit ? int(kdUnitSystem::NoUnit) : 0);
+    *unit = kdUnitSystem(dimension, isStoredWithoutUnit ? kdUnitSystem::NoUnit : 0);
     return hasDimension || !attributes.hasAttribute(dimensionAttribute);
 }
 

@@ -13,7 +13,9 @@
 #include <kdQCore/nKaldoranWelding>
 #include <kdQCore/nProcessInfo>
 
+#include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 namespace am = nKaldoranAm;
 namespace demos = nKaldoranDemos;
@@ -72,6 +74,7 @@ private Q_SLOTS:
     void pagesAndDocumentsFollowTheLanguage();
     void linkTextIsPlainText();
     void missingMaterialApplicationIsLogged();
+    void startsMaterialApplicationOfItsInstallation();
 };
 
 void TestProductTexts::cleanup()
@@ -316,6 +319,40 @@ void TestProductTexts::missingMaterialApplicationIsLogged()
     QVERIFY(log.contains(kdLog::Fault, kdLog::General,
                          QStringLiteral("Open Kaldoran Material, path ") + material::executableFilePath()
                              + QStringLiteral(":, failed")));
+}
+
+// Runs this very function once more as an application in "<root>/welding/bin".
+void TestProductTexts::startsMaterialApplicationOfItsInstallation()
+{
+#ifdef Q_OS_WIN
+    QSKIP("The stand-in for the material application is a shell script.");
+#endif
+    const QStringList arguments{material::openFileFlag(), QStringLiteral("a b.xmt")};
+    if (QCoreApplication::applicationDirPath().endsWith(QStringLiteral("/welding/bin"))) {
+        LogCapture log;
+        QVERIFY(material::execute(arguments));
+        QVERIFY(
+            log.contains(kdLog::Trace, kdLog::General,
+                         QStringLiteral("Open Kaldoran Material, path: ") + material::executableFilePath()));
+        return;
+    }
+
+    QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkpath(QStringLiteral("welding/bin")));
+    QVERIFY(QDir(root.path()).mkpath(QStringLiteral("material/bin")));
+    const QString welding = root.filePath(QStringLiteral("welding/bin/welding"));
+    QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), welding));
+    QFile script(root.filePath(QStringLiteral("material/bin/kaldoran.material")));
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nprintf '%s|' \"$@\" >\"$0.new\" && mv \"$0.new\" \"$0.started\"\n");
+    script.close();
+    QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+
+    QCOMPARE(QProcess::execute(welding, {QString::fromLatin1(QTest::currentTestFunction())}), 0);
+    QFile started(script.fileName() + QStringLiteral(".started"));
+    QTRY_VERIFY_WITH_TIMEOUT(started.exists(), 30000);
+    QVERIFY(started.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(started.readAll()), arguments.join(QLatin1Char('|')) + QLatin1Char('|'));
 }
 
 KDQ_TEST_MAIN(TestProductTexts)
