@@ -18,6 +18,14 @@ namespace {
 
 QString destinationOfThisRun;
 
+QString currentDirectory()
+{
+    QString path = QDir::currentPath();
+    if (!path.endsWith(QLatin1Char('/')))
+        path += QLatin1Char('/');
+    return QDir::toNativeSeparators(path);
+}
+
 void logFact(const char* label, const QString& value)
 {
     constexpr int labelWidth = 19;
@@ -83,9 +91,8 @@ void kdDebugLog::createInstance(int argc, char* const* argv, bool logInCurrentDi
     nPlatform::presetTimeZone();
     const QString program = argc > 0 && argv && argv[0] ? QString::fromLocal8Bit(argv[0]) : QString();
     const QString baseName = QFileInfo(program).fileName();
-    const QString destination = logInCurrentDirectory
-        ? QDir::toNativeSeparators(QDir::currentPath() + QLatin1Char('/')) + baseName
-        : defaultLogPath(baseName);
+    const QString destination =
+        logInCurrentDirectory ? currentDirectory() + baseName : defaultLogPath(baseName);
     nLogBackEnd::Settings settings;
     settings.programName = program.toLocal8Bit().toStdString();
     settings.destination = destination.toLocal8Bit().toStdString();
@@ -143,7 +150,7 @@ QString kdDebugLog::defaultLogPath(QString baseName)
 {
     if (baseName.isEmpty())
         baseName = QStringLiteral("kaldoran");
-    const QDir directory(QString::fromLocal8Bit(qgetenv("LOCALAPPDATA")) + QLatin1String("/kaldoran/log/"));
+    const QDir directory(qEnvironmentVariable("LOCALAPPDATA") + QLatin1String("/kaldoran/log/"));
     if (!directory.exists())
         directory.mkpath(QStringLiteral("."));
     return directory.absoluteFilePath(baseName + QLatin1Char('-'));
@@ -167,7 +174,7 @@ void kdDebugLog::logSystemInfo(int argc, char* const* argv)
     logRule();
     logMachine(system);
     logRule();
-    logFact("Username", QString::fromLocal8Bit(qgetenv("USERNAME")));
+    logFact("Username", qEnvironmentVariable("USERNAME"));
     logFact("Hostname", system.hostName);
     logFact("HostID", system.hostId);
     logRule();

@@ -62,15 +62,25 @@ bool isControl(char c)
 }
 
 /// A text that comes from outside must not be able to forge a line or to command a terminal.
-QByteArray harmless(const QString& text)
+QByteArray harmless(QByteArray bytes)
 {
-    QByteArray bytes = text.toLocal8Bit();
     if (std::none_of(bytes.cbegin(), bytes.cend(), isControl))
         return bytes;
     bytes.replace("\r\n", "\n");
     std::replace_if(
         bytes.begin(), bytes.end(), [](char c) { return isControl(c) && c != '\n'; }, ' ');
     return bytes.replace("\n", "\n    ");
+}
+
+/// Leaves no half of a character of a multi-byte encoding behind.
+QByteArray limited(QByteArray bytes)
+{
+    int size = nLogBackEnd::maximumTextLength;
+    if (bytes.size() <= size)
+        return bytes;
+    for (int i = 0; i < 3 && (static_cast<unsigned char>(bytes.at(size)) & 0xC0) == 0x80; ++i)
+        --size;
+    return bytes.left(size) + " [...]";
 }
 
 void deliver(const Record& record)
@@ -123,21 +133,26 @@ void write(Severity severity, Tag tag, const char* file, int line, const QString
     const BaseName name(file);
     severity = std::clamp(severity, Trace, Critical);
     if (severity >= minimumSeverity())
-        nLogBackEnd::write(severity, tagText(tag), name.text(), line, harmless(text));
+        nLogBackEnd::write(severity, tagText(tag), name.text(), line, limited(harmless(text.toLocal8Bit())));
     if (sinkCount.load() > 0)
         deliver({severity, tag, QString::fromLocal8Bit(name.text()), line, text});
 }
 
-Sink::Sink()
-{
-    const std::lock_guard<std::recursive_mutex> lock(sinks().mutex);
-    sinks().list.push_back(this);
-    ++sinkCount;
-}
+Sink::Sink() = default;
 
 Sink::~Sink()
 {
     detach();
+}
+
+void Sink::attach()
+{
+    Sinks& s = sinks();
+    const std::lock_guard<std::recursive_mutex> lock(s.mutex);
+    if (std::find(s.list.begin(), s.list.end(), this) != s.list.end())
+        return;
+    s.list.push_back(this);
+    ++sinkCount;
 }
 
 void Sink::detach()

@@ -17,13 +17,13 @@
 ///
 /// The text is written in local 8-bit encoding. Whoever reads the file finds a severity digit at the start of
 /// each line and nowhere else: further lines of a text are indented by four blanks, other control characters
-/// become blanks. Texts of more than 29 000 bytes are cut.
+/// become blanks. Texts of more than 29 000 bytes are cut and end in " [...]".
 ///
 /// Thread-safe.
 namespace kdLog {
 
 /// Seven severities, 0 the least severe. A line of severity 4 or more is on disk when the call returns.
-enum Severity {
+enum Severity : int {
     Trace = 0, ///< life-cycle traces and routine facts
     Detail = 1,
     Notable = 2, ///< notable steps
@@ -34,7 +34,7 @@ enum Severity {
 };
 
 /// What a line is about. Its text, padded to 17 characters, opens the line.
-enum Tag {
+enum Tag : int {
     General,
     Remote,
     License,
@@ -73,10 +73,13 @@ struct Record {
     QString text; ///< without the tag
 };
 
-/// Sees every line while it lives, in the thread that writes the line and before the call returns. One line
-/// is delivered at a time, so received() needs no lock of its own; it must not wait for another thread that
-/// logs. A line that it logs itself reaches the file, but no sink. For tests and for applications that show
-/// the log.
+/// Sees every line while it is attached, in the thread that writes the line and before the call returns. One
+/// line is delivered at a time, so received() needs no lock of its own; it must not wait for another thread
+/// that logs. A line that it logs itself reaches the file, but no sink. For tests and for applications that
+/// show the log.
+///
+/// The derived class attaches last thing in its constructor and detaches first thing in its destructor: the
+/// base would do it while another thread could meet an object that is only half there.
 class KDQCORE_EXPORT Sink {
 public:
     Sink();
@@ -86,8 +89,8 @@ public:
     virtual void received(const Record& record) = 0;
 
 protected:
-    /// Waits for a delivery in another thread and takes no further line. Where other threads log, the derived
-    /// class calls it first thing in its destructor: the base's comes too late for the members.
+    void attach();
+    /// Waits for a delivery that runs in another thread.
     void detach();
 };
 

@@ -90,6 +90,8 @@ void setDestination(const Settings& settings)
     FLAGS_alsologtostderr = settings.echo;
     FLAGS_stderrthreshold = google::NUM_SEVERITIES;
     FLAGS_logtostderr = false;
+    FLAGS_log_prefix = true;
+    FLAGS_timestamp_in_logfile_name = true;
     FLAGS_minloglevel = google::GLOG_INFO;
     google::SetLogDestination(google::GLOG_INFO, settings.destination.c_str());
     for (int level = google::GLOG_WARNING; level < google::NUM_SEVERITIES; ++level)
@@ -149,7 +151,7 @@ void write(kdLog::Severity severity, const char* tag, const char* file, int line
     google::LogMessage(file, line, glogLevel(severity))
         .stream()
         .write(tag, 17)
-        .write(text.constData(), std::min(int(text.size()), maximumTextLength));
+        .write(text.constData(), text.size());
     severityOfThisLine = foreignLine;
     if (severity >= kdLog::Fault)
         google::FlushLogFiles(google::GLOG_INFO);

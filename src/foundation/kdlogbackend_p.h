@@ -21,7 +21,7 @@ bool start(const Settings& settings);
 bool stop();
 void flush();
 
-/// The longest text that one line takes, in bytes; more is cut off.
+/// The longest text that write() takes, in bytes; glog cuts the whole line at 30 000.
 constexpr int maximumTextLength = 29000;
 
 /// \a file is a base name, \a text holds no line break that could pass for the start of a line.

@@ -86,7 +86,8 @@ void kdReporter::slotProgress(double fraction)
             return;
         if (!throttle.operationRunning) {
             const QPointer<kdReporter> self(this);
-            Q_EMIT signalStartOperation(throttle.operation);
+            const QString operation = throttle.operation; // a slot may start another
+            Q_EMIT signalStartOperation(operation);
             throttle.operationRunning = true;
             throttle.noteSignal();
             if (!self)

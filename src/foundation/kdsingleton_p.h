@@ -5,12 +5,12 @@
 #include <QString>
 
 /// What the process-wide objects have in common: one pointer, and the lines that the log shows about it.
-/// A class keeps the pointer and forwards its static members here, through the KD_SINGLETON_ macros, so that
+/// A class keeps the pointer and forwards its static members here, through KD_SINGLETON, so that
 /// the log names the class's own source file.
 class kdSingleton {
 public:
     kdSingleton(const char* className, kdLog::Tag tag, const char* file, int line)
-        : m_className(QString::fromLatin1(className)), m_tag(tag), m_file(file), m_line(line)
+        : m_className(className), m_tag(tag), m_file(file), m_line(line)
     {
     }
 
@@ -18,24 +18,25 @@ public:
     void create(T*& instance, Make make) const
     {
         if (instance) {
-            log(kdLog::Fault, kdLog::General, m_className + QLatin1String(" creation failed!"));
+            log(kdLog::Fault, kdLog::General,
+                QLatin1String(m_className) + QLatin1String(" creation failed!"));
             return;
         }
         instance = make();
-        log(kdLog::Trace, m_tag, m_className + QLatin1String(" created."));
+        log(kdLog::Trace, m_tag, QLatin1String(m_className) + QLatin1String(" created."));
     }
 
     template <typename T, typename Destroy>
     void remove(T*& instance, Destroy destroy) const
     {
         if (!instance) {
-            log(kdLog::Fault, kdLog::General, m_className + QLatin1String(" remove failed!"));
+            log(kdLog::Fault, kdLog::General, QLatin1String(m_className) + QLatin1String(" remove failed!"));
             return;
         }
         T* const former = instance;
         instance = nullptr;
         destroy(former);
-        log(kdLog::Trace, m_tag, m_className + QLatin1String(" removed."));
+        log(kdLog::Trace, m_tag, QLatin1String(m_className) + QLatin1String(" removed."));
     }
 
     /// Without an instance the stand-in takes the call, so that a caller's mistake is logged and not a crash.
@@ -45,7 +46,7 @@ public:
         if (instance)
             return *instance;
         log(kdLog::Fault, kdLog::General,
-            QStringLiteral("Call of %1 while instance does not exist !").arg(m_className));
+            QStringLiteral("Call of %1 while instance does not exist !").arg(QLatin1String(m_className)));
         return makeStandIn();
     }
 
@@ -56,7 +57,7 @@ private:
             kdLog::write(severity, tag, m_file, m_line, text);
     }
 
-    QString m_className;
+    const char* m_className;
     kdLog::Tag m_tag;
     const char* m_file;
     int m_line;

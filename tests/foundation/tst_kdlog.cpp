@@ -3,16 +3,174 @@
 
 #include <kdQCore/kdLog>
 
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+class CallbackSink : public kdLog::Sink {
+public:
+    explicit CallbackSink(std::function<void()> callback) : m_callback(std::move(callback)) { attach(); }
+    ~CallbackSink() override { detach(); }
+
+    void received(const kdLog::Record&) override
+    {
+        ++m_count;
+        const std::function<void()> callback = m_callback; // outlives this object
+        callback();
+    }
+    int count() const { return m_count; }
+
+private:
+    std::function<void()> m_callback;
+    int m_count = 0;
+};
+
+} // namespace
+
 class TestKdLog : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { kdLog::setMinimumSeverity(kdLog::Trace); }
+
     void sinkSeesEveryPartOfALine()
     {
         LogCapture log;
-        KD_LOG(kdLog::Fault, kdLog::Socket, QStringLiteral("Größe %1"));
-        QVERIFY(log.contains(kdLog::Fault, kdLog::Socket, QStringLiteral("Größe %1")));
+        KD_LOG(kdLog::Fault, kdLog::Socket, QString::fromUtf8("Größe %1"));
+        QVERIFY(log.contains(kdLog::Fault, kdLog::Socket, QString::fromUtf8("Größe %1")));
         QCOMPARE(log.records().constFirst().file, QStringLiteral("tst_kdlog.cpp"));
+        QCOMPARE(log.records().constFirst().line, __LINE__ - 3);
+    }
+
+    void fileNames_data()
+    {
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("plain") << QByteArray("copaths.cpp") << "copaths.cpp";
+        QTest::newRow("folders") << QByteArray("/src/Foundation/CoPaths.CPP") << "copaths.cpp";
+        QTest::newRow("Windows folders") << QByteArray("C:\\src\\coPaths.cpp") << "copaths.cpp";
+        QTest::newRow("mixed") << QByteArray("C:\\src/a\\b.cpp") << "b.cpp";
+        QTest::newRow("empty") << QByteArray("") << "";
+        QTest::newRow("folder only") << QByteArray("/src/") << "";
+        QTest::newRow("endless") << QByteArray(5000, 'X') << QString(127, QLatin1Char('x'));
+    }
+
+    void fileNames()
+    {
+        QFETCH(QByteArray, path);
+        QFETCH(QString, expected);
+        LogCapture log;
+        kdLog::write(kdLog::Trace, kdLog::General, path.constData(), 1, QString());
+        QCOMPARE(log.records().constLast().file, expected);
+    }
+
+    void tagsAreSeventeenWide_data()
+    {
+        QTest::addColumn<int>("tag");
+        QTest::addColumn<QString>("word");
+        const char* const words[] = {"General",   "Remote",     "License",  "Paths",          "FailedAssert",
+                                     "BatchMode", "Setup",      "Command",  "Settings",       "WriteDat",
+                                     "Socket",    "ModelCheck", "Material", "InterProcessCom"};
+        int tag = kdLog::General;
+        for (const char* word : words)
+            QTest::newRow(word) << tag++ << QString::fromLatin1(word);
+        QTest::newRow("number beyond") << 99 << QStringLiteral("General");
+        QTest::newRow("number below") << -1 << QStringLiteral("General");
+    }
+
+    void tagsAreSeventeenWide()
+    {
+        QFETCH(int, tag);
+        QFETCH(QString, word);
+        QCOMPARE(QString::fromLatin1(kdLog::tagText(kdLog::Tag(tag))), word.leftJustified(17));
+    }
+
+    void strangeArgumentsAreTamed()
+    {
+        LogCapture log;
+        kdLog::write(kdLog::Severity(1000), kdLog::General, nullptr, -1, QString());
+        kdLog::write(kdLog::Severity(-5), kdLog::General, nullptr, 0, QString());
+        QCOMPARE(log.records().at(0).severity, kdLog::Critical);
+        QCOMPARE(log.records().at(1).severity, kdLog::Trace);
+    }
+
+    void textIsBuiltOnlyForThoseWhoWantIt()
+    {
+        int built = 0;
+        const auto text = [&built] {
+            ++built;
+            return QStringLiteral("text");
+        };
+        kdLog::setMinimumSeverity(kdLog::Fault);
+        KD_LOG(kdLog::Notice, kdLog::General, text());
+        QCOMPARE(built, 0);
+        KD_LOG(kdLog::Fault, kdLog::General, text());
+        QCOMPARE(built, 1);
+        LogCapture log;
+        KD_LOG(kdLog::Trace, kdLog::General, text());
+        QCOMPARE(built, 2);
+        QCOMPARE(log.records().size(), 1);
+    }
+
+    void aSinkThatLogsGetsNoEcho()
+    {
+        LogCapture other;
+        CallbackSink sink([] { KD_LOG(kdLog::Trace, kdLog::General, QStringLiteral("from the sink")); });
+        KD_LOG(kdLog::Trace, kdLog::General, QStringLiteral("from outside"));
+        QCOMPARE(sink.count(), 1);
+        QCOMPARE(other.texts(), QStringList{QStringLiteral("from outside")});
+    }
+
+    void aSinkThatThrowsHurtsNobody()
+    {
+        CallbackSink sink([] { throw std::runtime_error("sink"); });
+        LogCapture next;
+        KD_LOG(kdLog::Trace, kdLog::General, QStringLiteral("first"));
+        KD_LOG(kdLog::Trace, kdLog::General, QStringLiteral("second"));
+        QCOMPARE(next.records().size(), 2);
+    }
+
+    void sinksComeAndGoDuringADelivery()
+    {
+        std::unique_ptr<LogCapture> later(new LogCapture);
+        std::unique_ptr<LogCapture> fresh;
+        std::unique_ptr<CallbackSink> self;
+        const LogCapture* const doomed = later.get();
+        LogCapture last;
+        self.reset(new CallbackSink([&] {
+            self.reset();
+            later.reset();
+            fresh.reset(new LogCapture);
+        }));
+        QCOMPARE(doomed->records().size(), 0);
+        KD_LOG(kdLog::Trace, kdLog::General, QStringLiteral("first"));
+        KD_LOG(kdLog::Trace, kdLog::General, QStringLiteral("second"));
+        QVERIFY(!self && !later);
+        QCOMPARE(last.records().size(), 2);
+        QCOMPARE(fresh->texts(), QStringList{QStringLiteral("second")});
+    }
+
+    void threadsWriteWhileSinksComeAndGo()
+    {
+        LogCapture whole;
+        constexpr int lineCount = 200;
+        const auto writeLines = [] {
+            for (int i = 0; i < lineCount; ++i)
+                KD_LOG(kdLog::Trace, kdLog::General, QString::number(i));
+        };
+        std::thread first(writeLines);
+        std::thread second(writeLines);
+        for (int i = 0; i < 100; ++i) {
+            LogCapture passing;
+            KD_LOG(kdLog::Trace, kdLog::General, QStringLiteral("own"));
+            QVERIFY(passing.texts().contains(QStringLiteral("own")));
+        }
+        first.join();
+        second.join();
+        QCOMPARE(whole.records().size(), 2 * lineCount + 100);
     }
 };
 

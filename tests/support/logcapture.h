@@ -9,6 +9,9 @@
 /// Collects the log lines that are written while it lives.
 class LogCapture : public kdLog::Sink {
 public:
+    LogCapture() { attach(); }
+    ~LogCapture() override { detach(); }
+
     void received(const kdLog::Record& record) override
     {
         QMutexLocker lock(&m_mutex);

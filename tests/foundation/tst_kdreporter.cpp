@@ -1,0 +1,361 @@
+#include "kdqtest.h"
+#include "kdreporterthrottle_p.h"
+
+#include <kdQCore/kdReporter>
+#include <kdQCore/kdReporterInterface>
+#include <kdQCore/streamReporter>
+
+#include <QProcess>
+
+#include <functional>
+
+namespace {
+
+qint64 fakeTime = 0;
+
+class Producer : public kdReporterInterface {
+public:
+    using kdReporterInterface::kdReporterInterface;
+    using kdReporterInterface::messageReceivers;
+};
+
+/// Writes every signal of a reporter down, in a list that outlives it.
+void record(kdReporter& reporter, QStringList& events, const QString& prefix = QString())
+{
+    const auto add = [&events, prefix](const QString& event) { events.append(prefix + event); };
+    QObject::connect(&reporter, &kdReporter::signalErrorMessage,
+                     [add](const QString& t) { add(QStringLiteral("error ") + t); });
+    QObject::connect(&reporter, &kdReporter::signalMessage, [add](const QString& t, int level) {
+        add(QStringLiteral("message %1 ").arg(level) + t);
+    });
+    QObject::connect(&reporter, &kdReporter::signalStartOperation,
+                     [add](const QString& t) { add(QStringLiteral("start ") + t); });
+    QObject::connect(&reporter, &kdReporter::signalProgress,
+                     [add](double f) { add(QStringLiteral("progress ") + QString::number(f)); });
+    QObject::connect(&reporter, &kdReporter::signalFinishOperation,
+                     [add](const QString& t) { add(QStringLiteral("finish ") + t); });
+}
+
+} // namespace
+
+class TestKdReporter : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        fakeTime = 1000000;
+        kdReporterThrottle::instance() = kdReporterThrottle();
+        kdReporterThrottle::setClock([] { return fakeTime; });
+    }
+    void cleanupTestCase() { kdReporterThrottle::setClock(nullptr); }
+
+    /// A script: "+200" lets time pass, "s:text" starts, "p:0.3" makes progress, "f:text" finishes,
+    /// "e:text" and "m:text" are messages.
+    void throttle_data()
+    {
+        QTest::addColumn<QStringList>("script");
+        QTest::addColumn<QStringList>("events");
+        const auto row = [](const char* name, const char* script, const char* events) {
+            QTest::newRow(name) << QString::fromLatin1(script).split(QLatin1Char(','))
+                                << QString::fromLatin1(events).split(QLatin1Char(','), Qt::SkipEmptyParts);
+        };
+        row("second start is ignored", "s:a,+5000,s:b,f:c", "start a,finish c");
+        row("start after finish", "s:a,f:b,s:c", "start a,finish b,start c");
+        row("early progress is dropped", "s:a,+200,p:0.3", "start a");
+        row("just early", "s:a,+999,p:0.3", "start a");
+        row("just in time", "s:a,+1000,p:0.3", "start a,progress 0.3");
+        row("a signal starts the interval anew", "s:a,+1000,p:0.3,+999,p:0.4,+1,p:0.5",
+            "start a,progress 0.3,progress 0.5");
+        row("a dropped call does not", "s:a,+600,p:0.3,+400,p:0.4", "start a,progress 0.4");
+        row("the end always comes through", "s:a,+1,p:1", "start a,progress 1");
+        row("beyond the end", "s:a,p:1.5", "start a,progress 1.5");
+        row("one end only", "s:a,p:1,p:1", "start a,progress 1");
+        row("no end without an operation", "p:1", "");
+        row("no end after finish", "s:a,f:b,p:1", "start a,finish b");
+        row("progress after the end announces anew", "s:a,p:1,+1000,p:0.4,p:1",
+            "start a,progress 1,start a,progress 0.4,progress 1");
+        row("early progress after the end", "s:a,p:1,+999,p:0.4", "start a,progress 1");
+        row("progress after finish announces anew", "s:a,f:b,+1000,p:0.4",
+            "start a,finish b,start a,progress 0.4");
+        row("finish starts the interval anew", "s:a,+900,f:b,+999,p:0.4", "start a,finish b");
+        row("finish without start", "f:a", "finish a");
+        row("messages do not touch the interval", "s:a,+600,m:x,e:y,+400,p:0.5",
+            "start a,message 2 x,error y,progress 0.5");
+        row("no number", "s:a,+5000,p:nan,p:0.1", "start a,progress 0.1");
+        row("negative", "s:a,+1000,p:-1", "start a,progress -1");
+    }
+
+    void throttle()
+    {
+        QFETCH(QStringList, script);
+        QFETCH(QStringList, events);
+        kdReporter reporter;
+        const Producer producer(reporter);
+        QStringList seen;
+        record(reporter, seen);
+        for (const QString& step : qAsConst(script)) {
+            const QString value = step.mid(2);
+            switch (step.at(0).toLatin1()) {
+            case '+':
+                fakeTime += step.mid(1).toInt();
+                break;
+            case 's':
+                producer.startOperation(value);
+                break;
+            case 'p':
+                producer.progress(value == QStringLiteral("nan") ? qQNaN() : value.toDouble());
+                break;
+            case 'f':
+                producer.finishOperation(value);
+                break;
+            case 'e':
+                producer.errorMessage(value);
+                break;
+            case 'm':
+                producer.message(value, 2);
+                break;
+            }
+        }
+        QCOMPARE(seen, events);
+    }
+
+    void throttleIsShared()
+    {
+        kdReporter first;
+        kdReporter second;
+        Producer producer(first);
+        producer.startReportingTo(second);
+        QStringList seen;
+        record(first, seen, QStringLiteral("1 "));
+        record(second, seen, QStringLiteral("2 "));
+        producer.startOperation(QStringLiteral("a"));
+        producer.errorMessage(QStringLiteral("b"));
+        QCOMPARE(seen,
+                 QStringList({QStringLiteral("1 start a"), QStringLiteral("1 error b"),
+                              QStringLiteral("2 error b")}));
+    }
+
+    void anEndSeenBySlotsIsStillWithinTheOperation()
+    {
+        kdReporter reporter;
+        const Producer producer(reporter);
+        QStringList seen;
+        record(reporter, seen);
+        connect(&reporter, &kdReporter::signalProgress,
+                [&] { producer.startOperation(QStringLiteral("b")); });
+        producer.startOperation(QStringLiteral("a"));
+        producer.progress(1.0);
+        producer.startOperation(QStringLiteral("c"));
+        QCOMPARE(seen,
+                 QStringList(
+                     {QStringLiteral("start a"), QStringLiteral("progress 1"), QStringLiteral("start c")}));
+    }
+
+    void receiversKeepTheirOrderAndOccurOnce()
+    {
+        kdReporter a;
+        kdReporter b;
+        kdReporter c;
+        Producer first(a);
+        first.startReportingTo(b);
+        first.startReportingTo(a);
+        Producer second(c);
+        second.startReportingTo(b);
+        second.startReportingTo(first);
+        QCOMPARE(second.messageReceivers(), QList<kdReporter*>({&c, &b, &a}));
+
+        kdReporter later;
+        first.startReportingTo(later);
+        QCOMPARE(second.messageReceivers().size(), 3);
+
+        second.startReportingTo(second);
+        QCOMPARE(second.messageReceivers(), QList<kdReporter*>({&c, &b, &a}));
+
+        second.stopReportingTo(first);
+        QCOMPARE(second.messageReceivers(), QList<kdReporter*>{&c});
+        QCOMPARE(first.messageReceivers(), QList<kdReporter*>({&a, &b, &later}));
+        first.stopReportingTo(first);
+        QVERIFY(first.messageReceivers().isEmpty());
+    }
+
+    void theLinkCanBeMadeFromEitherEnd()
+    {
+        kdReporter reporter;
+        QStringList seen;
+        record(reporter, seen);
+        {
+            Producer producer;
+            reporter.startReceivingFrom(producer);
+            reporter.startReceivingFrom(producer);
+            producer.errorMessage(QStringLiteral("a"));
+            reporter.stopReceivingFrom(producer);
+            producer.errorMessage(QStringLiteral("b"));
+            reporter.startReceivingFrom(producer);
+        }
+        Producer survivor;
+        {
+            kdReporter passing;
+            passing.startReceivingFrom(survivor);
+        }
+        QVERIFY(survivor.messageReceivers().isEmpty());
+        QCOMPARE(seen, QStringList{QStringLiteral("error a")});
+    }
+
+    void changesDuringADelivery_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QStringList>("events");
+        const QString a = QStringLiteral("a error x");
+        const QString b = QStringLiteral("b error x");
+        const QString c = QStringLiteral("c error x");
+        QTest::newRow("receiver dies in its own slot") << "delete b" << QStringList({a, b, c});
+        QTest::newRow("earlier receiver dies") << "delete a" << QStringList({a, b, c});
+        QTest::newRow("later receiver dies") << "delete c" << QStringList({a, b});
+        QTest::newRow("all receivers die") << "delete all" << QStringList({a, b});
+        QTest::newRow("producer dies") << "delete producer" << QStringList({a, b});
+        QTest::newRow("producer and its receivers die") << "delete world" << QStringList({a, b});
+        QTest::newRow("later receiver leaves") << "detach c" << QStringList({a, b});
+        QTest::newRow("later receiver leaves and returns") << "reattach c" << QStringList({a, b, c});
+        QTest::newRow("a new one comes") << "attach d" << QStringList({a, b, c});
+        QTest::newRow("producer reports to itself") << "self" << QStringList({a, b, c});
+    }
+
+    void changesDuringADelivery()
+    {
+        QFETCH(QString, change);
+        QFETCH(QStringList, events);
+        QStringList seen;
+        QMap<QString, QPointer<kdReporter>> reporters;
+        QScopedPointer<Producer> producer(new Producer);
+        for (const char* name : {"a", "b", "c", "d"}) {
+            const QString key = QString::fromLatin1(name);
+            reporters[key] = new kdReporter;
+            record(*reporters[key], seen, key + QLatin1Char(' '));
+            if (key != QStringLiteral("d"))
+                producer->startReportingTo(*reporters[key]);
+        }
+        const QString operand = change.section(QLatin1Char(' '), 1);
+        const auto deleteReporters = [&] { qDeleteAll(reporters.values()); };
+        const QMap<QString, std::function<void()>> actions{
+            {QStringLiteral("delete"), [&] { delete reporters.value(operand); }},
+            {QStringLiteral("detach"), [&] { producer->stopReportingTo(*reporters.value(operand)); }},
+            {QStringLiteral("attach"), [&] { producer->startReportingTo(*reporters.value(operand)); }},
+            {QStringLiteral("reattach"),
+             [&] {
+                 producer->stopReportingTo(*reporters.value(operand));
+                 producer->startReportingTo(*reporters.value(operand));
+             }},
+            {QStringLiteral("self"),
+             [&] {
+                 Producer& self = *producer;
+                 self.startReportingTo(self);
+             }},
+            {QStringLiteral("delete all"), deleteReporters},
+            {QStringLiteral("delete producer"), [&] { producer.reset(); }},
+            {QStringLiteral("delete world"),
+             [&] {
+                 producer.reset();
+                 deleteReporters();
+             }},
+        };
+        const auto action = actions.value(change, actions.value(change.section(QLatin1Char(' '), 0, 0)));
+        connect(reporters.value(QStringLiteral("b")), &kdReporter::signalErrorMessage,
+                [action] { action(); });
+
+        producer->errorMessage(QStringLiteral("x"));
+        QCOMPARE(seen, events);
+        deleteReporters();
+        if (producer)
+            QVERIFY(producer->messageReceivers().isEmpty());
+    }
+
+    void aReporterMayDieInEverySlot_data()
+    {
+        QTest::addColumn<int>("signal");
+        const char* const names[] = {"error", "message", "start", "progress", "end", "finish", "start anew"};
+        int number = 0;
+        for (const char* name : names)
+            QTest::newRow(name) << number++;
+    }
+
+    void aReporterMayDieInEverySlot()
+    {
+        QFETCH(int, signal);
+        auto* reporter = new kdReporter;
+        const QPointer<kdReporter> guard(reporter);
+        Producer producer(*reporter);
+        const auto die = [&] { delete reporter; };
+        switch (signal) {
+        case 0:
+            connect(reporter, &kdReporter::signalErrorMessage, die);
+            break;
+        case 1:
+            connect(reporter, &kdReporter::signalMessage, die);
+            break;
+        case 3:
+        case 4:
+            connect(reporter, &kdReporter::signalProgress, die);
+            break;
+        case 5:
+            connect(reporter, &kdReporter::signalFinishOperation, die);
+            break;
+        default:
+            connect(reporter, &kdReporter::signalStartOperation, die);
+        }
+        if (signal != 6)
+            producer.startOperation(QStringLiteral("a"));
+        fakeTime += 2000;
+        if (signal != 4)
+            producer.progress(0.5);
+        producer.progress(1.0);
+        producer.errorMessage(QStringLiteral("a"));
+        producer.message(QStringLiteral("a"), 1);
+        producer.finishOperation(QStringLiteral("a"));
+        QVERIFY(!guard);
+        QVERIFY(producer.messageReceivers().isEmpty());
+    }
+
+    void streamReporterPrints_data()
+    {
+        QTest::addColumn<int>("maximumLevel");
+        QTest::addColumn<QByteArray>("messages");
+        QTest::newRow("none") << -1 << QByteArray();
+        QTest::newRow("level 0") << 0 << QByteArray("level 0\n");
+        QTest::newRow("levels 0 and 1") << 1 << QByteArray("level 0\nlevel 1\n");
+    }
+
+    void streamReporterPrints()
+    {
+        QFETCH(int, maximumLevel);
+        QFETCH(QByteArray, messages);
+        QProcess process;
+        process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/reporthelper"),
+                      {QString::number(maximumLevel)});
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.readAllStandardOutput().replace("\r\n", "\n"),
+                 QString::fromUtf8("Start: Erwärmen\nStart: again\n").toLocal8Bit()
+                     + "Progress: 0.5 %\n\nProgress: 0.125 %\n\nProgress: 0.333333 %\n\nProgress: 1 "
+                       "%\n\nProgress: 1e-07 %\n\n"
+                     + messages + "Finished: done\n");
+        QCOMPARE(process.readAllStandardError().replace("\r\n", "\n"),
+                 QString::fromUtf8("Error: zu heiß\n").toLocal8Bit());
+    }
+
+    void streamReporterLeavesTheThrottleAlone()
+    {
+        kdReporter window;
+        Producer producer;
+        streamReporter console(-1);
+        console.slotErrorMessage(QStringLiteral("expected on standard error"));
+        producer.startReportingTo(console);
+        producer.startReportingTo(window);
+        QStringList seen;
+        record(window, seen);
+        producer.startOperation(QStringLiteral("a"));
+        QCOMPARE(seen, QStringList{QStringLiteral("start a")});
+    }
+};
+
+KDQ_TEST_MAIN(TestKdReporter)
+#include "tst_kdreporter.moc"
