@@ -17,7 +17,7 @@
 class KDQCORE_EXPORT kdQLanguage {
 public:
     /// The numbers are stored in settings: they are never reused.
-    enum KDLANGUAGE {
+    enum KDLANGUAGE : int {
         German = 0,
         English = 1 ///< the language of the sources, needs no translation file
     };

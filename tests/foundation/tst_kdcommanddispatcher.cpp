@@ -1,0 +1,457 @@
+#include "kdqtest.h"
+#include "logcapture.h"
+
+#include <kdQCore/kdCommandDispatcher>
+#include <kdQCore/kdReporter>
+
+#include <QSignalSpy>
+
+#include <functional>
+#include <stdexcept>
+
+namespace {
+
+int livingCommands = 0;
+QStringList events;
+
+/// "set <text>" notes what it does; its parameter steers it: fail, throw, odd, fixed (cannot be undone),
+/// stuck (fails to be undone), stop (asks the dispatcher to stop it), nested (executes others), quit.
+class SetCommand : public kdCommand {
+public:
+    explicit SetCommand(const QString& parameter) : kdCommand(parameter) { ++livingCommands; }
+    ~SetCommand() override { --livingCommands; }
+
+    QString name() const override { return QStringLiteral("set"); }
+    QString helpMessage() const override { return QStringLiteral("Sets a text."); }
+    bool allowUndo() override { return parameter() != QStringLiteral("fixed"); }
+    bool allowStop() override { return parameter() == QStringLiteral("stop"); }
+
+    bool execute() override
+    {
+        events.append(QStringLiteral("do ") + parameter());
+        errorMessage(QStringLiteral("reported by ") + parameter());
+        if (parameter() == QStringLiteral("throw"))
+            throw std::runtime_error("out of steam");
+        if (parameter() == QStringLiteral("odd"))
+            throw 42;
+        if (parameter() == QStringLiteral("again"))
+            return slotExecute();
+        if (parameter() == QStringLiteral("nested"))
+            return kdCommandDispatcher::I().execute(QStringLiteral("set x; set y"));
+        if (parameter() == QStringLiteral("quit"))
+            kdCommandDispatcher::removeInstance();
+        if (parameter() == QStringLiteral("stop") || parameter() == QStringLiteral("unstoppable"))
+            return kdCommandDispatcher::I().slotStop() == stopRequested() && !stopRequested();
+        setResult(parameter());
+        return parameter() != QStringLiteral("fail");
+    }
+
+    bool undo() override
+    {
+        events.append(QStringLiteral("undo ") + parameter());
+        return parameter() != QStringLiteral("stuck");
+    }
+};
+
+QSharedPointer<kdCommand> createSet(const QString& parameters)
+{
+    return QSharedPointer<SetCommand>::create(parameters);
+}
+
+QSharedPointer<kdCommand> createNothing(const QString&)
+{
+    return {};
+}
+
+/// Takes the name "set" too, later than SetCommand.
+QSharedPointer<kdCommand> createLateSet(const QString& parameters)
+{
+    auto command = QSharedPointer<kdCommand>::create(parameters);
+    command->setObjectName(QStringLiteral("set"));
+    return command;
+}
+
+QSharedPointer<kdCommand> createNamedByObject(const QString& parameters)
+{
+    auto command = QSharedPointer<kdCommand>::create(parameters);
+    command->setObjectName(QStringLiteral("named"));
+    return command;
+}
+
+} // namespace
+
+class TestKdCommandDispatcher : public QObject {
+    Q_OBJECT
+
+private:
+    QScopedPointer<kdReporter> m_reporter;
+    QStringList m_errors;
+
+    static kdCommandDispatcher& dispatcher() { return kdCommandDispatcher::I(); }
+
+    /// Notes the dispatcher's signals among the events.
+    void follow()
+    {
+        connect(&dispatcher(), &kdCommandDispatcher::signalCommandExecuted,
+                [](const QSharedPointer<kdCommand>& c) {
+                    events.append(QStringLiteral("executed ") + c->parameter());
+                });
+        connect(&dispatcher(), &kdCommandDispatcher::signalCommandReverted,
+                [](const QSharedPointer<kdCommand>& c) {
+                    events.append(QStringLiteral("reverted ") + c->parameter());
+                });
+        connect(&dispatcher(), &kdCommandDispatcher::signalUndoEnabled,
+                [](bool on) { events.append(on ? QStringLiteral("undo on") : QStringLiteral("undo off")); });
+        connect(&dispatcher(), &kdCommandDispatcher::signalRedoEnabled,
+                [](bool on) { events.append(on ? QStringLiteral("redo on") : QStringLiteral("redo off")); });
+    }
+
+    static QStringList split(const char* text)
+    {
+        return QString::fromUtf8(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        kdCommandDispatcher::createInstance();
+        QVERIFY(dispatcher().registerCommand(createNothing));
+        QVERIFY(dispatcher().registerCommand(createSet));
+        QVERIFY(dispatcher().registerCommand(createLateSet));
+        m_errors.clear();
+        events.clear();
+        m_reporter.reset(new kdReporter);
+        connect(m_reporter.data(), &kdReporter::signalErrorMessage,
+                [this](const QString& t) { m_errors.append(t); });
+        dispatcher().startReportingTo(*m_reporter);
+        follow();
+    }
+
+    void cleanup()
+    {
+        if (kdCommandDispatcher::created())
+            kdCommandDispatcher::removeInstance();
+        QCOMPARE(livingCommands, 0);
+    }
+
+    void lifeIsLogged()
+    {
+        LogCapture log;
+        kdCommandDispatcher* const first = &kdCommandDispatcher::I();
+        kdCommandDispatcher::createInstance();
+        QCOMPARE(&kdCommandDispatcher::I(), first);
+        kdCommandDispatcher::removeInstance();
+        QVERIFY(!kdCommandDispatcher::created());
+        kdCommandDispatcher::removeInstance();
+        QVERIFY(!kdCommandDispatcher::I().execute(QStringLiteral("list")));
+        kdCommandDispatcher::createInstance();
+        QVERIFY(kdCommandDispatcher::created());
+        const QVector<kdLog::Record> records = log.records();
+        const QVector<QPair<kdLog::Tag, QString>> expected{
+            {kdLog::General, QStringLiteral("kdCommandDispatcher creation failed!")},
+            {kdLog::Command, QStringLiteral("kdCommandDispatcher removed.")},
+            {kdLog::General, QStringLiteral("kdCommandDispatcher remove failed!")},
+            {kdLog::General, QStringLiteral("Call of kdCommandDispatcher while instance does not exist !")},
+            {kdLog::Command, QStringLiteral("kdCommandDispatcher created.")}};
+        QCOMPARE(records.size(), expected.size());
+        for (int i = 0; i < records.size(); ++i) {
+            QCOMPARE(qMakePair(records.at(i).tag, records.at(i).text), expected.at(i));
+            QCOMPARE(records.at(i).severity,
+                     expected.at(i).first == kdLog::Command ? kdLog::Trace : kdLog::Fault);
+            QCOMPARE(records.at(i).file, QStringLiteral("kdcommanddispatcher.cpp"));
+        }
+    }
+
+    void lines_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("succeeds");
+        QTest::addColumn<QStringList>("expectedEvents");
+        QTest::addColumn<QStringList>("errors");
+        const auto row = [](const char* name, const char* line, bool succeeds, const char* done,
+                            const char* errors) {
+            QTest::newRow(name) << QString::fromUtf8(line) << succeeds << split(done) << split(errors);
+        };
+        row("empty", "", true, "", "");
+        row("blank", " \t", true, "", "");
+        row("semicolons only", ";; ;", true, "", "");
+        row("one command", "set a", true, "do a|executed a|undo on", "reported by a");
+        row("no parameters", "set", true, "do |executed |undo on", "reported by ");
+        row("parameters keep their blanks", "set  a  b\tc ", true, "do a  b\tc|executed a  b\tc|undo on",
+            "reported by a  b\tc");
+        row("two commands", "set a;set b", true, "do a|executed a|undo on|do b|executed b",
+            "reported by a|reported by b");
+        row("blanks around", " ; set a ;\n set b; ", true, "do a|executed a|undo on|do b|executed b",
+            "reported by a|reported by b");
+        row("stops at the first failure", "set a;set fail;set b", false, "do a|executed a|undo on|do fail",
+            "reported by a|reported by fail");
+        row("unknown", "paint", false, "", "Unknown command: >paint<!");
+        row("unknown with parameters", "paint it  %1 %2", false, "", "Unknown command: >paint it  %1 %2<!");
+        row("unknown stops", "paint;set a", false, "", "Unknown command: >paint<!");
+        row("names are case-sensitive", "Set a", false, "", "Unknown command: >Set a<!");
+        row("a command without undo", "set fixed", true, "do fixed|executed fixed", "reported by fixed");
+        row("it closes the way back", "set a;set fixed", true,
+            "do a|executed a|undo on|do fixed|executed fixed|undo off", "reported by a|reported by fixed");
+        row("nested", "set nested", true, "do nested|do x|executed x|undo on|do y|executed y|executed nested",
+            "reported by nested|reported by x|reported by y");
+        row("exception", "set throw;set a", false, "do throw",
+            "reported by throw|The command 'set throw' failed: out of steam");
+        row("odd exception", "set odd", false, "do odd",
+            "reported by odd|The command 'set odd' failed for an unknown reason.");
+        row("within itself", "set again", false, "do again", "reported by again");
+        row("removes the dispatcher", "set quit; set a", false, "do quit", "reported by quit");
+    }
+
+    void lines()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, succeeds);
+        QFETCH(QStringList, expectedEvents);
+        QFETCH(QStringList, errors);
+        QCOMPARE(dispatcher().execute(line), succeeds);
+        QCOMPARE(events, expectedEvents);
+        QCOMPARE(m_errors, errors);
+    }
+
+    void aVeryLongLineNeedsNoDeepStack()
+    {
+        QVERIFY(dispatcher().execute(QStringLiteral("set a;").repeated(20000)));
+        QCOMPARE(livingCommands, 20000);
+    }
+
+    /// Steps: "u" undo, "r" redo, anything else is a command line. Then what the lists offer.
+    void undoAndRedo_data()
+    {
+        QTest::addColumn<QStringList>("steps");
+        QTest::addColumn<QStringList>("expectedEvents");
+        QTest::addColumn<bool>("undoLeft");
+        QTest::addColumn<bool>("redoLeft");
+        const auto row = [](const char* name, const char* steps, const char* done, bool undoLeft,
+                            bool redoLeft) {
+            QTest::newRow(name) << split(steps) << split(done) << undoLeft << redoLeft;
+        };
+        row("nothing", "u|r", "", false, false);
+        row("undo", "set a|u", "do a|executed a|undo on|undo a|reverted a|undo off|redo on", false, true);
+        row("undo of the last of two", "set a;set b|u",
+            "do a|executed a|undo on|do b|executed b|undo b|reverted b|undo on|redo on", true, true);
+        row("redo", "set a|u|r",
+            "do a|executed a|undo on|undo a|reverted a|undo off|redo on|do a|executed a|undo on|redo off",
+            true, false);
+        row("there and back twice", "set a|u|r|u",
+            "do a|executed a|undo on|undo a|reverted a|undo off|redo on|do a|executed a|undo on|redo off|"
+            "undo a|reverted a|undo off|redo on",
+            false, true);
+        row("redo takes the one undone last", "set a;set b|u|u|r",
+            "do a|executed a|undo on|do b|executed b|undo b|reverted b|undo on|redo on|"
+            "undo a|reverted a|undo off|redo on|do a|executed a|undo on",
+            true, true);
+        row("not allowed", "set fixed|u", "do fixed|executed fixed", false, false);
+        row("fails", "set stuck|u|u", "do stuck|executed stuck|undo on|undo stuck|undo stuck", true, false);
+        row("new command keeps the redo list", "set a|u|set b",
+            "do a|executed a|undo on|undo a|reverted a|undo off|redo on|do b|executed b|undo on", true, true);
+    }
+
+    void undoAndRedo()
+    {
+        QFETCH(QStringList, steps);
+        QFETCH(QStringList, expectedEvents);
+        QFETCH(bool, undoLeft);
+        QFETCH(bool, redoLeft);
+        for (const QString& step : qAsConst(steps)) {
+            if (step == QStringLiteral("u"))
+                dispatcher().slotUndo();
+            else if (step == QStringLiteral("r"))
+                dispatcher().slotRedo();
+            else
+                dispatcher().execute(step);
+        }
+        QCOMPARE(events, expectedEvents);
+        QCOMPARE(dispatcher().undoAvailable(), undoLeft);
+        QCOMPARE(dispatcher().redoAvailable(), redoLeft);
+    }
+
+    void redoRunsTheSameObject()
+    {
+        QSignalSpy executed(&dispatcher(), &kdCommandDispatcher::signalCommandExecuted);
+        QVERIFY(dispatcher().execute(QStringLiteral("set a")));
+        QVERIFY(dispatcher().slotUndo());
+        QVERIFY(dispatcher().slotRedo());
+        QCOMPARE(executed.size(), 2);
+        QCOMPARE(executed.at(0).at(0).value<QSharedPointer<kdCommand>>(),
+                 executed.at(1).at(0).value<QSharedPointer<kdCommand>>());
+    }
+
+    void aRedoThatFailsIsDropped()
+    {
+        const QSharedPointer<kdCommand> command = createSet(QStringLiteral("a"));
+        QVERIFY(dispatcher().execute(command));
+        QVERIFY(dispatcher().slotUndo());
+        QVERIFY(command->slotExecute()); // behind the dispatcher's back: it is not ready any more
+        QVERIFY(!dispatcher().slotRedo());
+        QVERIFY(!dispatcher().redoAvailable());
+    }
+
+    void undoingByHandKeepsTheListsConsistent()
+    {
+        const QSharedPointer<kdCommand> first = createSet(QStringLiteral("a"));
+        QVERIFY(dispatcher().execute(first));
+        QVERIFY(dispatcher().execute(QStringLiteral("set b")));
+        QVERIFY(dispatcher().undo(first));
+        QVERIFY(!dispatcher().undo(first));
+        QVERIFY(dispatcher().slotUndo());
+        QVERIFY(!dispatcher().undoAvailable());
+        QVERIFY(dispatcher().slotRedo() && dispatcher().slotRedo());
+        QVERIFY(!dispatcher().redoAvailable());
+    }
+
+    void nullCommands()
+    {
+        QVERIFY(dispatcher().execute(QSharedPointer<kdCommand>()));
+        QVERIFY(!dispatcher().undo(QSharedPointer<kdCommand>()));
+        QVERIFY(!dispatcher().registerCommand(nullptr));
+        QVERIFY(!dispatcher().registerCommand(createSet));
+        QVERIFY(events.isEmpty());
+    }
+
+    void theFirstFactoryThatKnowsTheNameWins()
+    {
+        QVERIFY(dispatcher().registerCommand(createNamedByObject));
+        QVERIFY(
+            dispatcher().getCommand(QStringLiteral("set"), QStringLiteral("a")).dynamicCast<SetCommand>());
+        QCOMPARE(dispatcher().getCommand(QStringLiteral("named"), QStringLiteral("a b"))->toString(),
+                 QStringLiteral("named a b"));
+        QVERIFY(!dispatcher().getCommand(QStringLiteral("nam"), QString()));
+        QVERIFY(!dispatcher().getCommand(QString(), QString()));
+    }
+
+    void statusGuardsTheSlots()
+    {
+        SetCommand command(QStringLiteral("%1 a"));
+        QCOMPARE(command.status(), kdCommand::Ready);
+        QVERIFY(!command.slotUndo());
+        QVERIFY(!command.slotStop());
+        QVERIFY(command.slotExecute());
+        QCOMPARE(command.status(), kdCommand::Executed);
+        QCOMPARE(command.result(), QStringLiteral("%1 a"));
+        QCOMPARE(command.description(), QStringLiteral("set %1 a"));
+        QVERIFY(!command.slotExecute());
+        QVERIFY(!command.slotStop());
+        QVERIFY(command.slotUndo());
+        QCOMPARE(command.status(), kdCommand::Ready);
+
+        SetCommand stuck(QStringLiteral("stuck"));
+        QVERIFY(stuck.slotExecute());
+        QVERIFY(!stuck.slotUndo());
+        QCOMPARE(stuck.status(), kdCommand::Executed);
+
+        SetCommand failing(QStringLiteral("fail"));
+        QVERIFY(!failing.slotExecute());
+        QCOMPARE(failing.status(), kdCommand::Ready);
+
+        kdCommand plain(QStringLiteral("a"));
+        QVERIFY(!plain.slotExecute());
+        QVERIFY(!plain.undo());
+    }
+
+    void stopReachesTheRunningCommand()
+    {
+        QVERIFY(!dispatcher().slotStop());
+        QVERIFY(!dispatcher().execute(QStringLiteral("set stop")));
+        QVERIFY(dispatcher().execute(QStringLiteral("set unstoppable")));
+        QVERIFY(!dispatcher().slotStop());
+    }
+
+    void aCommandsOwnReportersStay()
+    {
+        const QSharedPointer<kdCommand> command = createSet(QStringLiteral("a"));
+        command->startReportingTo(*m_reporter);
+        QVERIFY(dispatcher().execute(command));
+        QCOMPARE(m_errors.size(), 1);
+        QVERIFY(dispatcher().slotUndo());
+        QVERIFY(command->slotExecute());
+        QCOMPARE(m_errors.size(), 2);
+
+        const QSharedPointer<kdCommand> other = createSet(QStringLiteral("b"));
+        QVERIFY(dispatcher().execute(other));
+        QVERIFY(other->slotUndo());
+        QVERIFY(other->slotExecute());
+        QCOMPARE(m_errors.size(), 3);
+    }
+
+    void listNamesEveryCommandOnce()
+    {
+        const QSharedPointer<kdCommand> list = dispatcher().getCommand(QStringLiteral("list"), QString());
+        QVERIFY(list && dispatcher().execute(list));
+        QCOMPARE(list->result(),
+                 QStringLiteral("language  Sets the language of the commands: de, en.\n"
+                                "list      Lists all commands.\n"
+                                "set       Sets a text."));
+        QVERIFY(!dispatcher().undoAvailable());
+        QVERIFY(!dispatcher().execute(QStringLiteral("list all")));
+        QCOMPARE(m_errors, QStringList{QStringLiteral("The command 'list' takes no parameter, not 'all'.")});
+    }
+
+    void languageCodes_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<int>("language");
+        QTest::newRow("de") << "de" << int(kdQLanguage::German);
+        QTest::newRow("EN") << "EN" << int(kdQLanguage::English);
+        QTest::newRow("de_AT") << "de_AT" << int(kdQLanguage::German);
+        QTest::newRow("en-GB") << "en-GB" << int(kdQLanguage::English);
+        QTest::newRow("xx") << "xx" << -1;
+        QTest::newRow("deu") << "deu" << -1;
+        QTest::newRow("empty") << "" << -1;
+    }
+
+    void languageCodes()
+    {
+        QFETCH(QString, code);
+        QFETCH(int, language);
+        kdQLanguage::KDLANGUAGE found = kdQLanguage::German;
+        QCOMPARE(kdQLanguage::fromCode(code, found), language >= 0);
+        if (language >= 0)
+            QCOMPARE(int(found), language);
+    }
+
+    void languageCommand()
+    {
+        if (!dispatcher().setLanguage(kdQLanguage::German))
+            QSKIP("Built without Qt Linguist.");
+        QVERIFY(dispatcher().setLanguage(kdQLanguage::English));
+        const auto listHelp = [] {
+            return dispatcher().getCommand(QStringLiteral("list"), QString())->helpMessage();
+        };
+        const QString english = QStringLiteral("Lists all commands.");
+        const QString german = QStringLiteral("Listet alle Befehle.");
+
+        QVERIFY(dispatcher().execute(QStringLiteral("language de")));
+        QCOMPARE(dispatcher().language(), kdQLanguage::German);
+        QCOMPARE(listHelp(), german);
+        QVERIFY(dispatcher().execute(QStringLiteral("language en")));
+        QCOMPARE(listHelp(), english);
+        QVERIFY(dispatcher().slotUndo());
+        QCOMPARE(listHelp(), german);
+        QVERIFY(dispatcher().slotUndo());
+        QCOMPARE(listHelp(), english);
+        QVERIFY(dispatcher().slotRedo());
+        QCOMPARE(listHelp(), german);
+        kdCommandDispatcher::removeInstance();
+        kdCommandDispatcher::createInstance();
+        QCOMPARE(listHelp(), english);
+    }
+
+    void languagesThatAreNotThere()
+    {
+        QVERIFY(!dispatcher().execute(QStringLiteral("language klingon")));
+        QVERIFY(!dispatcher().execute(QStringLiteral("language")));
+        QCOMPARE(m_errors,
+                 QStringList({QStringLiteral("'klingon' is no language code; there are: de, en."),
+                              QStringLiteral("'' is no language code; there are: de, en.")}));
+        QVERIFY(!dispatcher().setLanguage(kdQLanguage::KDLANGUAGE(99)));
+        QVERIFY(!dispatcher().undoAvailable());
+    }
+};
+
+KDQ_TEST_MAIN(TestKdCommandDispatcher)
+#include "tst_kdcommanddispatcher.moc"

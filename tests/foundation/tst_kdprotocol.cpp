@@ -1,0 +1,138 @@
+#include "kdqtest.h"
+
+#include <kdQCore/kdProtocol>
+
+#include <QTemporaryDir>
+
+class TestKdProtocol : public QObject {
+    Q_OBJECT
+
+private:
+    QScopedPointer<QTemporaryDir> m_folder;
+
+    QString subject() const { return m_folder->filePath(QString::fromUtf8("jöb.dat")); }
+    QString expectedPath() const
+    {
+        return QDir::toNativeSeparators(m_folder->path()) + QDir::separator() + QStringLiteral("_log")
+            + QDir::separator() + QString::fromUtf8("jöb.dat.log");
+    }
+
+    void makeSubject() const
+    {
+        QFile file(subject());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+
+    /// The protocol with its dates replaced by "<date>".
+    QString content() const
+    {
+        QFile file(expectedPath());
+        if (!file.open(QIODevice::ReadOnly))
+            return QString();
+        const QStringList dates{QLocale().toString(m_before, QLocale::ShortFormat),
+                                QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat)};
+        QString text = QString::fromLocal8Bit(file.readAll());
+        for (const QString& date : dates)
+            text.replace(date, QStringLiteral("<date>"));
+        return text;
+    }
+
+    const QString m_rule = QLatin1Char('$') + QString(80, QLatin1Char('-')) + QLatin1Char('\n');
+    const QString m_nameLine = QString::fromUtf8("$Command log file for process: jöb.dat\n");
+    const QString m_end = QStringLiteral("$<date>\n") + m_rule + QLatin1Char('\n');
+    QDateTime m_before;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_before = QDateTime::currentDateTime();
+        m_folder.reset(new QTemporaryDir);
+        makeSubject();
+    }
+
+    void everyObjectWritesOneHeader()
+    {
+        kdProtocol first(subject());
+        QCOMPARE(first.absoluteFilePath(), expectedPath());
+        QVERIFY(first.addMessage({QStringLiteral("a"), QString(), QString::fromUtf8("ß 100 %1")}));
+        QVERIFY(first.addMessage(QStringLiteral("b")));
+        const QString expected = m_rule + m_nameLine + m_end + QString::fromUtf8("a\nß 100 %1\nb\n");
+        QCOMPARE(content(), expected);
+
+        kdProtocol second(subject());
+        QVERIFY(second.addMessage(QStringLiteral("c")));
+        QVERIFY(first.addMessage(QStringLiteral("d")));
+        QCOMPARE(content(), expected + m_rule + m_end + QStringLiteral("c\nd\n"));
+    }
+
+    void aLostFileIsMadeAnew()
+    {
+        kdProtocol protocol(subject());
+        QVERIFY(protocol.addMessage(QStringLiteral("a")));
+        QVERIFY(QFile::remove(expectedPath()));
+        QVERIFY(protocol.addMessage(QStringLiteral("b")));
+        QCOMPARE(content(), m_rule + m_nameLine + m_end + QStringLiteral("b\n"));
+    }
+
+    void nothingToSayMakesNoFile()
+    {
+        kdProtocol protocol(subject());
+        QVERIFY(protocol.addMessage(QString()));
+        QVERIFY(protocol.addMessage(QStringList{QString(), QLatin1String("")}));
+        QVERIFY(!QFileInfo::exists(m_folder->filePath(QStringLiteral("_log"))));
+        QVERIFY(kdProtocol(QString()).addMessage(QStringList()));
+    }
+
+    void aMissingSubjectIsRefused()
+    {
+        QVERIFY(QFile::remove(subject()));
+        kdProtocol protocol(subject());
+        QCOMPARE(protocol.absoluteFilePath(), QString());
+        QVERIFY(!protocol.addMessage(QStringLiteral("a")));
+        QVERIFY(!QFileInfo::exists(m_folder->filePath(QStringLiteral("_log"))));
+        makeSubject();
+        QVERIFY(protocol.addMessage(QStringLiteral("b")));
+        QVERIFY(!kdProtocol(QString()).addMessage(QStringLiteral("a")));
+        QCOMPARE(kdProtocol(QString()).absoluteFilePath(), QString());
+    }
+
+    void aRelativeSubjectIsFound()
+    {
+        const QString former = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+        QCOMPARE(kdProtocol(QString::fromUtf8("jöb.dat")).absoluteFilePath(), expectedPath());
+        QVERIFY(QDir::setCurrent(former));
+    }
+
+    void blockedPlaces_data()
+    {
+        QTest::addColumn<bool>("folderIsBlocked");
+        QTest::newRow("a file bears the folder's name") << true;
+        QTest::newRow("a folder bears the file's name") << false;
+    }
+
+    void blockedPlaces()
+    {
+        QFETCH(bool, folderIsBlocked);
+        const QDir folder(m_folder->path());
+        QFile blocker(folder.filePath(QStringLiteral("_log")));
+        QVERIFY(folderIsBlocked ? blocker.open(QIODevice::WriteOnly) : folder.mkpath(expectedPath()));
+        kdProtocol protocol(subject());
+        QVERIFY(!protocol.addMessage(QStringLiteral("a")));
+    }
+
+    void aFullDiskIsNoticed()
+    {
+        if (!QFileInfo::exists(QStringLiteral("/dev/full")))
+            QSKIP("This system has no device that is always full.");
+        kdProtocol protocol(subject());
+        QVERIFY(protocol.addMessage(QStringLiteral("a")));
+        QVERIFY(QFile::remove(expectedPath()));
+        QVERIFY(QFile::link(QStringLiteral("/dev/full"), expectedPath()));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("sequential device")));
+        QVERIFY(!protocol.addMessage(QStringLiteral("b")));
+    }
+};
+
+KDQ_TEST_MAIN(TestKdProtocol)
+#include "tst_kdprotocol.moc"
