@@ -1,0 +1,296 @@
+#include "deckbuffer.h"
+#include "kdqtest.h"
+
+#include <kdQCore/cFeAbstractDatCard>
+#include <kdQCore/CFEDatLineWriter>
+
+#include <QBuffer>
+#include <QTemporaryDir>
+#include <QTextCodec>
+
+namespace {
+
+// Takes so many bytes, then none.
+class FullDevice : public QIODevice {
+public:
+    explicit FullDevice(qint64 room) : m_room(room) { open(WriteOnly | Unbuffered); }
+
+    QByteArray bytes;
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* data, qint64 size) override
+    {
+        const qint64 taken = std::min(size, m_room - bytes.size());
+        bytes.append(data, static_cast<int>(taken));
+        return taken > 0 ? taken : -1;
+    }
+
+private:
+    qint64 m_room;
+};
+
+QList<double> reals(int count)
+{
+    QList<double> result;
+    for (int i = 0; i < count; ++i)
+        result.append(i * 0.37 - 1000);
+    return result;
+}
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+using FilePointer = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+FilePointer openFile(const QString& path, const char* mode = "wb")
+{
+    return FilePointer(std::fopen(QFile::encodeName(path).constData(), mode), std::fclose);
+}
+
+} // namespace
+
+class TestDatLineWriterStreams : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void withoutStream()
+    {
+        CFEDatLineWriter writer;
+        QVERIFY(!writer.writeInt(1));
+        QVERIFY(!writer.writeTitle(QStringLiteral("Ü")));
+        QVERIFY(!writer.writeList(reals(3), 8));
+        QVERIFY(writer.writeList(QList<int>(), 8));
+        QVERIFY(writer.writeStringUnformatted(""));
+        QVERIFY(!writer.flush());
+        writer.setFileHandler(nullptr);
+        QVERIFY(!writer.writeLineBreak());
+        QTextStream nowhere;
+        writer.setFileHandler(&nowhere);
+        QVERIFY(!writer.writeElement(1));
+        writer.setIsInWriteMode(false);
+        QVERIFY(writer.writeElement(1));
+    }
+
+    void statusBeforeCounts()
+    {
+        DeckBuffer deck;
+        deck.stream().setStatus(QTextStream::ReadCorruptData);
+        QVERIFY(!deck.writer().writeInt(1));
+        QVERIFY(!deck.writer().writeList(reals(20000), 8));
+        QVERIFY(!deck.writer().writeTitle(QStringLiteral("Ü")));
+        QVERIFY(!deck.writer().flush());
+        deck.stream().resetStatus();
+        QVERIFY(deck.writer().writeInt(2) && deck.writer().flush());
+        QCOMPARE(deck.bytes(), QByteArray("    2"));
+    }
+
+    void ownershipFollowsTheMaker()
+    {
+        const QString first = m_folder->filePath(QStringLiteral("first"));
+        const QString second = m_folder->filePath(QStringLiteral("second"));
+        const FilePointer firstFile = openFile(first);
+        const FilePointer secondFile = openFile(second);
+        QByteArray bytes;
+        QTextStream stream(&bytes, QIODevice::WriteOnly);
+        {
+            CFEDatLineWriter writer(CFEDatLineWriter::standard, CFEDatLineWriter::fixed);
+            writer.setFileHandler(firstFile.get());
+            QVERIFY(writer.writeInt(1));
+            writer.setFileHandler(secondFile.get());
+            QVERIFY(writer.writeInt(2));
+            QCOMPARE(writer.getFileHandler(), secondFile.get());
+            writer.setFileHandler(&stream);
+            QVERIFY(writer.writeInt(3));
+        }
+        stream << QLatin1String(" still there");
+        stream.flush();
+        std::fflush(firstFile.get());
+        std::fflush(secondFile.get());
+        QCOMPARE(contents(first), QByteArray("    1"));
+        QCOMPARE(contents(second), QByteArray("    2"));
+        QCOMPARE(bytes, QByteArray("    3 still there"));
+    }
+
+    void fileStaysInOrderWithTheCallersOwnOutput()
+    {
+        const QString path = m_folder->filePath(QStringLiteral("job.dat"));
+        const FilePointer file = openFile(path);
+        CFEDatLineWriter writer(CFEDatLineWriter::standard, CFEDatLineWriter::fixed);
+        writer.setFileHandler(file.get());
+        QVERIFY(writer.writeTitle(QStringLiteral("Öfen")) && writer.flush());
+        QCOMPARE(contents(path), QByteArray("titleÖfen\n"));
+        std::fputs("by hand\n", file.get());
+        QVERIFY(writer.writeInt(1));
+        writer.setFileHandler(nullptr);
+        QVERIFY(!writer.getFileHandler());
+        std::fflush(file.get());
+        QCOMPARE(contents(path), QByteArray("titleÖfen\nby hand\n    1"));
+    }
+
+    void longLists_data()
+    {
+        QTest::addColumn<QByteArray>("codec");
+        QTest::addColumn<bool>("byteOrderMark");
+        QTest::newRow("local") << QByteArray() << false;
+        QTest::newRow("Latin-1") << QByteArray("ISO-8859-1") << false;
+        QTest::newRow("mark first") << QByteArray("UTF-8") << true;
+        QTest::newRow("two bytes a character") << QByteArray("UTF-16LE") << false;
+    }
+
+    void longLists()
+    {
+        QFETCH(QByteArray, codec);
+        QFETCH(bool, byteOrderMark);
+        const auto write = [&](QTextStream& stream) {
+            CFEDatLineWriter writer(CFEDatLineWriter::extended, CFEDatLineWriter::free);
+            writer.setFileHandler(&stream);
+            bool ok = writer.writeList(reals(30000), 7) && writer.writeKeywordLine("between");
+            QList<int> numbers;
+            for (int i = 0; i < 50000; ++i)
+                numbers.append(i);
+            ok = writer.writeList(numbers, 1000) && writer.writeLineBreak() && ok;
+            return writer.flush() && ok;
+        };
+        QString text;
+        QTextStream toText(&text);
+        QVERIFY(write(toText));
+
+        const QString path = m_folder->filePath(QStringLiteral("list.dat"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QTextStream toFile(&file);
+        if (!codec.isEmpty())
+            toFile.setCodec(codec.constData());
+        toFile.setGenerateByteOrderMark(byteOrderMark);
+        toFile << QStringLiteral("$ ö\n");
+        QVERIFY(write(toFile));
+        const QTextCodec* const reader =
+            codec.isEmpty() ? QTextCodec::codecForLocale() : QTextCodec::codecForName(codec);
+        QVERIFY(contents(path).startsWith("\xef\xbb\xbf") == byteOrderMark);
+        QVERIFY(reader->toUnicode(contents(path)) == QStringLiteral("$ ö\n") + text);
+    }
+
+    void texts_data()
+    {
+        QTest::addColumn<QByteArray>("codec");
+        QTest::addColumn<QByteArray>("line");
+        QTest::newRow("local, once encoded") << QByteArray() << QByteArray("title\xc3\x84\xe2\x82\xac\n");
+        QTest::newRow("UTF-8") << QByteArray("UTF-8") << QByteArray("title\xc3\x84\xe2\x82\xac\n");
+        QTest::newRow("of the caller's choice") << QByteArray("ISO-8859-15") << QByteArray("title\xc4\xa4\n");
+    }
+
+    void texts()
+    {
+        QFETCH(QByteArray, codec);
+        QFETCH(QByteArray, line);
+        DeckBuffer deck;
+        if (!codec.isEmpty())
+            deck.stream().setCodec(codec.constData());
+        QVERIFY(deck.writer().writeTitle(QStringLiteral("Ä€")));
+        QVERIFY(deck.writer().writeTitle("Ä€"));
+        QVERIFY(deck.writer().writeTitle(std::string("Ä€")));
+        QCOMPARE(deck.bytes(), line + line + line);
+    }
+
+    void bytesThatAreNoLocalTextStayAsTheyAre()
+    {
+        DeckBuffer deck;
+        QVERIFY(deck.writer().writeString("\xc4", 3) && deck.writer().writeKeywordLine("\xff\xfe"));
+        QVERIFY(deck.writer().writeStringUnformatted("\xef\xbb\xbf"
+                                                     "end"));
+        QCOMPARE(deck.bytes(),
+                 QByteArray("  \xc4\xff\xfe\n\xef\xbb\xbf"
+                            "end"));
+    }
+
+    void callersPaddingDoesNotReachTheDeck()
+    {
+        DeckBuffer deck;
+        deck.stream().setFieldWidth(30);
+        QVERIFY(deck.writer().writeInt(1) && deck.writer().writeTitle(QStringLiteral("Ä")));
+        QCOMPARE(deck.stream().fieldWidth(), 30);
+        QCOMPARE(deck.bytes(), QByteArray("    1titleÄ\n"));
+    }
+
+    void deviceThatFillsUp_data()
+    {
+        QTest::addColumn<int>("room");
+        QTest::newRow("at once") << 0;
+        QTest::newRow("within the first block") << 30000;
+        QTest::newRow("within a later block") << 200000;
+        QTest::newRow("at the end") << 20000 * 20 + 2500 * 3 - 2 - 1;
+    }
+
+    void deviceThatFillsUp()
+    {
+        QFETCH(int, room);
+        FullDevice device(room);
+        QTextStream stream(&device);
+        CFEDatLineWriter writer(CFEDatLineWriter::extended, CFEDatLineWriter::fixed);
+        writer.setFileHandler(&stream);
+        bool ok = writer.writeList(reals(20000), 8);
+        ok = writer.flush() && ok;
+        QVERIFY(!ok);
+        QCOMPARE(device.bytes.size(), room);
+        QVERIFY(!writer.writeInt(1));
+        QVERIFY(!writer.writeList(reals(20000), 8));
+        QVERIFY(!writer.flush());
+        QCOMPARE(writer.getErrorCount(), 0);
+    }
+
+    void fullDisk_data()
+    {
+        QTest::addColumn<bool>("throughFile");
+        QTest::addColumn<int>("count");
+        QTest::newRow("stream, little") << false << 1;
+        QTest::newRow("stream, much") << false << 100000;
+        QTest::newRow("FILE, little") << true << 1;
+        QTest::newRow("FILE, much") << true << 100000;
+    }
+
+    void fullDisk()
+    {
+        const QString path = QStringLiteral("/dev/full");
+        if (!QFile::exists(path))
+            QSKIP("This system has no device that is always full.");
+        QFETCH(bool, throughFile);
+        QFETCH(int, count);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QTextStream stream(&file);
+        const FilePointer stdioFile = openFile(path);
+        CFEDatLineWriter writer;
+        if (throughFile)
+            writer.setFileHandler(stdioFile.get());
+        else
+            writer.setFileHandler(&stream);
+        const bool isSeenAtOnce = !writer.writeList(reals(count), 8);
+        QCOMPARE(isSeenAtOnce, count > 10000);
+        QVERIFY(!writer.flush());
+        QVERIFY(!writer.writeKeywordLine("end"));
+        QVERIFY(!writer.flush());
+    }
+
+    void fieldwiseFailureIsSeenOnceTheStreamKnows()
+    {
+        FullDevice device(0);
+        QTextStream stream(&device);
+        CFEDatLineWriter writer;
+        writer.setFileHandler(&stream);
+        QVERIFY(writer.writeIntNTimes(1, 10));
+        QVERIFY(!writer.writeIntNTimes(1, 100000));
+        QVERIFY(!writer.writeDoubleNTimes(1, 1));
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+KDQ_TEST_MAIN(TestDatLineWriterStreams)
+#include "tst_cfedatlinewriter_streams.moc"
