@@ -12,11 +12,13 @@ namespace {
 
 constexpr double conversionRounding = 1e-14; // relative
 
-bool isNodeOf(const QVector<double>& sorted, double x)
+// x itself where it is a node or far from all nodes, else the node that differs from it by rounding only.
+double snapped(const QVector<double>& sorted, double x)
 {
-    const double margin = std::abs(x) * conversionRounding;
+    const double margin = std::isfinite(x) ? std::abs(x) * conversionRounding : 0.0;
     const auto next = std::lower_bound(sorted.cbegin(), sorted.cend(), x - margin);
-    return next != sorted.cend() && *next <= x + margin;
+    const bool found = next != sorted.cend() && *next <= x + margin;
+    return found && !std::binary_search(next, sorted.cend(), x) ? *next : x;
 }
 
 QVector<double> picked(const QVector<double>& values, const std::vector<int>& rows)
@@ -72,9 +74,17 @@ QVector<double> commonNodes(const QVector<double>& first, const QVector<double>&
 {
     QVector<double> result = first;
     for (double x : second)
-        if (!isNodeOf(first, x))
-            result.append(x);
+        result.append(snapped(first, x));
     std::inplace_merge(result.begin(), result.begin() + first.size(), result.end());
     result.erase(std::unique(result.begin(), result.end()), result.end());
     return result;
+}
+
+bool commonRange(const QVector<double>& first, const QVector<double>& second, double& low, double& high)
+{
+    if (first.isEmpty() || second.isEmpty())
+        return false;
+    low = snapped(first, std::max(first.constFirst(), second.constFirst()));
+    high = snapped(first, std::min(first.constLast(), second.constLast()));
+    return low <= high;
 }

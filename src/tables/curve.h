@@ -27,6 +27,9 @@ private:
     std::vector<QVector<double>> m_y;
 };
 
-/// All X of both, ascending, each once. Nodes that differ by the rounding of a conversion only count as one,
-/// and \a first has the say.
+/// All X of both, ascending, each once. Where two differ by the rounding of a conversion only, that of \a
+/// first stands for both.
 QVector<double> commonNodes(const QVector<double>& first, const QVector<double>& second);
+
+/// The overlap of both, ends likewise; false where they do not meet.
+bool commonRange(const QVector<double>& first, const QVector<double>& second, double& low, double& high);

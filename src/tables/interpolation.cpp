@@ -32,18 +32,23 @@ double scan(const Nodes& nodes, double x, Hits hits)
     return nodes.y[nodes.size - 2];
 }
 
-// First node that does not lie before x. No branch depends on the data: a wrong guess costs more than the
-// step.
+// First node that does not lie before x. No branch depends on the data, since a wrong guess costs more than a
+// few comparisons; and the last nodes are counted, since the steps of a bisection wait for each other.
 template <typename Before>
 int firstNotBefore(const Nodes& nodes, double x, Before before)
 {
+    constexpr int countable = 16;
     const double* base = nodes.x;
-    for (int left = nodes.size; left > 1;) {
+    int left = nodes.size;
+    while (left > countable) {
         const int half = left / 2;
         base += before(base[half - 1], x) ? half : 0;
         left -= half;
     }
-    return static_cast<int>(base - nodes.x) + (before(*base, x) ? 1 : 0);
+    int count = 0;
+    for (int i = 0; i < left; ++i)
+        count += before(base[i], x) ? 1 : 0;
+    return static_cast<int>(base - nodes.x) + count;
 }
 
 // What scan() gives, for x strictly inside the range of sorted nodes.

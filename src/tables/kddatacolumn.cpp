@@ -8,8 +8,6 @@
 namespace {
 
 constexpr double largest = std::numeric_limits<double>::max();
-constexpr int unknownOrder = -1;
-constexpr int nanBit = 8; // above the monotonicity in a stored order
 
 bool isNaN(double value)
 {
@@ -202,21 +200,10 @@ void kdDataColumn::generateMonotonicity() const
     m_order.store(gaps ? (result | nanBit) : result, std::memory_order_relaxed);
 }
 
-int kdDataColumn::order() const
+int kdDataColumn::determinedOrder() const
 {
-    if (m_order.load(std::memory_order_relaxed) == unknownOrder)
-        generateMonotonicity();
+    generateMonotonicity();
     return m_order.load(std::memory_order_relaxed);
-}
-
-kdDataColumn::eMonotonicity kdDataColumn::getMonotonicity() const
-{
-    return static_cast<eMonotonicity>(order() & ~nanBit);
-}
-
-bool kdDataColumn::hasNaN() const
-{
-    return (order() & nanBit) != 0;
 }
 
 void kdDataColumn::invalidateMonotonicity()

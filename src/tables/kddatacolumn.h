@@ -128,7 +128,7 @@ public:
     /// Direction of the step from \a first to \a second; Undefined where a NaN is involved.
     static eMonotonicity monotonicityByPair(double first, double second);
     /// From the cache where that is valid, else computed (one pass over the values) and kept.
-    eMonotonicity getMonotonicity() const;
+    eMonotonicity getMonotonicity() const { return static_cast<eMonotonicity>(order() & ~nanBit); }
     /// Computes it anew. Fewer than two values are Constant; steps from or to a NaN are skipped.
     void generateMonotonicity() const;
     void invalidateMonotonicity();
@@ -137,7 +137,7 @@ public:
     static bool isValidXValForSumming(eMonotonicity monotonicity);
     /// Whether a value is missing. Known together with the monotonicity, which takes no notice of such
     /// values: {1, 2, NaN, 0} is Increasing.
-    bool hasNaN() const;
+    bool hasNaN() const { return (order() & nanBit) != 0; }
 
     /// Index of the first value from \a startIndex on (negative counts as 0) that equals \a value or from
     /// which the step to the next value crosses it; -1 where there is none.
@@ -196,11 +196,18 @@ public:
     qint64 memoryFootprint() const;
 
 private:
+    enum : int { unknownOrder = -1, nanBit = 8 };
+
     bool contains(int index) const { return index >= 0 && index < m_values.size(); }
     void noteInserted(double value);
     void widenExtremes(double value);
     void replaceInExtremes(double oldValue);
-    int order() const;
+    int order() const
+    {
+        const int known = m_order.load(std::memory_order_relaxed);
+        return known == unknownOrder ? determinedOrder() : known;
+    }
+    int determinedOrder() const;
 
     QVector<double> m_values;
     QString m_name;
@@ -217,7 +224,7 @@ private:
     // Results of const scans. Threads that scan at the same time store the same numbers.
     mutable std::atomic<double> m_minimum{0.0};
     mutable std::atomic<double> m_maximum{0.0};
-    mutable std::atomic<int> m_order{-1}; // monotonicity, with a bit for NaN; negative while unknown
+    mutable std::atomic<int> m_order{unknownOrder}; // monotonicity, and a bit for NaN
 };
 
 /// What two neighbouring stretches make together: Undefined and Constant give way to the other, opposite

@@ -35,16 +35,6 @@ bool falls(const kdDataTable& table)
     return table.column(0)->getMonotonicity() == kdDataColumn::Decreasing;
 }
 
-// The overlap of two ascending sequences; false where they do not meet.
-bool commonRange(const QVector<double>& first, const QVector<double>& second, double& low, double& high)
-{
-    if (first.isEmpty() || second.isEmpty())
-        return false;
-    low = std::max(first.constFirst(), second.constFirst());
-    high = std::min(first.constLast(), second.constLast());
-    return low <= high;
-}
-
 void keepRange(QVector<double>& ascending, double low, double high)
 {
     ascending.erase(std::upper_bound(ascending.begin(), ascending.end(), high), ascending.end());
