@@ -1,0 +1,238 @@
+#include "kdqtest.h"
+#include "tabletest.h"
+
+#include <cmath>
+#include <random>
+#include <thread>
+
+using Rule = kdDataTable::e_InterpolationRuleOutsideInterval;
+Q_DECLARE_METATYPE(Rule)
+
+namespace {
+
+double line(double x, double x1, double y1, double x2, double y2)
+{
+    return std::abs(x2 - x1) < 1e-20 ? (y1 + y2) * 0.5 : y1 + (x - x1) * (y2 - y1) / (x2 - x1);
+}
+
+// The rule as it is defined, from the first node to the last.
+double sequential(const kdDataColumn& xs, const kdDataColumn& ys, double x, Rule rule)
+{
+    const int n = xs.size();
+    if (n == 0 || n != ys.size())
+        return 0.0;
+    if (n == 1)
+        return ys.value(0);
+    const auto m = xs.getMonotonicity();
+    const double first = xs.value(0);
+    const double last = xs.value(n - 1);
+    if (m == kdDataColumn::Decreasing ? x >= first : x <= first)
+        return rule == kdDataTable::ZeroOutside && x != first ? 0.0 : ys.value(0);
+    if (m == kdDataColumn::Decreasing ? x <= last : x >= last)
+        return rule == kdDataTable::ZeroOutside && x != last ? 0.0 : ys.value(n - 1);
+    double unanswered = 0.0;
+    for (int i = 1; i < n; ++i) {
+        const double from = xs.value(i - 1);
+        const double to = xs.value(i);
+        if (std::abs(x - from) < 1e-20)
+            return ys.value(i - 1);
+        if (std::abs(x - to) < 1e-20)
+            return ys.value(i);
+        const bool taken = m == kdDataColumn::Increasing ? (x < to || x == to)
+            : m == kdDataColumn::Decreasing              ? (x > to || x == to)
+                                                         : true;
+        if (taken)
+            return line(x, from, ys.value(i - 1), to, ys.value(i));
+        unanswered = ys.value(i - 1);
+    }
+    return unanswered;
+}
+
+struct NastyColumns {
+    std::mt19937 random{31};
+
+    unsigned below(unsigned limit) { return unsigned(random() % limit); }
+
+    double number()
+    {
+        static const double special[] = {0.0, -0.0, 1e-20, -1e-20, 0.5e-20, 2.5e-20,  1e-300,   5e-324,
+                                         1.0, -1.0, 1e300, -1e300, Largest, Infinity, -Infinity};
+        switch (below(4)) {
+        case 0:
+            return special[below(std::size(special))];
+        case 1:
+            return 1e-21 * int(below(60)); // several nodes within the nearness of 1e-20
+        case 2:
+            return int(below(9)) - 4; // many equal neighbours
+        default:
+            return std::ldexp(double(random()), int(below(20)) - 40);
+        }
+    }
+
+    kdDataColumn abscissae(int size)
+    {
+        Values values;
+        for (int i = 0; i < size; ++i)
+            values.append(number());
+        const unsigned kind = below(8);
+        if (kind < 3)
+            std::sort(values.begin(), values.end());
+        else if (kind < 6)
+            std::sort(values.begin(), values.end(), std::greater<double>());
+        if (below(3) == 0)
+            values[int(below(unsigned(size)))] = NaN;
+        kdDataColumn result;
+        result.setValues(values);
+        if (kind == 7)
+            result.sortValues();
+        return result;
+    }
+
+    kdDataColumn ordinates(int size)
+    {
+        kdDataColumn result;
+        for (int i = 0; i < size; ++i)
+            result.appendValue(below(30) == 0 ? NaN : number());
+        return result;
+    }
+
+    double position(const kdDataColumn& xs)
+    {
+        const double node = xs.value(int(below(unsigned(xs.size()))));
+        const double other = xs.value(int(below(unsigned(xs.size()))));
+        switch (below(8)) {
+        case 0:
+            return node;
+        case 1:
+            return std::nextafter(node, other);
+        case 2:
+            return node + 1e-20;
+        case 3:
+            return node - 0.9e-20;
+        case 4:
+            return node * 0.5 + other * 0.5;
+        case 5:
+            return below(10) == 0 ? NaN : node + (other - node) * 0.125;
+        default:
+            return number();
+        }
+    }
+};
+
+} // namespace
+
+class TestInterpolation : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lookup_data()
+    {
+        QTest::addColumn<Values>("x");
+        QTest::addColumn<Values>("y");
+        QTest::addColumn<double>("at");
+        QTest::addColumn<double>("held");
+        QTest::addColumn<double>("zero");
+        const auto row = [](const char* name, const Values& x, const Values& y, double at, double held,
+                            double zero) { QTest::newRow(name) << x << y << at << held << zero; };
+        row("empty", {}, {}, 1, 0, 0);
+        row("lengths differ", {1, 2}, {3}, 1, 0, 0);
+        row("one value", {1}, {7}, 99, 7, 7);
+        row("inside", {0, 1, 2}, {0, 10, 30}, 1.25, 15, 15);
+        row("at a node", {0, 1, 2}, {0, 10, 30}, 1, 10, 10);
+        row("at the first", {0, 1, 2}, {5, 10, 30}, 0, 5, 5);
+        row("at the last", {0, 1, 2}, {5, 10, 30}, 2, 30, 30);
+        row("just before", {0, 1}, {5, 10}, -1e-300, 5, 0);
+        row("just past", {0, 1}, {5, 10}, std::nextafter(1.0, 2.0), 10, 0);
+        row("falling, inside", {2, 1, 0}, {0, 10, 30}, 0.75, 15, 15);
+        row("falling, before", {2, 1, 0}, {5, 10, 30}, 3, 5, 0);
+        row("falling, past", {2, 1, 0}, {5, 10, 30}, -1, 30, 0);
+        row("step, at it", {0, 1, 1, 2}, {0, 10, 20, 30}, 1, 10, 10);
+        row("step, after it", {0, 1, 1, 2}, {0, 10, 20, 30}, 1.5, 25, 25);
+        row("near a node", {0, 1e-21, 1}, {0, 10, 20}, 5e-21, 0, 0);
+        row("up and down: first segment", {0, 1, -5, 9}, {0, 10, 99, 99}, 4, 40, 40);
+        row("constant X, beyond", {1, 1}, {4, 8}, 2, 8, 0);
+        row("NaN, rising", {0, 1, 2}, {5, 10, 30}, NaN, 10, 10);
+        row("NaN last", {1, 2, NaN}, {5, 10, 30}, 3, 10, 10);
+        row("only NaN steps", {1, NaN, 3}, {4, 8, 9}, 2, NaN, NaN);
+    }
+
+    void lookup()
+    {
+        QFETCH(Values, x);
+        QFETCH(Values, y);
+        QFETCH(double, at);
+        QFETCH(double, held);
+        QFETCH(double, zero);
+        const kdDataColumn xs = column(x);
+        const kdDataColumn ys = column(y);
+        QVERIFY(same(kdDataTable::getInterpolDoubleValue(xs, ys, at, kdDataTable::HoldEndValues), held));
+        QVERIFY(same(kdDataTable::getInterpolDoubleValue(&xs, &ys, at, kdDataTable::ZeroOutside), zero));
+    }
+
+    void linearInterpolation()
+    {
+        QCOMPARE(kdDataTable::linearInterpolation(1, 0, 0, 4, 8), 2.0);
+        QCOMPARE(kdDataTable::linearInterpolation(5, 1, 10, 1, 20), 15.0);
+        QCOMPARE(kdDataTable::linearInterpolation(0, 0, 10, 0.9e-20, 20), 15.0);
+        QCOMPARE(kdDataTable::linearInterpolation(0, 0, 10, 1.1e-20, 20), 10.0);
+    }
+
+    void memberFormTakesColumnZeroAsX()
+    {
+        kdDataTable table = curve({{0, 0}, {1, 10}});
+        QVERIFY(table.appendColumn(column({5, 7})));
+        QCOMPARE(table.getInterpolDoubleValue(1, 0.5, kdDataTable::HoldEndValues), 5.0);
+        QCOMPARE(table.getInterpolDoubleValue(2, 0.5), 6.0);
+        QCOMPARE(table.getInterpolDoubleValue(1, 7, kdDataTable::ZeroOutside), 0.0);
+        for (int outside : {-1, 3})
+            QCOMPARE(table.getInterpolDoubleValue(outside, 0.5), 0.0);
+        QCOMPARE(kdDataTable().getInterpolDoubleValue(0, 0.5), 0.0);
+    }
+
+    void equalsTheSequentialRule()
+    {
+        NastyColumns nasty;
+        for (int round = 0; round < 30000; ++round) {
+            const int size = 1 + int(nasty.below(round % 10 ? 12 : 200));
+            const kdDataColumn xs = nasty.abscissae(size);
+            const kdDataColumn ys = nasty.ordinates(size);
+            for (int lookup = 0; lookup < 100; ++lookup) {
+                const double x = nasty.position(xs);
+                const Rule rule = Rule(nasty.below(2));
+                const double found = kdDataTable::getInterpolDoubleValue(xs, ys, x, rule);
+                const double expected = sequential(xs, ys, x, rule);
+                const bool identical = same(found, expected)
+                    && (found != found || std::signbit(found) == std::signbit(expected));
+                if (!identical)
+                    qDebug() << "round" << round << "x" << x << "nodes" << xs.values() << ys.values();
+                QVERIFY(identical);
+            }
+        }
+    }
+
+    // Each round begins with caches that no thread has filled.
+    void constLookupsFromSeveralThreads()
+    {
+        for (int round = 0; round < 200; ++round) {
+            kdDataTable table;
+            kdDataColumn xs;
+            xs.setValues({0, 1, 2, 3});
+            QVERIFY(table.appendColumn(xs) && table.appendColumn(xs));
+            const kdDataTable& shared = table;
+            double sums[2] = {0, 0};
+            const auto work = [&shared](double* sum) {
+                for (double x = 0.0; x < 3.0; x += 0.25)
+                    *sum += shared.getInterpolDoubleValue(1, x) + shared.indexOfYMax()
+                        + shared.maxYValue().value();
+            };
+            std::thread other(work, &sums[0]);
+            work(&sums[1]);
+            other.join();
+            QCOMPARE(sums[0], sums[1]);
+            QCOMPARE(sums[0], 16.5 + 12 * 6.0);
+        }
+    }
+};
+
+KDQ_TEST_MAIN(TestInterpolation)
+#include "tst_interpolation.moc"

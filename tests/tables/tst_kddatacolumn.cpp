@@ -1,0 +1,429 @@
+#include "kdqtest.h"
+#include "tabletest.h"
+
+#include <functional>
+#include <random>
+
+using Column = kdDataColumn;
+using Change = std::function<void(kdDataColumn&)>;
+Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(kdDataColumn::eMonotonicity)
+Q_DECLARE_METATYPE(kdUnitSystem::Dimension)
+
+class TestKdDataColumn : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsEmpty()
+    {
+        const Column fresh;
+        QCOMPARE(fresh.size(), 0);
+        QCOMPARE(fresh.getId(), -1);
+        QCOMPARE(int(fresh.getType()), 0);
+        QCOMPARE(int(fresh.getUsage()), 0);
+        QCOMPARE(fresh.getUnitIndex(), -1);
+        QCOMPARE(fresh.minimum(), 0.0);
+        QCOMPARE(fresh.maximum(), 0.0);
+        QVERIFY(fresh.isVisible());
+        QVERIFY(!fresh.hasRGBColor());
+    }
+
+    void typeFollowsDimension_data()
+    {
+        QTest::addColumn<kdUnitSystem::Dimension>("dimension");
+        QTest::addColumn<int>("type");
+        for (int number = 0; number < kdUnitSystem::dimensionCount(); ++number) {
+            const int type = number == 3 ? 8 : number == 4 ? 5 : number == 10 ? 9 : number == 30 ? 7 : 0;
+            QTest::addRow("dimension %d", number) << kdUnitSystem::Dimension(number) << type;
+        }
+    }
+
+    void typeFollowsDimension()
+    {
+        QFETCH(kdUnitSystem::Dimension, dimension);
+        Column bySetter;
+        bySetter.setType(dimension);
+        Column byUnit;
+        byUnit.setUnit(kdUnitSystem(dimension, 0));
+        for (const Column& each : {bySetter, byUnit}) {
+            QTEST(int(each.getType()), "type");
+            QCOMPARE(each.getUnitSystem(), kdUnitSystem(dimension, 0));
+        }
+    }
+
+    // Values, extremes and size after a change; the extremes are those of the rules for single changes.
+    void changes_data()
+    {
+        QTest::addColumn<Values>("before");
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<Values>("after");
+        QTest::addColumn<double>("minimum");
+        QTest::addColumn<double>("maximum");
+        const auto row = [](const char* name, const Values& before, const Change& change, const Values& after,
+                            double minimum, double maximum) {
+            QTest::newRow(name) << before << change << after << minimum << maximum;
+        };
+        row(
+            "append first", {}, [](Column& c) { c.appendValue(-3); }, {-3}, -3, -3);
+        row(
+            "append infinity first", {}, [](Column& c) { c.appendValue(Infinity); }, {Infinity}, Infinity,
+            Infinity);
+        row(
+            "append wider", {1, 2}, [](Column& c) { c.appendValue(5); }, {1, 2, 5}, 1, 5);
+        row(
+            "append NaN", {1, 2}, [](Column& c) { c.appendValue(NaN); }, {1, 2, NaN}, 1, 2);
+        row(
+            "append after NaN", {NaN}, [](Column& c) { c.appendValue(5); }, {NaN, 5}, 0, 5);
+        row(
+            "insert first of all", {}, [](Column& c) { c.insertValueAt(0, 7); }, {7}, 7, 7);
+        row(
+            "insert in front", {1, 2}, [](Column& c) { c.insertValueAt(0, 9); }, {9, 1, 2}, 1, 9);
+        row(
+            "insert at end", {1, 2}, [](Column& c) { c.insertValueAt(2, 0); }, {1, 2, 0}, 0, 2);
+        row(
+            "insert NaN", {1, 2}, [](Column& c) { c.insertValueAt(1, NaN); }, {1, NaN, 2}, 1, 2);
+        row(
+            "insert below range", {1}, [](Column& c) { c.insertValueAt(-1, 9); }, {1}, 1, 1);
+        row(
+            "insert above range", {1}, [](Column& c) { c.insertValueAt(2, 9); }, {1}, 1, 1);
+        row(
+            "set inner", {1, 2, 3}, [](Column& c) { c.setValueAt(1, 2.5); }, {1, 2.5, 3}, 1, 3);
+        row(
+            "set inner wider", {1, 2, 3}, [](Column& c) { c.setValueAt(1, -4); }, {1, -4, 3}, -4, 3);
+        row(
+            "set extreme", {1, 2, 3}, [](Column& c) { c.setValueAt(2, 0); }, {1, 2, 0}, 0, 2);
+        row(
+            "set extreme to NaN", {1, 2, 3}, [](Column& c) { c.setValueAt(0, NaN); }, {NaN, 2, 3}, 2, 3);
+        row(
+            "set all to NaN", {1}, [](Column& c) { c.setValueAt(0, NaN); }, {NaN}, Largest, -Largest);
+        row(
+            "set out of range", {1},
+            [](Column& c) {
+                c.setValueAt(1, 9);
+                c.setValueAt(-1, 9);
+            },
+            {1}, 1, 1);
+        row(
+            "remove inner", {1, 2, 3}, [](Column& c) { c.removeValueAt(1); }, {1, 3}, 1, 3);
+        row(
+            "remove extreme", {1, 2, 3}, [](Column& c) { c.removeValueAt(2); }, {1, 2}, 1, 2);
+        row(
+            "remove last one", {4}, [](Column& c) { c.removeValueAt(0); }, {}, 0, 0);
+        row(
+            "remove out of range", {4},
+            [](Column& c) {
+                c.removeValueAt(1);
+                c.removeValueAt(-1);
+            },
+            {4}, 4, 4);
+        row(
+            "remove a stretch", {1, 2, 3, 4}, [](Column& c) { c.removeValues(2, 2); }, {1, 2}, 1, 2);
+        row(
+            "remove too long a stretch", {1, 2}, [](Column& c) { c.removeValues(1, 2); }, {1, 2}, 1, 2);
+        row(
+            "set values", {1, 2},
+            [](Column& c) {
+                c.setValues({5, -5, NaN});
+            },
+            {5, -5, NaN}, -5, 5);
+        row(
+            "clear values", {1, 2}, [](Column& c) { c.clearValues(); }, {}, 0, 0);
+        row(
+            "scale", {1, -2}, [](Column& c) { c.scaleValues(3); }, {3, -6}, -6, 3);
+        row(
+            "scale negatively", {1, -2, NaN}, [](Column& c) { c.scaleValues(-2); }, {-2, 4, NaN}, -2, 4);
+        row(
+            "scale with nothing", {1, -2}, [](Column& c) { c.scaleValues(0); }, {0, 0}, 0, 0);
+        row(
+            "sort", {3, NaN, 1, Infinity, 2}, [](Column& c) { c.sortValues(); }, {1, 2, 3, Infinity, NaN}, 1,
+            Infinity);
+        row(
+            "only NaN, determined anew", {NaN}, [](Column& c) { c.generateMinMax(); }, {NaN}, Largest,
+            -Largest);
+        row(
+            "NaN first, determined anew", {NaN, 5}, [](Column& c) { c.generateMinMax(); }, {NaN, 5}, 5, 5);
+    }
+
+    void changes()
+    {
+        QFETCH(Values, before);
+        QFETCH(Change, change);
+        QFETCH(Values, after);
+        Column subject = column(before);
+        QCOMPARE(subject.getMonotonicity(), subject.getMonotonicity());
+        change(subject);
+        QVERIFY(same(subject.values(), after));
+        QTEST(subject.minimum(), "minimum");
+        QTEST(subject.maximum(), "maximum");
+    }
+
+    // Whatever is done to a column, what it remembers is what a fresh look at its values gives.
+    void cachesFollowRandomChanges()
+    {
+        std::mt19937 random(20);
+        Column subject;
+        for (int step = 0; step < 20000; ++step) {
+            const int index = subject.isEmpty() ? 0 : int(random() % unsigned(subject.size()));
+            const double value = int(random() % 7) - 3;
+            switch (random() % (subject.size() > 5 ? 5 : 3)) {
+            case 0:
+                subject.appendValue(value);
+                break;
+            case 1:
+                subject.insertValueAt(index, value);
+                break;
+            case 2:
+                subject.setValueAt(index, value);
+                break;
+            default:
+                subject.removeValueAt(index);
+                break;
+            }
+            Column fresh;
+            fresh.setValues(subject.values());
+            QCOMPARE(subject.minimum(), fresh.minimum());
+            QCOMPARE(subject.maximum(), fresh.maximum());
+            QCOMPARE(subject.getMonotonicity(), fresh.getMonotonicity());
+        }
+    }
+
+    void readsOutsideAsZero()
+    {
+        const Column subject = column({1, 2});
+        for (int index : {-1, 2, INT_MAX, INT_MIN})
+            QCOMPARE(subject.value(index), 0.0);
+        QCOMPARE(subject.value(1), 2.0);
+        QVERIFY(subject.containsValue(2));
+        QVERIFY(!subject.containsValue(3));
+        QVERIFY(!column({NaN}).containsValue(NaN));
+    }
+
+    void monotonicity_data()
+    {
+        QTest::addColumn<Values>("values");
+        QTest::addColumn<kdDataColumn::eMonotonicity>("expected");
+        QTest::addColumn<bool>("gaps");
+        QTest::addColumn<bool>("summable");
+        QTest::newRow("empty") << Values{} << Column::Constant << false << true;
+        QTest::newRow("one") << Values{4} << Column::Constant << false << true;
+        QTest::newRow("one NaN") << Values{NaN} << Column::Constant << true << true;
+        QTest::newRow("equal") << Values{1, 1, 1} << Column::Constant << false << true;
+        QTest::newRow("rising") << Values{1, 2, 3} << Column::Increasing << false << true;
+        QTest::newRow("rising with rest") << Values{1, 1, 2, 2} << Column::Increasing << false << true;
+        QTest::newRow("falling with rest") << Values{2, 2, 1} << Column::Decreasing << false << true;
+        QTest::newRow("up and down") << Values{1, 2, 1} << Column::NotMonotonic << false << false;
+        QTest::newRow("NaN first") << Values{NaN, 1, 2} << Column::Increasing << true << true;
+        QTest::newRow("NaN hides a fall") << Values{1, 2, NaN, 0} << Column::Increasing << true << true;
+        QTest::newRow("NaN after the turn") << Values{1, 2, 1, NaN} << Column::NotMonotonic << true << false;
+        QTest::newRow("only NaN steps") << Values{1, NaN, 2} << Column::Undefined << true << false;
+    }
+
+    void monotonicity()
+    {
+        QFETCH(Values, values);
+        Column subject = column(values);
+        QTEST(subject.getMonotonicity(), "expected");
+        QTEST(subject.hasNaN(), "gaps");
+        QTEST(subject.isValidXValForSumming(), "summable");
+    }
+
+    void appendedNaNKeepsTheMonotonicityButIsSeen()
+    {
+        Column subject = column({1, 2});
+        QCOMPARE(subject.getMonotonicity(), Column::Increasing);
+        subject.appendValue(NaN);
+        QCOMPARE(subject.getMonotonicity(), Column::Increasing);
+        QVERIFY(subject.hasNaN());
+    }
+
+    void sortedCountsAsIncreasing()
+    {
+        Column subject = column({1, 1});
+        subject.sortValues();
+        QCOMPARE(subject.getMonotonicity(), Column::Increasing);
+        subject.invalidateMonotonicity();
+        QCOMPARE(subject.getMonotonicity(), Column::Constant);
+    }
+
+    void pairs()
+    {
+        QCOMPARE(Column::monotonicityByPair(1, 2), Column::Increasing);
+        QCOMPARE(Column::monotonicityByPair(2, 1), Column::Decreasing);
+        QCOMPARE(Column::monotonicityByPair(0.0, -0.0), Column::Constant);
+        QCOMPARE(Column::monotonicityByPair(NaN, 1), Column::Undefined);
+    }
+
+    void sumOfMonotonicities()
+    {
+        // Rows and columns: Undefined, Constant, Increasing, Decreasing, NotMonotonic.
+        const int expected[5][5] = {
+            {0, 1, 2, 3, 4}, {1, 1, 2, 3, 4}, {2, 2, 2, 4, 4}, {3, 3, 4, 3, 4}, {4, 4, 4, 4, 4}};
+        for (int a = 0; a < 5; ++a)
+            for (int b = 0; b < 5; ++b)
+                QCOMPARE(int(Column::eMonotonicity(a) + Column::eMonotonicity(b)), expected[a][b]);
+    }
+
+    void extremes_data()
+    {
+        QTest::addColumn<Values>("values");
+        QTest::addColumn<int>("indexOfMin");
+        QTest::addColumn<int>("indexOfMax");
+        QTest::addColumn<double>("absMax");
+        QTest::addColumn<double>("sign");
+        QTest::addColumn<int>("indexOfAbsMax");
+        QTest::addColumn<double>("minNonZero");
+        QTest::newRow("empty") << Values{} << -1 << -1 << 0.0 << 0.0 << -1 << Largest;
+        QTest::newRow("zeros") << Values{0, 0} << 0 << 0 << 0.0 << 0.0 << 0 << Largest;
+        QTest::newRow("positive") << Values{1, 3, 3} << 0 << 1 << 3.0 << 1.0 << 1 << 1.0;
+        QTest::newRow("negative") << Values{-1, -3, 0} << 1 << 2 << 3.0 << -1.0 << 1 << -3.0;
+        QTest::newRow("tie") << Values{3, -3} << 1 << 0 << 3.0 << -1.0 << 1 << -3.0;
+        QTest::newRow("NaN first") << Values{NaN, 2, 5} << 1 << 2 << 5.0 << 1.0 << 2 << 2.0;
+        QTest::newRow("minus infinity") << Values{-Infinity} << 0 << -1 << Infinity << -1.0 << 0 << -Infinity;
+    }
+
+    void extremes()
+    {
+        QFETCH(Values, values);
+        const Column subject = column(values);
+        QTEST(subject.indexOfMin(), "indexOfMin");
+        QTEST(subject.indexOfMax(), "indexOfMax");
+        const Column::AbsMaxDetails details = subject.getAbsMaxDetails();
+        QTEST(details.value, "absMax");
+        QTEST(details.sign, "sign");
+        QTEST(details.index, "indexOfAbsMax");
+        QTEST(subject.minNonZeroValue(), "minNonZero");
+    }
+
+    void roots_data()
+    {
+        QTest::addColumn<Values>("values");
+        QTest::addColumn<int>("start");
+        QTest::addColumn<double>("root");
+        QTest::addColumn<int>("expected");
+        const Values wave{0, 2, -2, 2};
+        QTest::newRow("rising crossing") << wave << 0 << 1.0 << 0;
+        QTest::newRow("falling crossing") << wave << 1 << 1.0 << 1;
+        QTest::newRow("next rising crossing") << wave << 2 << 1.0 << 2;
+        QTest::newRow("hit at node") << wave << 0 << 2.0 << 1;
+        QTest::newRow("hit at last node") << wave << 3 << 2.0 << 3;
+        QTest::newRow("no crossing left") << wave << 3 << 1.0 << -1;
+        QTest::newRow("never reached") << wave << 0 << 2.5 << -1;
+        QTest::newRow("negative start") << wave << -7 << 0.0 << 0;
+        QTest::newRow("start behind the end") << wave << 4 << 0.0 << -1;
+        QTest::newRow("gap hides the crossing") << Values{0, NaN, 2} << 0 << 1.0 << -1;
+        QTest::newRow("empty") << Values{} << 0 << 0.0 << -1;
+    }
+
+    void roots()
+    {
+        QFETCH(Values, values);
+        QFETCH(int, start);
+        QFETCH(double, root);
+        QTEST(column(values).indexOfRootValue(start, root), "expected");
+    }
+
+    void comparison_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<bool>("equal");
+        const auto row = [](const char* name, bool equal, const Change& change) {
+            QTest::newRow(name) << change << equal;
+        };
+        row("nothing", true, [](Column&) {});
+        row("id", true, [](Column& c) { c.setId(5); });
+        row("colour", true, [](Column& c) { c.setRGBColor(1, 2, 3); });
+        row("zero with sign", true, [](Column& c) { c.setValueAt(0, -0.0); });
+        row("unit", false, [](Column& c) { c.setUnitIndex(1); });
+        row("type", false, [](Column& c) { c.setType(Column::Type(77)); });
+        row("usage", false, [](Column& c) { c.setUsage(Column::UsageY); });
+        row("title", false, [](Column& c) { c.setTitle(QStringLiteral("t")); });
+        row("name", false, [](Column& c) { c.setName(QStringLiteral("n")); });
+        row("value", false, [](Column& c) { c.setValueAt(1, 8); });
+        row("length", false, [](Column& c) { c.appendValue(8); });
+    }
+
+    void comparison()
+    {
+        QFETCH(Change, change);
+        QFETCH(bool, equal);
+        Column one(kdUnitSystem::Length, Column::UsageX);
+        one.setValues({0, 1});
+        Column two(one);
+        change(two);
+        QCOMPARE(one == two, equal);
+        QCOMPARE(one != two, !equal);
+        QCOMPARE(qHash(one, 3) == qHash(two, 3), equal);
+    }
+
+    void aNaNMakesACopyDiffer()
+    {
+        const Column one = column({1, NaN});
+        const Column two(one); // shares the values' memory, which must not count
+        QVERIFY(one != two);
+        QVERIFY(one != one);
+    }
+
+    void copyHasEverything()
+    {
+        Column one(kdUnitSystem::Length, Column::UsageX, QStringLiteral("name"));
+        one.setValues({3, 1});
+        one.setId(4);
+        one.setTitle(QStringLiteral("title"));
+        one.setRGBColor(10, 20, 30);
+        one.setVisible(false);
+        const QScopedPointer<Column> two(one.getCopy());
+        one.setValueAt(0, 100); // leaves the copy alone
+        QCOMPARE(two->values(), (Values{3, 1}));
+        QCOMPARE(two->maximum(), 3.0);
+        QCOMPARE(two->getId(), 4);
+        QCOMPARE(two->title(), QStringLiteral("title"));
+        QCOMPARE(two->name(), QStringLiteral("name"));
+        QCOMPARE((Values{double(two->red()), double(two->green()), double(two->blue())}),
+                 (Values{10, 20, 30}));
+        QVERIFY(two->hasRGBColor());
+        QVERIFY(!two->isVisible());
+
+        two->removeRGBColor();
+        QCOMPARE(two->red() + two->green() + two->blue(), 0);
+        QVERIFY(!two->hasRGBColor());
+        two->clear();
+        QCOMPARE(*two, Column());
+        QCOMPARE(two->getId(), -1);
+        QVERIFY(two->isVisible());
+    }
+
+    void convertsUnits()
+    {
+        Column kelvin(kdUnitSystem::Temperature);
+        kelvin.setValues({273.15, 373.15, NaN});
+        QCOMPARE(kelvin.getMonotonicity(), Column::Increasing);
+        QVERIFY(kelvin.toUnit(1));
+        QVERIFY(same(kelvin.values(), {0, 100, NaN}));
+        QCOMPARE(kelvin.maximum(), 100.0);
+        QCOMPARE(kelvin.getUnitSystem(), kdUnitSystem(kdUnitSystem::Temperature, 1));
+        QVERIFY(kelvin.toSIUnit());
+        QCOMPARE(kelvin.value(0), 273.15);
+        QVERIFY(kelvin.toViewUnit());
+        QCOMPARE(kelvin.value(0), 0.0);
+
+        for (const kdUnitSystem& unfit :
+             {kdUnitSystem(kdUnitSystem::Length), kdUnitSystem(kdUnitSystem::Temperature, 9)})
+            QVERIFY(!kelvin.toUnit(unfit));
+        QVERIFY(!kelvin.toUnitIndex(-1));
+        QCOMPARE(kelvin.maximum(), 100.0);
+        kelvin.setUnitIndex(-1);
+        QVERIFY(!kelvin.toSIUnit());
+        QCOMPARE(kelvin.maximum(), 100.0);
+    }
+
+    void footprintGrowsWithTheValues()
+    {
+        const Column small;
+        Column big;
+        big.reserve(1000);
+        QVERIFY(big.memoryFootprint() >= small.memoryFootprint() + 8000);
+    }
+};
+
+KDQ_TEST_MAIN(TestKdDataColumn)
+#include "tst_kddatacolumn.moc"

@@ -1,0 +1,412 @@
+#include "kdqtest.h"
+#include "tabletest.h"
+
+#include <cmath>
+#include <functional>
+#include <random>
+
+using Change = std::function<bool(kdDataTable&)>;
+Q_DECLARE_METATYPE(Change)
+
+namespace {
+
+bool near(double a, double b)
+{
+    return same(a, b) || std::abs(a - b) <= 1e-9 * (1.0 + std::abs(a));
+}
+
+bool near(const Points& a, const Points& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const QPointF& one, const QPointF& two) {
+        return near(one.x(), two.x()) && near(one.y(), two.y());
+    });
+}
+
+// Strictly rising X, some of them shared between curves.
+kdDataTable randomCurve(std::mt19937& random)
+{
+    Points points;
+    double x = int(random() % 8);
+    for (int size = 1 + int(random() % 12); size > 0; --size) {
+        points.append(QPointF(x, int(random() % 2001) - 1000));
+        x += random() % 2 ? 1.0 : 0.37;
+    }
+    return curve(points);
+}
+
+kdDataTable falling(const kdDataTable& table)
+{
+    kdDataTable result(table);
+    result.sortForXValues(true);
+    return result;
+}
+
+} // namespace
+
+class TestCurves : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Changes of a curve in place: what comes out, and what is returned. A refused change leaves the curve
+    // alone.
+    void changes_data()
+    {
+        QTest::addColumn<Points>("before");
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<bool>("returned");
+        QTest::addColumn<Points>("after");
+        const auto row = [](const char* name, const Points& before, const Change& change, bool returned,
+                            const Points& after) {
+            QTest::newRow(name) << before << change << returned << after;
+        };
+        const auto refused = [&row](const char* name, const Points& points, const Change& change) {
+            row(name, points, change, false, points);
+        };
+        const auto does = [](void (kdDataTable::*sort)(bool), bool descending) {
+            return [sort, descending](kdDataTable& t) {
+                (t.*sort)(descending);
+                return true;
+            };
+        };
+
+        const Points mixed{{2, 5}, {NaN, 1}, {1, NaN}, {2, 4}, {3, 4}};
+        row("sort by X", mixed, does(&kdDataTable::sortForXValues, false), true,
+            {{1, NaN}, {2, 5}, {2, 4}, {3, 4}, {NaN, 1}});
+        row("sort by X, descending", mixed, does(&kdDataTable::sortForXValues, true), true,
+            {{3, 4}, {2, 5}, {2, 4}, {1, NaN}, {NaN, 1}});
+        row("sort by Y", mixed, does(&kdDataTable::sortForYValues, false), true,
+            {{NaN, 1}, {2, 4}, {3, 4}, {2, 5}, {1, NaN}});
+        row("sort by Y, descending", mixed, does(&kdDataTable::sortForYValues, true), true,
+            {{2, 5}, {2, 4}, {3, 4}, {NaN, 1}, {1, NaN}});
+
+        const auto scaled = [](double x, double y) {
+            return [x, y](kdDataTable& t) {
+                t.scaleXData(x);
+                t.scaleYData(y);
+                return t.column(0)->getMonotonicity() == kdDataColumn::Decreasing
+                    && t.maxXValue().value() == -1.0 && t.minXValue().value() == -2.0
+                    && t.maxYValue().value() == 18.0;
+            };
+        };
+        row("scale", {{1, 5}, {2, 6}}, scaled(-1, 3), true, {{-1, 15}, {-2, 18}});
+
+        const auto crop = [](int first, int last) {
+            return [first, last](kdDataTable& t) { return t.cropDataTable(first, last); };
+        };
+        const Points four{{0, 1}, {1, 2}, {2, 3}, {3, 4}};
+        row("crop", four, crop(1, 2), true, {{1, 2}, {2, 3}});
+        row("crop to all", four, crop(0, 3), true, four);
+        refused("crop from below", four, crop(-1, 2));
+        refused("crop beyond", four, crop(2, 4));
+        refused("crop backwards", four, crop(2, 1));
+
+        const auto beginning = [](bool useY) {
+            return [useY](kdDataTable& t) { return t.removeMultipleXValuesAtBeginning(useY) == 2; };
+        };
+        const Points rests{{0, 1}, {0, 2}, {0, 2}, {1, 2}, {0, 5}};
+        row("leading X", rests, beginning(false), true, {{0, 2}, {1, 2}, {0, 5}});
+        refused("leading Y", rests, beginning(true));
+        row("leading Y run", {{0, 2}, {1, 2}, {2, 2}}, beginning(true), true, {{2, 2}});
+        refused("leading NaN", {{NaN, 1}, {NaN, 1}}, beginning(false));
+        refused("leading nothing", {}, beginning(false));
+
+        const Change toZero = [](kdDataTable& t) { return t.moveAllXToZero(); };
+        row("move to zero", {{5, 1}, {2, 2}}, toZero, true, {{0, 2}, {3, 1}});
+        row("move to zero, negative", {{5, 1}, {-2, 2}}, toZero, false, {{-2, 2}, {5, 1}});
+        refused("move nothing to zero", {}, toZero);
+
+        const auto greaterZero = [](kdDataTable& t) { return t.allXGreaterZeroExceptFirst(); };
+        const auto positive = [](kdDataTable& t) { return t.allXPositive(); };
+        row("zero first", {{5, 1}, {0, 2}}, greaterZero, true, {{0, 2}, {5, 1}});
+        row("zero not first", {{5, 1}, {1, 2}}, greaterZero, false, {{1, 2}, {5, 1}});
+        row("X positive", {{5, 1}, {0, 2}}, positive, true, {{0, 2}, {5, 1}});
+        row("X negative", {{5, 1}, {-1, 2}}, positive, false, {{-1, 2}, {5, 1}});
+
+        const auto allY = [](kdDataTable& t) { return t.allYGreaterZero(); };
+        row("Y greater zero", {{-1, 1}, {0, 2}}, allY, true, {{-1, 1}, {0, 2}});
+        refused("a zero Y", {{0, 1}, {1, 0}}, allY);
+        refused("a missing Y", {{0, 1}, {1, NaN}}, allY);
+
+        const auto sampled = [](const Values& x) {
+            return [x](kdDataTable& t) { return t.applySamplingPoints(column(x)); };
+        };
+        const Points slope{{0, 0}, {1, 10}, {3, 30}};
+        row("resample", slope, sampled({2, -1, NaN, 5, 0.5}), true, {{2, 20}, {-1, 0}, {5, 30}, {0.5, 5}});
+        row("resample a falling curve", {{3, 30}, {1, 10}, {0, 0}}, sampled({0.5, 2}), true,
+            {{0.5, 5}, {2, 20}});
+        refused("resample at nothing", slope, sampled({NaN}));
+        refused("resample up and down", {{0, 0}, {1, 1}, {0, 2}}, sampled({0.5}));
+        refused("resample nothing", {}, sampled({0.5}));
+
+        const auto appended = [](const Points& points) {
+            return [points](kdDataTable& t) { return t.appendXYValue(curve(points)); };
+        };
+        row("append points", {{0, 1}}, appended({{2, 3}, {1, 1}}), true, {{0, 1}, {2, 3}, {1, 1}});
+        row("append itself", {{0, 1}}, [](kdDataTable& t) { return t.appendXYValue(t); }, true,
+            {{0, 1}, {0, 1}});
+        refused("append three columns", {{0, 1}}, [](kdDataTable& t) {
+            kdDataTable three(t);
+            three.appendColumn(column({1}));
+            return t.appendXYValue(three);
+        });
+    }
+
+    void changes()
+    {
+        QFETCH(Points, before);
+        QFETCH(Change, change);
+        QFETCH(Points, after);
+        kdDataTable table = curve(before);
+        table.column(0)->getMonotonicity(); // a stale cache would show
+        QTEST(change(table), "returned");
+        QVERIFY(near(table.points(), after));
+        kdDataTable fresh = curve(table.points());
+        QCOMPARE(table.column(0)->getMonotonicity(), fresh.column(0)->getMonotonicity());
+    }
+
+    void canSum_data()
+    {
+        QTest::addColumn<Points>("points");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("empty") << Points{} << true;
+        QTest::newRow("one") << Points{{1, 1}} << true;
+        QTest::newRow("rising") << Points{{1, 1}, {2, 0}} << true;
+        QTest::newRow("falling") << Points{{2, 1}, {1, 0}} << true;
+        QTest::newRow("double point") << Points{{1, 1}, {1, 1}, {2, 0}} << true;
+        QTest::newRow("step") << Points{{1, 1}, {1, 2}, {2, 0}} << false;
+        QTest::newRow("step to NaN") << Points{{1, 1}, {1, NaN}, {2, 0}} << false;
+        QTest::newRow("double NaN") << Points{{1, NaN}, {1, NaN}} << false;
+        QTest::newRow("NaN in Y alone") << Points{{1, 1}, {2, NaN}} << true;
+        QTest::newRow("up and down") << Points{{1, 1}, {2, 2}, {1, 1}} << false;
+        QTest::newRow("undefined") << Points{{1, 1}, {NaN, 2}} << false;
+    }
+
+    void canSum()
+    {
+        QFETCH(Points, points);
+        QTEST(curve(points).canSumOrSubtract(), "expected");
+        if (!curve(points).canSumOrSubtract()) {
+            kdDataTable table = curve(points);
+            kdDataTable other = curve({{0, 1}});
+            QVERIFY(!table.sumXY(other) && !other.subtractXY(table) && !table.average(other, other));
+            QCOMPARE(other, curve({{0, 1}}));
+            QVERIFY(near(table.points(), points));
+        }
+    }
+
+    void lengthsMustAgree()
+    {
+        kdDataTable table = curve({{0, 1}});
+        table.column(1)->appendValue(2);
+        QVERIFY(!table.canSumOrSubtract());
+        QVERIFY(!kdDataTable().canSumOrSubtract());
+        QVERIFY(!kdDataTable().sumXY(table));
+    }
+
+    // Two curves and what each combination makes of them; empty means refused.
+    void combinations_data()
+    {
+        QTest::addColumn<Points>("one");
+        QTest::addColumn<Points>("two");
+        QTest::addColumn<Points>("sum");
+        QTest::addColumn<Points>("difference");
+        QTest::addColumn<Points>("mean");
+        QTest::addColumn<Points>("cut");
+        QTest::newRow("overlap") << Points{{0, 0}, {2, 2}} << Points{{1, 10}, {3, 30}}
+                                 << Points{{0, 10}, {1, 11}, {2, 22}, {3, 32}}
+                                 << Points{{0, -10}, {1, -9}, {2, -18}, {3, -28}} << Points{{1, 5.5}, {2, 11}}
+                                 << Points{{1, 1}, {2, 2}};
+        QTest::newRow("one falls") << Points{{2, 2}, {0, 0}} << Points{{1, 10}, {3, 30}}
+                                   << Points{{3, 32}, {2, 22}, {1, 11}, {0, 10}}
+                                   << Points{{3, -28}, {2, -18}, {1, -9}, {0, -10}}
+                                   << Points{{2, 11}, {1, 5.5}} << Points{{2, 2}, {1, 1}};
+        QTest::newRow("two falls") << Points{{0, 0}, {2, 2}} << Points{{3, 30}, {1, 10}}
+                                   << Points{{0, 10}, {1, 11}, {2, 22}, {3, 32}}
+                                   << Points{{0, -10}, {1, -9}, {2, -18}, {3, -28}}
+                                   << Points{{1, 5.5}, {2, 11}} << Points{{1, 1}, {2, 2}};
+        QTest::newRow("apart") << Points{{0, 1}, {1, 2}} << Points{{2, 5}, {3, 6}}
+                               << Points{{0, 6}, {1, 7}, {2, 7}, {3, 8}}
+                               << Points{{0, -4}, {1, -3}, {2, -3}, {3, -4}} << Points{} << Points{};
+        QTest::newRow("within a segment")
+            << Points{{0, 0}, {10, 10}} << Points{{4, 0}, {6, 0}} << Points{{0, 0}, {4, 4}, {6, 6}, {10, 10}}
+            << Points{{0, 0}, {4, 4}, {6, 6}, {10, 10}} << Points{{4, 2}, {6, 3}} << Points{{4, 4}, {6, 6}};
+        QTest::newRow("touch") << Points{{0, 0}, {1, 1}} << Points{{1, 3}, {2, 5}}
+                               << Points{{0, 3}, {1, 4}, {2, 6}} << Points{{0, -3}, {1, -2}, {2, -4}}
+                               << Points{{1, 2}} << Points{{1, 1}};
+        QTest::newRow("one point") << Points{{0, 0}, {2, 2}} << Points{{1, 5}}
+                                   << Points{{0, 5}, {1, 6}, {2, 7}} << Points{{0, -5}, {1, -4}, {2, -3}}
+                                   << Points{{1, 3}} << Points{{1, 1}};
+        QTest::newRow("with nothing") << Points{{0, 0}, {2, 2}} << Points{} << Points{{0, 0}, {2, 2}}
+                                      << Points{{0, 0}, {2, 2}} << Points{} << Points{};
+        QTest::newRow("double points")
+            << Points{{0, 1}, {0, 1}, {1, 2}} << Points{{0, 1}, {1, 2}} << Points{{0, 2}, {1, 4}}
+            << Points{{0, 0}, {1, 0}} << Points{{0, 1}, {1, 2}} << Points{{0, 1}, {0, 1}, {1, 2}};
+        QTest::newRow("missing X") << Points{{NaN, 7}, {0, 1}, {1, 2}} << Points{{0, 1}, {1, 2}}
+                                   << Points{{0, 2}, {1, 4}} << Points{{0, 0}, {1, 0}}
+                                   << Points{{0, 1}, {1, 2}} << Points{{0, 1}, {1, 2}};
+    }
+
+    void combinations()
+    {
+        QFETCH(Points, one);
+        QFETCH(Points, two);
+        QFETCH(Points, sum);
+        QFETCH(Points, difference);
+        QFETCH(Points, mean);
+        QFETCH(Points, cut);
+        const kdDataTable other = curve(two);
+        kdDataTable added = curve(one);
+        kdDataTable subtracted = curve(one);
+        kdDataTable averaged = curve(one);
+        kdDataTable part = curve(one);
+        QVERIFY(added.sumXY(other));
+        QVERIFY(near(added.points(), sum));
+        QVERIFY(subtracted.subtractXY(other));
+        QVERIFY(near(subtracted.points(), difference));
+        QCOMPARE(averaged.average(other, averaged), !mean.isEmpty());
+        QVERIFY(near(averaged.points(), mean.isEmpty() ? one : mean));
+        QCOMPARE(part.getCutByOtherTable(other, part), !cut.isEmpty());
+        QVERIFY(near(part.points(), cut.isEmpty() ? one : cut));
+    }
+
+    void randomCurvesKeepTheirLaws()
+    {
+        std::mt19937 random(11);
+        for (int round = 0; round < 2000; ++round) {
+            const kdDataTable a = round % 3 ? randomCurve(random) : falling(randomCurve(random));
+            const kdDataTable b = round % 2 ? randomCurve(random) : falling(randomCurve(random));
+            kdDataTable ab(a);
+            kdDataTable ba(b);
+            QVERIFY(ab.sumXY(b) && ba.sumXY(a));
+            kdDataTable back(ab);
+            QVERIFY(back.subtractXY(b));
+            for (const QPointF& point : back) {
+                QVERIFY(near(point.y(), a.getInterpolDoubleValue(1, point.x())));
+                QVERIFY(
+                    near(ab.getInterpolDoubleValue(1, point.x()), ba.getInterpolDoubleValue(1, point.x())));
+            }
+            for (const QPointF& point : a)
+                QVERIFY(back.column(0)->containsValue(point.x()));
+
+            kdDataTable half;
+            kdDataTable cut;
+            const bool meet = a.average(b, half);
+            QCOMPARE(a.getCutByOtherTable(b, cut), meet);
+            for (const QPointF& point : half)
+                QVERIFY(near(point.y() * 2.0, ab.getInterpolDoubleValue(1, point.x())));
+            for (const QPointF& point : cut)
+                QVERIFY(near(point.y(), a.getInterpolDoubleValue(1, point.x())));
+            if (meet)
+                QVERIFY(cut.minXValue() == half.minXValue() && cut.maxXValue() == half.maxXValue());
+        }
+    }
+
+    void combinesInItsOwnUnits()
+    {
+        kdDataTable metres = curve({{0, 1}, {0.3, 4}}, kdUnitSystem::Time, kdUnitSystem::Length);
+        kdDataTable other(metres);
+        other.toUnit(1, 1); // ms and mm: 0.3 s comes back with a rounding error
+        QVERIFY(metres.sumXY(other));
+        QVERIFY(near(metres.points(), {{0, 2}, {0.3, 8}}));
+        QVERIFY(metres.appendXYValue(other));
+        QVERIFY(near(metres.points(), {{0, 2}, {0.3, 8}, {0, 1}, {0.3, 4}}));
+        kdDataTable kelvin = curve({{0, 1}}, kdUnitSystem::Time, kdUnitSystem::Temperature);
+        QVERIFY(!kelvin.sumXY(other) && !kelvin.appendXYValue(other) && !other.average(kelvin, kelvin));
+        QVERIFY(!other.getCutByOtherTable(curve({{0, 0}}, kdUnitSystem::Length), kelvin));
+        QCOMPARE(kelvin.points(), (Points{{0, 1}}));
+        kdDataColumn samples(kdUnitSystem::Time);
+        samples.appendValue(0.15);
+        QVERIFY(other.applySamplingPoints(samples));
+        QVERIFY(near(other.points(), {{150, 2500}}));
+        QVERIFY(!other.applySamplingPoints(*kelvin.column(1)));
+    }
+
+    void infiniteXIsANodeLikeAnyOther()
+    {
+        kdDataTable table = curve({{0, 1}, {1, 2}});
+        QVERIFY(table.sumXY(curve({{0, 1}, {Infinity, 5}})));
+        QCOMPARE(table.column(0)->values(), (Values{0, 1, Infinity}));
+        QCOMPARE(table.column(1)->values(), (Values{2, 3, 7}));
+    }
+
+    void combinesSeveralYColumns()
+    {
+        kdDataTable three = curve({{0, 1}, {1, 2}});
+        QVERIFY(three.appendColumn(column({10, 20})));
+        kdDataTable single(three);
+        QVERIFY(single.sumXY(curve({{0, 5}}))); // for every column
+        QCOMPARE(single.column(1)->values(), (Values{6, 7}));
+        QCOMPARE(single.column(2)->values(), (Values{15, 25}));
+        QVERIFY(three.subtractXY(three));
+        QCOMPARE(three.column(2)->values(), (Values{0, 0}));
+        kdDataTable four(three);
+        QVERIFY(four.appendColumn(column({0, 0})));
+        QVERIFY(!four.sumXY(three));
+    }
+
+    void removesZeroInTheGivenUnit()
+    {
+        const kdUnitSystem degrees(kdUnitSystem::Temperature, 1);
+        kdDataTable table =
+            curve({{0, 273.15}, {1, 0}, {2, NaN}, {3, 274}}, kdUnitSystem::Time, kdUnitSystem::Temperature);
+        kdDataTable fahrenheit(table);
+        QVERIFY(fahrenheit.yToUnit(2));
+        QCOMPARE(fahrenheit.removePointsWithYValueZero(degrees), 1);
+        QCOMPARE(fahrenheit.column(0)->values(), (Values{1, 2, 3}));
+        QCOMPARE(fahrenheit.removePointsWithYValueZero(degrees), 0);
+        QCOMPARE(table.removePointsWithYValueZero(kdUnitSystem(kdUnitSystem::Temperature)), 1);
+        QCOMPARE(table.column(0)->values(), (Values{0, 2, 3}));
+        QCOMPARE(table.removePointsWithYValueZero(kdUnitSystem(kdUnitSystem::Length)), 0);
+    }
+
+    void spansNewMinAndMax()
+    {
+        const kdUnitSystem degrees(kdUnitSystem::Temperature, 1);
+        kdDataTable table =
+            curve({{0, 10}, {1, 20}, {2, NaN}, {3, 15}}, kdUnitSystem::Time, kdUnitSystem::Temperature);
+        const Points spanned{{0, 273.15}, {1, 373.15}, {2, NaN}, {3, 323.15}};
+        QVERIFY(table.adjustYValuesToNewMinMax(degrees, 0, 100));
+        QVERIFY(near(table.points(), spanned));
+        QCOMPARE(table.maxYValue(), kdUnitValue(373.15, kdUnitSystem(kdUnitSystem::Temperature)));
+        QVERIFY(!table.adjustYValuesToNewMinMax(degrees, 100, 0));
+        QVERIFY(!table.adjustYValuesToNewMinMax(degrees, 0, NaN));
+        QVERIFY(!table.adjustYValuesToNewMinMax(degrees, 0, Infinity));
+        QVERIFY(!table.adjustYValuesToNewMinMax(kdUnitSystem(kdUnitSystem::Mass), 0, 1));
+        QVERIFY(near(table.points(), spanned));
+        kdDataTable flat = curve({{0, 1}, {1, 1}});
+        QVERIFY(!flat.adjustYValuesToNewMinMax(kdUnitSystem(), 0, 1));
+    }
+
+    void forthStroke_data()
+    {
+        QTest::addColumn<Values>("stroke");
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("last");
+        QTest::newRow("forth and back") << Values{0, 1, 2, 1, 0} << 0 << 2;
+        QTest::newRow("rests around") << Values{0, 0, 1, 2, 2, 2, 1} << 1 << 3;
+        QTest::newRow("rest within") << Values{0, 1, 1, 2} << 0 << 3;
+        QTest::newRow("back first") << Values{2, 1, 0, 3, 4, 0, 9} << 2 << 4;
+        QTest::newRow("gap") << Values{0, 1, NaN, 2, 3} << 0 << 1;
+        QTest::newRow("gap first") << Values{NaN, 1, 2} << 1 << 2;
+        QTest::newRow("never") << Values{3, 2, 2} << -1 << -1;
+        QTest::newRow("one") << Values{3} << -1 << -1;
+        QTest::newRow("empty") << Values{} << -1 << -1;
+    }
+
+    void forthStroke()
+    {
+        QFETCH(Values, stroke);
+        QFETCH(int, first);
+        kdDataTable table = curve({});
+        for (double position : stroke)
+            table.addPoint(table.rows(), position);
+        int foundFirst = 99;
+        int foundLast = 99;
+        QCOMPARE(table.getForthStrokeSection(foundFirst, foundLast), first >= 0);
+        QCOMPARE(foundFirst, first);
+        QTEST(foundLast, "last");
+    }
+};
+
+KDQ_TEST_MAIN(TestCurves)
+#include "tst_kddatatable_curves.moc"
