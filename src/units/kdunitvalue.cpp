@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr QLatin1String dimensionAttribute("dimension");
-constexpr QLatin1String unitAttribute("unit");
+constexpr char dimensionAttribute[] = "dimension";
+constexpr char unitAttribute[] = "unit";
 
 // Everything that a comparison looks at, in its order of weight.
 std::tuple<int, bool, double> meaning(const kdUnitValue& value)
@@ -32,25 +32,25 @@ QString withSymbol(const QString& number, const kdUnitSystem& unit)
 bool readUnit(const QXmlStreamAttributes& attributes, kdUnitSystem* unit)
 {
     bool ok = false;
-    const int number = attributes.value(dimensionAttribute).toInt(&ok);
+    const int number = attributes.value(QLatin1String(dimensionAttribute)).toInt(&ok);
     const bool hasDimension = ok && kdUnitSystem::isDimension(number);
     const auto dimension = static_cast<kdUnitSystem::Dimension>(hasDimension ? number : 0);
-    const QString symbol = attributes.value(unitAttribute).toString();
+    const QString symbol = attributes.value(QLatin1String(unitAttribute)).toString();
     if (!symbol.isEmpty()) {
         *unit = hasDimension ? kdUnitSystem::fromSymbol(symbol, dimension, &ok)
                              : kdUnitSystem::fromSymbol(symbol, &ok);
         return ok;
     }
-    const bool isStoredWithoutUnit = attributes.hasAttribute(unitAttribute);
+    const bool isStoredWithoutUnit = attributes.hasAttribute(QLatin1String(unitAttribute));
     *unit = kdUnitSystem(dimension, isStoredWithoutUnit ? kdUnitSystem::NoUnit : 0);
-    return hasDimension || !attributes.hasAttribute(dimensionAttribute);
+    return hasDimension || !attributes.hasAttribute(QLatin1String(dimensionAttribute));
 }
 
 QString unknownUnitText(const QString& elementName, const QXmlStreamAttributes& attributes)
 {
     return QCoreApplication::translate("kdUnitValue", "Element '%1': unit '%2' of dimension '%3' is unknown.")
-        .arg(elementName, attributes.value(unitAttribute).toString(),
-             attributes.value(dimensionAttribute).toString());
+        .arg(elementName, attributes.value(QLatin1String(unitAttribute)).toString(),
+             attributes.value(QLatin1String(dimensionAttribute)).toString());
 }
 
 // Moves to the start of the element, which is where most callers already stand.
@@ -97,8 +97,8 @@ QString kdUnitValue::toLocalizedString(const QLocale& locale) const
 void kdUnitValue::writeXML(QXmlStreamWriter& writer, const QString& elementName) const
 {
     writer.writeStartElement(elementName);
-    writer.writeAttribute(dimensionAttribute, QString::number(dimension()));
-    writer.writeAttribute(unitAttribute, m_unit.symbol());
+    writer.writeAttribute(QLatin1String(dimensionAttribute), QString::number(dimension()));
+    writer.writeAttribute(QLatin1String(unitAttribute), m_unit.symbol());
     writer.writeCharacters(QString::number(m_value, 'g', QLocale::FloatingPointShortest));
     writer.writeEndElement();
 }
