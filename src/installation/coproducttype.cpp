@@ -87,7 +87,7 @@ const coProductType& coProductType::remote()
 bool coProductType::isStoredId(const QVariant& id)
 {
     const double value = id.toDouble();
-    if (!(value >= Additive && value <= Remote))
+    if (!(value >= int(Additive) && value <= int(Remote)))
         return false;
     bool ok = false;
     const int number = id.toInt(&ok);
