@@ -33,6 +33,16 @@ public:
         return text.substr(0, width - exponent.size()) + exponent;
     }
 
+    /// Whether \a field is \a text cut to \a width; the same as cut(), but cheap enough for millions of
+    /// values.
+    static bool isCut(const std::string& text, const char* field, std::size_t width)
+    {
+        const std::size_t mark = text.find('E');
+        const std::size_t mantissa = width - (text.size() - mark);
+        return text.compare(0, mantissa, field, mantissa) == 0
+            && text.compare(mark, std::string::npos, field + mantissa) == 0;
+    }
+
     /// Every width, with and without the leading blank. Returns what differs, or nothing.
     std::string difference(double value) const
     {
@@ -41,9 +51,8 @@ public:
             for (const CFEDatLineWriter* writer : {&m_ten, &m_nineteen, &m_twenty}) {
                 char buffer[CFEDatLineWriter::doubleBufferSize];
                 const int length = writer->formatDouble(value, leadingBlank, buffer);
-                const std::string expected = cut(text, static_cast<std::size_t>(length));
-                if (expected != buffer)
-                    return text + " gives '" + buffer + "' instead of '" + expected + "'";
+                if (!isCut(text, buffer, static_cast<std::size_t>(length)))
+                    return text + " gives '" + buffer + "'";
             }
         }
         return {};

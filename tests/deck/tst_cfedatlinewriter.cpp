@@ -5,6 +5,8 @@
 #include <kdQCore/cFeAbstractDatCard>
 #include <kdQCore/CFEDatLineWriter>
 
+#include <QTextCodec>
+
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -62,6 +64,8 @@ class TestDatLineWriter : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); }
+
     void layout_data()
     {
         QTest::addColumn<Operation>("operation");
@@ -295,6 +299,40 @@ private Q_SLOTS:
         DeckBuffer fromQString;
         QVERIFY(fromQString.writer().writeCommentLine(QString::fromLocal8Bit(text)));
         QCOMPARE(fromQString.bytes(), deck);
+    }
+
+    void commentsInOtherLocalEncodings_data()
+    {
+        QTest::addColumn<QByteArray>("codec");
+        QTest::addColumn<QString>("unit");
+        QTest::addColumn<int>("firstLine");
+        QTest::newRow("one byte") << QByteArray("ISO-8859-1") << QStringLiteral("ö") << 158;
+        QTest::newRow("two bytes, the second may be ASCII")
+            << QByteArray("Shift_JIS") << QStringLiteral("ソ") << 157;
+        QTest::newRow("four bytes") << QByteArray("GB18030") << QStringLiteral("𝄞") << 157;
+    }
+
+    void commentsInOtherLocalEncodings()
+    {
+        QFETCH(QByteArray, codec);
+        QFETCH(QString, unit);
+        QFETCH(int, firstLine);
+        QTextCodec* const local = QTextCodec::codecForName(codec);
+        if (!local)
+            QSKIP("This system does not know the encoding.");
+        QTextCodec::setCodecForLocale(local);
+        const QString text = QStringLiteral("a") + unit.repeated(160);
+        DeckBuffer deck;
+        QVERIFY(deck.writer().writeCommentLine(text));
+        QList<QByteArray> lines = deck.bytes().split('\n');
+        QVERIFY(lines.takeLast().isEmpty());
+        QCOMPARE(lines.constFirst().size(), 2 + firstLine);
+        QString read;
+        for (const QByteArray& line : qAsConst(lines)) {
+            QVERIFY(line.size() <= 160);
+            read += local->toUnicode(line).mid(2);
+        }
+        QCOMPARE(read, text);
     }
 
     void refusals_data()

@@ -57,7 +57,11 @@ class TestDatLineWriterStreams : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void init()
+    {
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+        m_folder = std::make_unique<QTemporaryDir>();
+    }
 
     void withoutStream()
     {
