@@ -14,6 +14,11 @@
 class cFeAbstractDatCard;
 class QTextStream;
 
+#ifdef __clang__ // says that the enumerator "free" shadows the C library's function
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wshadow"
+#endif
+
 /// Writes the lines of a solver input deck: keyword lines, fields, lists over continuation lines, comments.
 ///
 /// The solver reads two layouts, fixed columns and free (comma-separated) fields, each in standard and in
@@ -309,6 +314,10 @@ private:
     std::FILE* m_file = nullptr;
     std::unique_ptr<QTextStream> m_ownStream;
 };
+
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
 
 using datFormat = CFEDatLineWriter::datFormat;
 using datExtensionMode = CFEDatLineWriter::datExtensionMode;
