@@ -30,5 +30,5 @@ function(kdqcore_test source)
     set_tests_properties(${name} PROPERTIES
         LABELS "${folder};${TEST_LABELS}" TIMEOUT ${TEST_TIMEOUT}
         FAIL_REGULAR_EXPRESSION "QWARN  :" # an unexpected warning of Qt is a failure
-        ENVIRONMENT "LOCPATH=${kdqcore_locale_dir};LC_ALL=de_DE.UTF-8;TZ=Asia/Kathmandu;KDQ_TEST_DATA=${PROJECT_SOURCE_DIR}")
+        ENVIRONMENT "LOCPATH=${kdqcore_locale_dir};LC_ALL=de_DE.UTF-8;TZ=Asia/Kathmandu;KDQ_TEST_DATA=${PROJECT_SOURCE_DIR};TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp")
 endfunction()
