@@ -71,7 +71,7 @@ bool kdCommand::slotExecute()
 
 bool kdCommand::slotUndo()
 {
-    if (m_status != Executed || !allowUndo())
+    if (m_status != Executed)
         return false;
     return run(Ready, [this] { return undo(); });
 }

@@ -36,7 +36,7 @@ public:
     enum Status {
         Ready = 0,
         Running = 1, ///< while it executes or is undone
-        Executed = 2 ///< executed, can be undone where allowUndo() says so
+        Executed = 2 ///< executed; can be undone where allowUndo() says so
     };
     Q_ENUM(Status)
 
@@ -68,7 +68,7 @@ public:
 public Q_SLOTS:
     /// Executes a command that is ready; false where it is not, or failed and is ready again.
     bool slotExecute();
-    /// Takes an executed command back; false where it was not executed, does not allow it, or failed.
+    /// Takes an executed command back; false where it was not executed or that failed. Ask allowUndo() first.
     bool slotUndo();
     /// Asks a running command to stop; false where none runs or it does not allow it. Does not wait.
     bool slotStop();

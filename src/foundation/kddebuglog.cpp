@@ -89,7 +89,7 @@ void kdDebugLog::createInstance(int argc, char* const* argv, bool logInCurrentDi
         return;
     }
     nPlatform::presetTimeZone();
-    const QString program = argc > 0 && argv && argv[0] ? QString::fromLocal8Bit(argv[0]) : QString();
+    const QString program = argv && argv[0] ? QString::fromLocal8Bit(argv[0]) : QString();
     const QString baseName = QFileInfo(program).fileName();
     const QString destination =
         logInCurrentDirectory ? currentDirectory() + baseName : defaultLogPath(baseName);
