@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kddatacolumn.h"
+#include "kddatatablepointiterator.h"
 
 #include <kdQCore/kdUnitValue>
 #include <kdqcore_export.h>
@@ -13,9 +14,7 @@
 #include <QStringList>
 #include <QVector>
 
-#include <iterator>
 #include <memory>
-#include <utility>
 #include <vector>
 
 class QIODevice;
@@ -61,56 +60,7 @@ public:
 
     using UvPoint = QPair<kdUnitValue, kdUnitValue>; ///< X and Y of a point with their units
 
-    /// Walks over the rows of an XY table as points, by value. Valid until the table's columns or number of
-    /// rows change.
-    class PointIterator {
-    public:
-        using iterator_category = std::random_access_iterator_tag;
-        using value_type = QPointF;
-        using difference_type = int;
-        using reference = QPointF;
-        class pointer { // keeps the point that operator-> shows alive
-        public:
-            explicit pointer(const QPointF& point) : m_point(point) { }
-            const QPointF* operator->() const { return &m_point; }
-
-        private:
-            QPointF m_point;
-        };
-
-        PointIterator() = default;
-        PointIterator(const kdDataColumn* x, const kdDataColumn* y, int row) : m_x(x), m_y(y), m_row(row) { }
-
-        QPointF operator*() const { return at(m_row); }
-        pointer operator->() const { return pointer(at(m_row)); }
-        QPointF operator[](int offset) const { return at(m_row + offset); }
-        PointIterator& operator++() { return *this += 1; }
-        PointIterator& operator--() { return *this -= 1; }
-        PointIterator operator++(int) { return std::exchange(*this, *this + 1); }
-        PointIterator operator--(int) { return std::exchange(*this, *this - 1); }
-        PointIterator& operator+=(int rows)
-        {
-            m_row += rows;
-            return *this;
-        }
-        PointIterator& operator-=(int rows) { return *this += -rows; }
-        PointIterator operator+(int rows) const { return PointIterator(m_x, m_y, m_row + rows); }
-        PointIterator operator-(int rows) const { return PointIterator(m_x, m_y, m_row - rows); }
-        int operator-(const PointIterator& other) const { return m_row - other.m_row; }
-        bool operator==(const PointIterator& other) const { return m_x == other.m_x && m_row == other.m_row; }
-        bool operator!=(const PointIterator& other) const { return !(*this == other); }
-        bool operator<(const PointIterator& other) const { return m_row < other.m_row; }
-        bool operator>(const PointIterator& other) const { return other < *this; }
-        bool operator<=(const PointIterator& other) const { return !(other < *this); }
-        bool operator>=(const PointIterator& other) const { return !(*this < other); }
-
-    private:
-        QPointF at(int row) const { return m_x ? QPointF(m_x->value(row), m_y->value(row)) : QPointF(); }
-
-        const kdDataColumn* m_x = nullptr;
-        const kdDataColumn* m_y = nullptr;
-        int m_row = 0;
-    };
+    using PointIterator = kdDataTablePointIterator;
 
     // --- Construction and comparison ---
 
