@@ -288,16 +288,19 @@ private Q_SLOTS:
             for (const QPointF& point : a)
                 QVERIFY(back.column(0)->containsValue(point.x()));
 
-            kdDataTable half;
+            kdDataTable half(b); // the result may take the place of a source
             kdDataTable cut;
-            const bool meet = a.average(b, half);
+            const bool meet = a.average(half, half);
             QCOMPARE(a.getCutByOtherTable(b, cut), meet);
+            if (!meet) {
+                QCOMPARE(half, b);
+                continue;
+            }
             for (const QPointF& point : half)
                 QVERIFY(near(point.y() * 2.0, ab.getInterpolDoubleValue(1, point.x())));
             for (const QPointF& point : cut)
                 QVERIFY(near(point.y(), a.getInterpolDoubleValue(1, point.x())));
-            if (meet)
-                QVERIFY(cut.minXValue() == half.minXValue() && cut.maxXValue() == half.maxXValue());
+            QVERIFY(cut.minXValue() == half.minXValue() && cut.maxXValue() == half.maxXValue());
         }
     }
 
