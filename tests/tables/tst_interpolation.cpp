@@ -192,8 +192,8 @@ private Q_SLOTS:
     void equalsTheSequentialRule()
     {
         NastyColumns nasty;
-        for (int round = 0; round < 30000; ++round) {
-            const int size = 1 + int(nasty.below(round % 10 ? 12 : 200));
+        for (int round = 0; round < 20000; ++round) {
+            const int size = 1 + int(nasty.below(round % 10 ? 12 : 100));
             const kdDataColumn xs = nasty.abscissae(size);
             const kdDataColumn ys = nasty.ordinates(size);
             for (int lookup = 0; lookup < 100; ++lookup) {
