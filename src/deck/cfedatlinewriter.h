@@ -54,11 +54,14 @@ class KDQCORE_EXPORT CFEDatLineWriter {
     Q_DECLARE_TR_FUNCTIONS(CFEDatLineWriter) // tr and trUtf8
 
 public:
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_CLANG("-Wshadow") // the enumerator and the C function of this name do not meet
     /// The layout. Any code but 0 is treated as free; only code 1 narrows extended reals to 19 columns.
     enum datFormat : int {
         fixed = 0, ///< fixed columns, no separators
         free = 1   ///< a comma after each field
     };
+    QT_WARNING_POP
 
     /// The field widths. Any code but 0 is treated as extended.
     enum datExtensionMode : int {
