@@ -42,10 +42,17 @@ const QTextCodec* codecOf(const QTextStream& stream)
     return stream.codec() ? stream.codec() : QTextCodec::codecForLocale();
 }
 
+// A file remembers its last error, whatever it was about.
+bool isWriteError(QFileDevice::FileError error)
+{
+    return error == QFileDevice::WriteError || error == QFileDevice::ResourceError
+        || error == QFileDevice::FatalError;
+}
+
 bool flushDevice(QIODevice* device)
 {
     auto* file = qobject_cast<QFileDevice*>(device);
-    return !file || (file->flush() && file->error() == QFileDevice::NoError);
+    return !file || (file->flush() && !isWriteError(file->error()));
 }
 
 } // namespace
@@ -105,7 +112,7 @@ bool CFEDatLineWriter::flush()
     bool ok = flushDevice(m_stream->device());
     if (m_ownStream && m_stream == m_ownStream.get())
         ok = std::fflush(m_file) == 0 && std::ferror(m_file) == 0 && ok;
-    return ok && m_stream->status() == QTextStream::Ok;
+    return ok && isStreamGood();
 }
 
 bool CFEDatLineWriter::writeCard(const cFeAbstractDatCard& card)

@@ -77,6 +77,7 @@ private Q_SLOTS:
         QTextStream nowhere;
         writer.setFileHandler(&nowhere);
         QVERIFY(!writer.writeElement(1));
+        QVERIFY(!writer.flush());
         writer.setIsInWriteMode(false);
         QVERIFY(writer.writeElement(1));
     }
