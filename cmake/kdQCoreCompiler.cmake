@@ -23,8 +23,10 @@ if(MSVC)
     target_compile_options(kdqcore_flags INTERFACE /utf-8 /W4 /permissive- /Zc:__cplusplus
         $<$<BOOL:${KDQCORE_WERROR}>:/WX>)
 else()
+    # Clang's -Wshadow objects to enumerators that bear the name of a C function, such as free.
     target_compile_options(kdqcore_flags INTERFACE
-        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
+        $<$<CXX_COMPILER_ID:GNU>:-Wshadow>
+        -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
         -Wconversion -Wsign-conversion -Wformat=2 -Wimplicit-fallthrough
         $<$<BOOL:${KDQCORE_WERROR}>:-Werror>
         -ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
