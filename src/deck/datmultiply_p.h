@@ -13,11 +13,11 @@ struct Product {
 /// By 32-bit halves, for compilers without a 128-bit integer.
 constexpr Product multiplyHalves(std::uint64_t a, std::uint64_t b)
 {
-    const std::uint64_t aLow = a & 0xffffffffu;
-    const std::uint64_t bLow = b & 0xffffffffu;
-    const std::uint64_t low = aLow * bLow;
-    const std::uint64_t middle = (a >> 32) * bLow + (low >> 32);
-    const std::uint64_t middle2 = aLow * (b >> 32) + (middle & 0xffffffffu);
+    const std::uint64_t lowerA = a & 0xffffffffu;
+    const std::uint64_t lowerB = b & 0xffffffffu;
+    const std::uint64_t low = lowerA * lowerB;
+    const std::uint64_t middle = (a >> 32) * lowerB + (low >> 32);
+    const std::uint64_t middle2 = lowerA * (b >> 32) + (middle & 0xffffffffu);
     return {(a >> 32) * (b >> 32) + (middle >> 32) + (middle2 >> 32), (middle2 << 32) | (low & 0xffffffffu)};
 }
 
