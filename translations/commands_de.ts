@@ -42,7 +42,7 @@
     <name>kdComList</name>
     <message>
         <source>Lists all commands.</source>
-        <translation>Listet alle Befehle.</translation>
+        <translation>Zeigt die Befehle.</translation>
     </message>
     <message>
         <source>The command &apos;list&apos; takes no parameter, not &apos;%1&apos;.</source>

@@ -22,8 +22,8 @@
 /// Thread-safe.
 namespace kdLog {
 
-/// Seven severities, 0 the least severe. A line of severity 4 or more is in the file when the call returns, so
-/// that a crash does not lose it.
+/// Seven severities, 0 the least severe. A line of severity 4 or more is in the file when the call returns,
+/// so that a crash does not lose it.
 enum Severity : int {
     Trace = 0, ///< life-cycle traces and routine facts
     Detail = 1,

@@ -320,7 +320,7 @@ private Q_SLOTS:
             dispatcher().getCommand(QStringLiteral("set"), QStringLiteral("a")).dynamicCast<SetCommand>());
         QCOMPARE(dispatcher().getCommand(QStringLiteral("named"), QStringLiteral("a b"))->toString(),
                  QStringLiteral("named a b"));
-        QVERIFY(!dispatcher().getCommand(QStringLiteral("nam"), QString()));
+        QVERIFY(!dispatcher().getCommand(QStringLiteral("name"), QString()));
         QVERIFY(!dispatcher().getCommand(QString(), QString()));
     }
 
@@ -423,7 +423,7 @@ private Q_SLOTS:
             return dispatcher().getCommand(QStringLiteral("list"), QString())->helpMessage();
         };
         const QString english = QStringLiteral("Lists all commands.");
-        const QString german = QStringLiteral("Listet alle Befehle.");
+        const QString german = QStringLiteral("Zeigt die Befehle.");
 
         QVERIFY(dispatcher().execute(QStringLiteral("language de")));
         QCOMPARE(dispatcher().language(), kdQLanguage::German);

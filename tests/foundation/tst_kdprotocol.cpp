@@ -61,8 +61,8 @@ private Q_SLOTS:
 
         kdProtocol second(subject());
         QVERIFY(second.addMessage(QStringLiteral("c")));
-        QVERIFY(first.addMessage(QStringLiteral("d")));
-        QCOMPARE(content(), expected + m_rule + m_end + QStringLiteral("c\nd\n"));
+        QVERIFY(first.addMessage(QStringLiteral("g")));
+        QCOMPARE(content(), expected + m_rule + m_end + QStringLiteral("c\ng\n"));
     }
 
     void aLostFileIsMadeAnew()
