@@ -1,0 +1,83 @@
+#pragma once
+
+#include <kdQCore/kdReporterInterface>
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+/// One call of a command: its arguments, read with clear errors, and the way back to the user.
+class ShellCall {
+    Q_DECLARE_TR_FUNCTIONS(ShellCall)
+
+public:
+    ShellCall(const kdReporterInterface& reporter, const QStringList& arguments);
+
+    int count() const { return m_arguments.size(); }
+    /// Empty beyond the last argument.
+    QString text(int index) const { return m_arguments.value(index); }
+    /// The arguments from \a first on, with a blank between.
+    QString textFrom(int first) const { return m_arguments.mid(first).join(QLatin1Char(' ')); }
+    bool is(int index, const char* keyword) const { return text(index) == QLatin1String(keyword); }
+
+    // These report and return false where the argument is no such number; \a what names it in the report.
+    bool readInt(int index, const QString& what, int& value) const;
+    bool readReal(int index, const QString& what, double& value) const;
+
+    const kdReporterInterface& reporter() const { return m_reporter; }
+    /// What the user asked for.
+    void show(const QString& text) const;
+    /// What was done, left out in quiet runs.
+    void tell(const QString& text) const;
+    /// Reports an error and returns false.
+    bool fail(const QString& text) const;
+    bool hasFailed() const { return m_hasFailed; }
+
+private:
+    const kdReporterInterface& m_reporter;
+    QStringList m_arguments;
+    mutable bool m_hasFailed = false;
+};
+
+/// The optional "name value" pairs and single words after a command's fixed arguments, in any order.
+///
+/// \code
+/// int steps = 0;
+/// bool is3d = false;
+/// if (!ShellParameters(call, 1).integer("steps", steps).flag("3d", is3d).read())
+///     return false;
+/// \endcode
+class ShellParameters {
+    Q_DECLARE_TR_FUNCTIONS(ShellParameters)
+
+public:
+    ShellParameters(const ShellCall& call, int first) : m_call(call), m_first(first) { }
+
+    ShellParameters& flag(const char* name, bool& value);
+    ShellParameters& integer(const char* name, int& value);
+    ShellParameters& real(const char* name, double& value);
+    /// As many values as \a values has places.
+    ShellParameters& reals(const char* name, const QVector<double*>& values);
+    ShellParameters& text(const char* name, QString& value);
+
+    /// Reports the first fault: an unknown word, one given twice, a missing or malformed value.
+    bool read();
+
+private:
+    struct Parameter {
+        QString name;
+        int values;
+        std::function<bool(int index)> take; ///< reads its values from \a index on
+        bool isGiven = false;
+    };
+
+    ShellParameters& add(const char* name, int values, std::function<bool(int)> take);
+    Parameter* find(const QString& name);
+    QString names() const;
+
+    const ShellCall& m_call;
+    int m_first;
+    QVector<Parameter> m_parameters;
+};

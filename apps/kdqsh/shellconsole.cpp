@@ -1,0 +1,80 @@
+#include "shellconsole.h"
+
+#include "terminal.h"
+
+#include <algorithm>
+#include <cstdio>
+
+ShellConsole::ShellConsole() : m_out(stdout), m_err(stderr), m_hasTerminal(nTerminal::isTerminal(stderr))
+{
+    QObject::connect(&m_reporter, &kdReporter::signalErrorMessage,
+                     [this](const QString& text) { error(text); });
+    QObject::connect(&m_reporter, &kdReporter::signalMessage,
+                     [this](const QString& text, int level) { message(text, level); });
+    QObject::connect(&m_reporter, &kdReporter::signalStartOperation,
+                     [this](const QString& text) { startOperation(text); });
+    QObject::connect(&m_reporter, &kdReporter::signalProgress,
+                     [this](double fraction) { showProgress(fraction); });
+    QObject::connect(&m_reporter, &kdReporter::signalFinishOperation,
+                     [this](const QString& text) { finishOperation(text); });
+}
+
+void ShellConsole::message(const QString& text, int level)
+{
+    if (level > m_maximalLevel)
+        return;
+    eraseBar();
+    m_out << text << Qt::endl;
+}
+
+void ShellConsole::error(const QString& text)
+{
+    ++m_errorCount;
+    eraseBar();
+    m_out.flush();
+    const QString line = text.simplified();
+    m_err << (m_place.isEmpty() ? line : QStringLiteral("%1: %2").arg(m_place, line)) << Qt::endl;
+}
+
+void ShellConsole::startOperation(const QString& text)
+{
+    m_operation = text;
+    if (!m_hasTerminal)
+        message(text, Account);
+}
+
+void ShellConsole::showProgress(double fraction)
+{
+    if (m_maximalLevel < Account)
+        return;
+    const double done = std::clamp(fraction, 0.0, 1.0);
+    const QString percent = tr("%1 %").arg(static_cast<int>(done * 100.0), 3);
+    if (!m_hasTerminal) {
+        message(percent, Account);
+        return;
+    }
+    constexpr int width = 30;
+    const int filled = static_cast<int>(done * width);
+    const QString bar = QStringLiteral("[%1%2] %3 %4")
+                            .arg(QString(filled, QLatin1Char('#')), QString(width - filled, QLatin1Char('.')),
+                                 percent, m_operation)
+                            .left(nTerminal::columns() - 1);
+    eraseBar();
+    m_err << bar << Qt::flush;
+    m_barLength = bar.size();
+}
+
+void ShellConsole::finishOperation(const QString& text)
+{
+    eraseBar();
+    if (!text.isEmpty())
+        message(text, Account);
+}
+
+void ShellConsole::eraseBar()
+{
+    if (m_barLength == 0)
+        return;
+    m_err << '\r' << QString(m_barLength, QLatin1Char(' ')) << '\r' << Qt::flush;
+    m_barLength = 0;
+}

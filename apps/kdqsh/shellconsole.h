@@ -1,0 +1,51 @@
+#pragma once
+
+#include <kdQCore/kdReporter>
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+/// Shows what the library reports: results and the account of what was done on standard output, errors and a
+/// progress bar on standard error. Where standard error is no terminal, progress comes as plain lines.
+///
+/// Commands reach it through reporter(), as any producer of the library reaches its receivers.
+class ShellConsole {
+    Q_DECLARE_TR_FUNCTIONS(ShellConsole)
+
+public:
+    /// Levels of messages: what a query was asked for, and what a command tells about its work.
+    enum Level { Result = 0, Account = 1 };
+
+    ShellConsole();
+    ShellConsole(const ShellConsole&) = delete;
+    ShellConsole& operator=(const ShellConsole&) = delete;
+
+    kdReporter& reporter() { return m_reporter; }
+
+    /// Leaves out everything but results and errors.
+    void setQuiet(bool isQuiet) { m_maximalLevel = isQuiet ? Result : Account; }
+
+    /// Opens every error line: where the command stands, and which one it is.
+    void setPlace(const QString& place) { m_place = place; }
+
+    void message(const QString& text, int level = Result);
+    /// Writes one line, whatever line breaks the text has.
+    void error(const QString& text);
+    int errorCount() const { return m_errorCount; }
+
+private:
+    void startOperation(const QString& text);
+    void showProgress(double fraction);
+    void finishOperation(const QString& text);
+    void eraseBar();
+
+    kdReporter m_reporter;
+    QTextStream m_out;
+    QTextStream m_err;
+    QString m_place;
+    QString m_operation;
+    int m_maximalLevel = Account;
+    int m_errorCount = 0;
+    int m_barLength = 0;
+    bool m_hasTerminal;
+};

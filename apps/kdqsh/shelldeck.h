@@ -1,0 +1,46 @@
+#pragma once
+
+#include <kdQCore/CFEDatLineWriter>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTextStream>
+
+#include <memory>
+
+/// The deck that a session writes, with its file and its writer.
+class ShellDeck {
+    Q_DECLARE_TR_FUNCTIONS(ShellDeck)
+
+public:
+    ~ShellDeck();
+
+    bool isOpen() const { return m_writer != nullptr; }
+    QString path() const { return m_file.fileName(); }
+    /// Only of an open deck.
+    CFEDatLineWriter& writer() { return *m_writer; }
+    const CFEDatLineWriter& writer() const { return *m_writer; }
+
+    // These return false with errorText() set.
+    bool open(const QString& path, CFEDatLineWriter::datFormat format,
+              CFEDatLineWriter::datExtensionMode mode);
+    bool flush();
+    /// Also closes where the last bytes cannot be written.
+    bool close();
+    QString errorText() const { return m_errorText; }
+
+    /// A state of the open deck to come back to.
+    struct Mark {
+        qint64 size;
+        CFEDatLineWriter::datFormat format;
+    };
+    Mark mark() const { return {m_file.size(), m_writer->getFormat()}; }
+    /// Takes back what was written since; false where the file does not allow it (a device, a pipe).
+    bool goBackTo(const Mark& mark);
+
+private:
+    QFile m_file;
+    std::unique_ptr<QTextStream> m_stream;
+    std::unique_ptr<CFEDatLineWriter> m_writer;
+    QString m_errorText;
+};

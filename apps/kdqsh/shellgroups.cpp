@@ -1,0 +1,40 @@
+#include "shellgroups.h"
+
+#include "deckcommands.h"
+#include "logcommands.h"
+#include "tablecommands.h"
+
+#include <kdQCore/kdCommandDispatcher>
+
+namespace {
+
+template <const ShellCommandGroup& (*group)()>
+QSharedPointer<kdCommand> create(const QString& parameters)
+{
+    return QSharedPointer<ShellCommand>::create(group(), parameters);
+}
+
+} // namespace
+
+const QVector<const ShellCommandGroup*>& nShellGroups::all()
+{
+    static const QVector<const ShellCommandGroup*> groups{&TableCommands::group(), &DeckCommands::group(),
+                                                          &LogCommands::group()};
+    return groups;
+}
+
+const ShellCommandGroup* nShellGroups::find(const QString& name)
+{
+    for (const ShellCommandGroup* group : all())
+        if (name == QLatin1String(group->name))
+            return group;
+    return nullptr;
+}
+
+void nShellGroups::registerCommands()
+{
+    kdCommandDispatcher& dispatcher = kdCommandDispatcher::I();
+    dispatcher.registerCommand(create<TableCommands::group>);
+    dispatcher.registerCommand(create<DeckCommands::group>);
+    dispatcher.registerCommand(create<LogCommands::group>);
+}

@@ -1,0 +1,65 @@
+#include "shelloptions.h"
+
+#include <QCommandLineParser>
+
+ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isInteractive)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr(
+        "Tables of material data and solver input decks by text commands. Commands come from a script, from\n"
+        "-c, from standard input, or from a prompt. The exit status is 0 only if all went well, 1 if a "
+        "command\n"
+        "failed, 2 if this command line was wrong."));
+    const QCommandLineOption commandsOption(QStringLiteral("c"),
+                                            tr("Runs these commands, separated by \";\"."), tr("commands"));
+    const QCommandLineOption keepGoingOption({QStringLiteral("k"), QStringLiteral("keep-going")},
+                                             tr("Goes on after a command that failed."));
+    const QCommandLineOption stopOption(
+        QStringLiteral("stop-on-error"),
+        tr("Stops at the first command that failed (default, except at the prompt)."));
+    const QCommandLineOption quietOption(
+        {QStringLiteral("q"), QStringLiteral("quiet")},
+        tr("Shows errors and the results that were asked for, nothing else."));
+    const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
+                                        tr("Shows this help."));
+    const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("version")},
+                                           tr("Shows the version."));
+    parser.addOptions({commandsOption, keepGoingOption, stopOption, quietOption, helpOption, versionOption});
+    parser.addPositionalArgument(QStringLiteral("script"),
+                                 tr("File with commands (UTF-8); \"-\" is standard input."),
+                                 QStringLiteral("[script]"));
+
+    const auto refuse = [this](const QString& reason) {
+        text = reason;
+        return Refuse;
+    };
+    if (!parser.parse(arguments))
+        return refuse(parser.errorText());
+    if (parser.isSet(helpOption)) {
+        text = parser.helpText();
+        return ShowText;
+    }
+    if (parser.isSet(versionOption)) {
+        text = QStringLiteral("kdqsh %1").arg(QCoreApplication::applicationVersion());
+        return ShowText;
+    }
+    const QStringList scripts = parser.positionalArguments();
+    const bool hasCommands = parser.isSet(commandsOption);
+    if (parser.isSet(keepGoingOption) && parser.isSet(stopOption))
+        return refuse(tr("--keep-going and --stop-on-error exclude each other."));
+    if (scripts.size() + (hasCommands ? 1 : 0) > 1)
+        return refuse(tr("Only one script or one -c can be run."));
+
+    isQuiet = parser.isSet(quietOption);
+    if (hasCommands) {
+        source = CommandText;
+        commands = parser.values(commandsOption).join(QLatin1Char('\n'));
+    } else if (!scripts.isEmpty() && scripts.first() != QLatin1String("-")) {
+        source = ScriptFile;
+        scriptFile = scripts.first();
+    } else {
+        source = isInteractive ? Prompt : StandardInput;
+    }
+    keepsGoing = parser.isSet(keepGoingOption) || (source == Prompt && !parser.isSet(stopOption));
+    return Run;
+}

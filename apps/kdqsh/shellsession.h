@@ -1,0 +1,26 @@
+#pragma once
+
+#include "shelldeck.h"
+#include "shelltables.h"
+
+/// What the commands of one run work on. Made once, in main; commands reach it through I(), as the
+/// dispatcher's factories cannot carry it.
+class ShellSession {
+public:
+    ShellSession();
+    ~ShellSession();
+    ShellSession(const ShellSession&) = delete;
+    ShellSession& operator=(const ShellSession&) = delete;
+
+    static ShellSession& I();
+
+    ShellTables tables;
+    ShellDeck deck;
+
+    void setScriptFolder(const QString& folder) { m_scriptFolder = folder; }
+    /// A file to read is looked for in the working directory, then beside the script.
+    QString inputPath(const QString& path) const;
+
+private:
+    QString m_scriptFolder;
+};

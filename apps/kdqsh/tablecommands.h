@@ -1,0 +1,42 @@
+#pragma once
+
+#include "shellcommand.h"
+
+#include <QCoreApplication>
+
+/// The commands "table ...": tables of the session and their files.
+class TableCommands {
+    Q_DECLARE_TR_FUNCTIONS(TableCommands)
+
+public:
+    static const ShellCommandGroup& group();
+
+    /// Reports and returns null where the session has no such table.
+    static ShellTables::Table find(const ShellCall& call, const QString& name);
+    /// Index of the column that \a word names: by its name or title, as x or y, or by its number from 1 on.
+    /// Reports and returns -1 where there is none.
+    static int columnIndex(const ShellCall& call, const kdDataTable& table, const QString& word);
+
+private:
+    static bool list(ShellCall& call);
+    static bool import(ShellCall& call);
+    static bool load(ShellCall& call);
+    static bool exportTable(ShellCall& call);
+    static bool exportText(const kdDataTable& table, QFile& file, const QString& separator);
+
+    static bool show(ShellCall& call);
+    static bool info(ShellCall& call);
+    static bool lookup(ShellCall& call);
+
+    static bool convert(ShellCall& call);
+    static bool setUnit(ShellCall& call);
+    static bool extract(ShellCall& call);
+    static bool copy(ShellCall& call);
+    static bool rename(ShellCall& call);
+    static bool remove(ShellCall& call);
+    static bool sort(ShellCall& call);
+    static bool scale(ShellCall& call);
+    static bool combine(ShellCall& call);
+
+    static QString size(const kdDataTable& table);
+};

@@ -1,0 +1,235 @@
+"""Runs the fire example in all four layouts and checks decks and exported tables against the source data.
+
+usage: check_deck.py KDQSH EXAMPLE_FOLDER
+
+The deck is read by the rules of the layout alone, the data by Python's own csv and xml readers.
+"""
+import csv
+import math
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import xml.etree.ElementTree
+
+ZERO_CELSIUS = 273.15
+INT_WIDTH = {"standard": 5, "extended": 10}
+REAL_WIDTH = {"standard": 10, "extended": 20}
+
+
+class Deck:
+    """The records of a deck, comments apart, read in their order."""
+
+    def __init__(self, text, layout, widths):
+        self.fixed = layout == "fixed"
+        self.widths = widths
+        lines = text.split("\n")
+        assert lines.pop() == "", "the last line is not ended"
+        for line in lines:
+            assert len(line) <= 178 and not line.endswith("\r"), line  # 16 short reals with commas, " c"
+        self.comments = [line[2:] for line in lines if line.startswith("$ ")]
+        self.lines = [line for line in lines if not line.startswith("$")]
+
+    def word(self, keyword, separator=True):
+        """The text after a keyword that opens the line."""
+        line = self.lines.pop(0)
+        assert line.startswith(keyword), f"expected '{keyword}', found '{line}'"
+        rest = line[len(keyword):]
+        if separator and not self.fixed:
+            assert rest.startswith(","), line
+            rest = rest[1:]
+        return rest
+
+    def line(self, expected):
+        found = self.lines.pop(0)
+        assert found == expected, f"expected '{expected}', found '{found}'"
+
+    def record(self, width):
+        """The fields of a line and its continuations."""
+        fields = []
+        while True:
+            line = self.lines.pop(0)
+            continued = line.endswith(" c")
+            if continued:
+                line = line[:-2]
+            if self.fixed:
+                assert len(line) % width == 0, f"'{line}' is no row of fields {width} wide"
+                fields += [line[i:i + width] for i in range(0, len(line), width)]
+            else:
+                assert continued or line.endswith(","), line
+                fields += line.rstrip(",").split(",")
+            if not continued:
+                return fields
+
+    def ints(self):
+        return [int(field) for field in self.record(INT_WIDTH[self.widths])]
+
+    def reals(self):
+        return [Real(field) for field in self.record(REAL_WIDTH[self.widths])]
+
+    def key(self, name):
+        """A key of the parameter section and its integers."""
+        opening = name.ljust(REAL_WIDTH[self.widths]) if self.fixed else name + ","
+        line = self.lines[0]
+        assert line.startswith(opening), line
+        self.lines[0] = line[len(opening):]
+        return self.ints()
+
+
+class Real:
+    """A number as the deck shows it: its last digit is cut, not rounded."""
+
+    def __init__(self, field):
+        self.text = field
+        mantissa, exponent = field.strip().split("E")
+        self.value = float(field)
+        self.step = 10.0 ** (int(exponent) - len(mantissa.split(".")[1]))
+
+    def shows(self, exact):
+        slack = abs(exact) * 4e-16
+        missing = abs(exact) - abs(self.value)
+        return -slack <= missing < self.step + slack and self.value * exact >= 0
+
+
+def same(found, expected, what):
+    assert len(found) == len(expected), f"{what}: {len(found)} values instead of {len(expected)}"
+    for index, (real, exact) in enumerate(zip(found, expected)):
+        assert real.shows(exact), f"{what}, value {index + 1}: '{real.text}' does not show {exact!r}"
+
+
+def read_csv(path):
+    """Header and columns of a source file."""
+    with open(path, newline="", encoding="utf-8") as file:
+        rows = list(csv.reader((line for line in file if not line.startswith("#")), delimiter=";"))
+    return rows[0], [[float(cell) for cell in column] for column in zip(*rows[1:])]
+
+
+class Sources:
+    def __init__(self, folder):
+        _, steel = read_csv(folder / "steel_s355_en1993.csv")
+        self.kelvin = [celsius + ZERO_CELSIUS for celsius in steel[0]]
+        self.yield_stress, self.youngs_modulus = steel[1], steel[3]
+        self.conductivity = list(zip(steel[0], steel[4]))
+        header, columns = read_csv(folder / "s355_stress_strain_en1993.csv")
+        self.strain, self.stress = columns[0], columns[1:]
+        self.stress_kelvin = [float(celsius) + ZERO_CELSIUS for celsius in header[1:]]
+        _, fire = read_csv(folder / "iso834_fire_curve.csv")
+        self.fire_seconds = [minutes * 60.0 for minutes in fire[0]]
+        self.fire_kelvin = [celsius + ZERO_CELSIUS for celsius in fire[1]]
+
+
+def check_points(deck, number, code, x, y, name):
+    assert deck.word("table") == name
+    assert deck.ints() == [number, 1, 0, 0, 2], name
+    assert deck.ints() == [code, len(x), 2], name
+    for point in zip(x, y):
+        same(deck.reals(), point, name)
+
+
+def check_grid(deck, sources):
+    assert deck.word("table") == "stress_strain"
+    assert deck.ints() == [3, 2, 0, 0, 0]
+    assert deck.ints() == [23, len(sources.strain), 2, 12, len(sources.stress_kelvin), 2]
+    same(deck.reals(), sources.strain, "strain")
+    same(deck.reals(), sources.stress_kelvin, "temperature of the grid")
+    same(deck.reals(), [value for column in sources.stress for value in column], "stress")
+
+
+def check_formula(deck, sources):
+    assert deck.word("table") == "conductivity"
+    assert deck.ints() == [4, 1, 0, 0, 3]
+    assert deck.ints() == [12, 0, 2]
+    formula = compile(deck.lines.pop(0), "formula", "eval")
+    for celsius, conductivity in sources.conductivity:
+        found = eval(formula, {"max": max, "v1": celsius + ZERO_CELSIUS})  # our own deck
+        assert math.isclose(found, conductivity, abs_tol=0.0601), (celsius, found, conductivity)
+
+
+def check_deck(text, layout, widths, sources):
+    deck = Deck(text, layout, widths)
+    assert any("mm, t, s, K" in comment for comment in deck.comments)
+    assert any("EN 1993-1-2" in comment for comment in deck.comments)
+    assert deck.word("title") == "Steel plate S355 in the standard fire"
+    assert deck.key("table") == [0, 0, 2, 1, 1, 0, 0, 1]
+    assert deck.key("autoforge") == [2, 0, 2, 0, 0, 1, 0, 0, 0, 14, 1, 0]
+    deck.line("end")
+    check_points(deck, 1, 12, sources.kelvin, sources.yield_stress, "yield_stress")
+    check_points(deck, 2, 12, sources.kelvin, sources.youngs_modulus, "youngs_modulus")
+    check_grid(deck, sources)
+    check_formula(deck, sources)
+    check_points(deck, 5, 1, sources.fire_seconds, sources.fire_kelvin, "fire_curve")
+    deck.line("solver")
+    assert deck.ints() == [11, 0, 0, 0, 0, 0, 0, 0]
+    assert deck.key("optimize") == [11]
+    assert "Point load for component 'steel plate'." in deck.comments
+    deck.line("point load")
+    assert deck.ints() == [1, 0, 0]
+    labelled = deck.lines.pop(0)
+    assert labelled.endswith("ptld_1_loaded_edge"), labelled
+    same(deck.reals(), [0.0, 0.0, -20000.0], "force")
+    assert deck.ints() == [0, 0, 0]
+    assert deck.ints() == [2]
+    deck.line("loaded_edge")
+    deck.line("end option")
+    assert deck.word("loadcase") == "fire"
+    deck.line("auto load")
+    line = deck.lines.pop(0)
+    ints = 5 * INT_WIDTH[widths] if deck.fixed else len("480,0,10,1,0,")
+    deck.lines[:0] = [line[:ints], line[ints:]]
+    assert deck.ints() == [480, 0, 10, 1, 0]
+    same(deck.reals(), [14400.0, 150.0], "automatic load")
+    deck.line("continue")
+    assert not deck.lines, deck.lines
+
+
+def check_exports(folder, sources):
+    for name, y in (("yield_stress", sources.yield_stress), ("youngs_modulus", sources.youngs_modulus)):
+        root = xml.etree.ElementTree.parse(folder / f"{name}.xml").getroot()
+        assert (root.tag, root.get("name"), root.get("rows")) == ("kdDataTable", name, str(len(y)))
+        assert [column.get("unit_symbol") for column in root.iter("columndata")] == ["K", "MPa"]
+        rows = [[float(cell) for cell in row.text.split(";")] for row in root.iter("row")]
+        for found, exact in zip(rows, zip(sources.kelvin, y), strict=True):
+            assert all(math.isclose(a, b, rel_tol=1e-15) for a, b in zip(found, exact)), (name, found)
+    for name, columns in (("stress_strain", [sources.strain] + sources.stress),
+                          ("fire_curve", [sources.fire_seconds, sources.fire_kelvin])):
+        with open(folder / f"{name}.csv", newline="", encoding="utf-8") as file:
+            lines = [line for line in file if not line.startswith("#")]
+        rows = [[float(cell) for cell in row] for row in csv.reader(lines, delimiter=";")]
+        for found, exact in zip(rows, zip(*columns), strict=True):
+            assert len(found) == len(exact) and all(math.isclose(a, b, rel_tol=1e-14) for a, b in zip(found, exact)), (
+                name, found, exact)
+
+
+def run_example(kdqsh, example, layout, widths):
+    """The deck's text and the folder's name; the script is the checked-in one but for the layout."""
+    folder = tempfile.TemporaryDirectory()
+    script = (example / "fire.kdqsh").read_text(encoding="utf-8")
+    wanted = script.replace("deck open fire.dat free extended", f"deck open fire.dat {layout} {widths}")
+    assert wanted != script or (layout, widths) == ("free", "extended")
+    path = pathlib.Path(folder.name)
+    for data in example.glob("*.csv"):
+        (path / data.name).write_bytes(data.read_bytes())
+    (path / "fire.kdqsh").write_text(wanted, encoding="utf-8")
+    environment = dict(os.environ, LANGUAGE="en", LOCALAPPDATA=str(path / "data"))
+    done = subprocess.run([kdqsh, "fire.kdqsh"], cwd=path, env=environment, capture_output=True, text=True,
+                          encoding="utf-8", timeout=100, check=False)
+    assert done.returncode == 0 and done.stderr == "", (done.returncode, done.stderr)
+    assert "Warning" not in done.stdout, done.stdout
+    assert pathlib.Path(done.stdout.splitlines()[-1]).is_file()
+    return folder
+
+
+def main():
+    kdqsh, example = sys.argv[1], pathlib.Path(sys.argv[2])
+    sources = Sources(example)
+    for layout in ("fixed", "free"):
+        for widths in ("standard", "extended"):
+            with run_example(kdqsh, example, layout, widths) as folder:
+                path = pathlib.Path(folder)
+                check_deck((path / "fire.dat").read_bytes().decode("utf-8"), layout, widths, sources)
+                check_exports(path, sources)
+                print(f"{layout} {widths}: deck and tables agree with their sources")
+
+
+main()
