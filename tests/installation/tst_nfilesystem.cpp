@@ -55,6 +55,14 @@ class TestNFileSystem : public QObject {
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
 
+    // Qt makes a shortcut where the system lets the user make no link.
+    bool canLink() const
+    {
+        const QString probe = path("probe");
+        const bool linked = QFile::link(m_folder->path(), probe) && QFileInfo(probe).isSymbolicLink();
+        return QFile::remove(probe) && linked;
+    }
+
     QString path(const char* name) const { return m_folder->filePath(QString::fromUtf8(name)); }
 
 private Q_SLOTS:
@@ -62,6 +70,8 @@ private Q_SLOTS:
 
     void copiesATree()
     {
+        if (!canLink())
+            QSKIP("needs symbolic links");
         writeFile(path("from/a.dat"), "new");
         writeFile(path("from/.hidden/Größe 1.txt"), "y");
         QVERIFY(QDir().mkpath(path("from/empty/inner")));
@@ -94,6 +104,8 @@ private Q_SLOTS:
 
     void copyIntoItself()
     {
+        if (!canLink())
+            QSKIP("needs symbolic links");
         QFETCH(QString, target);
         writeFile(path("from/a"));
         QVERIFY(QFile::link(path("from"), path("link")));
@@ -113,6 +125,8 @@ private Q_SLOTS:
 
     void copyFileKeepsWhatItCannotReplace()
     {
+        if (!canLink())
+            QSKIP("needs symbolic links");
         writeFile(path("a"), "content");
         QVERIFY(failureOf([&] { copyFile(path("a"), path("a")); }).contains(QLatin1String("same file")));
         QVERIFY(QFile::link(path("a"), path("link")));
@@ -126,6 +140,8 @@ private Q_SLOTS:
 
     void removesATreeButNotWhatLinksLeadTo()
     {
+        if (!canLink())
+            QSKIP("needs symbolic links");
         writeFile(path("kept/file"));
         writeFile(path("gone/.inner/file"));
         QVERIFY(QFile::link(path("kept"), path("gone/link")));
