@@ -1,7 +1,7 @@
 # kdqcore_test(<file.cpp> [LAYERS <folder>...] [LIBRARIES <target>...] [LABELS <label>...] [TIMEOUT <s>])
 #
-# One Qt Test executable, named as the file; its CTest label is its folder. LAYERS links the objects of these
-# folders in, for tests of internals that the library does not export.
+# One Qt Test executable, named as the file; its CTest label is its folder. LAYERS opens the private headers of
+# these folders: such a test links the whole library statically, since the shared one does not export internals.
 
 set(kdqcore_locale_dir ${CMAKE_BINARY_DIR}/locale)
 find_program(LOCALEDEF localedef)
@@ -20,9 +20,12 @@ function(kdqcore_test source)
         set(TEST_TIMEOUT 120)
     endif()
     add_executable(${name} ${source})
-    target_link_libraries(${name} PRIVATE kdqcore_testsupport kdqcore_flags ${TEST_LIBRARIES})
+    set(library kdQCore::kdQCore)
+    if(TEST_LAYERS)
+        set(library kdqcore_internal)
+    endif()
+    target_link_libraries(${name} PRIVATE kdqcore_testsupport ${library} kdqcore_flags ${TEST_LIBRARIES})
     foreach(layer IN LISTS TEST_LAYERS)
-        target_sources(${name} PRIVATE $<TARGET_OBJECTS:kdqcore_${layer}>)
         get_property(included GLOBAL PROPERTY kdqcore_includes_${layer})
         target_include_directories(${name} PRIVATE ${included})
     endforeach()
