@@ -89,9 +89,11 @@ bool kdDataTable::writeXML(QIODevice& device) const
     QXmlStreamWriter writer(&device);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
-    writeXML(writer);
+    TableXmlWriter table(writer, *this);
+    table.setRowDevice(device);
+    const bool areRowsWritten = table.write(xmlStartElement(), TableXmlWriter::SeparatedValues);
     writer.writeEndDocument();
-    const bool isWritten = flush(device) && !writer.hasError();
+    const bool isWritten = areRowsWritten && flush(device) && !writer.hasError();
     if (!wasOpen)
         device.close();
     return isWritten;

@@ -19,6 +19,14 @@ kdUnitSystem::Dimension dimensionOfType(int type)
     return kdUnitSystem::None;
 }
 
+void appendNarrow(const QStringRef& text, std::string& narrow)
+{
+    const std::size_t size = narrow.size();
+    narrow.resize(size + std::size_t(text.size()));
+    std::transform(text.begin(), text.end(), narrow.begin() + std::ptrdiff_t(size),
+                   [](QChar c) { return c.unicode() < 0x80 ? char(c.unicode()) : '?'; });
+}
+
 } // namespace
 
 bool TableXmlReader::read(const QString& element)
@@ -129,8 +137,7 @@ void TableXmlReader::collectText()
     while (!m_reader.hasError()) {
         switch (m_reader.readNext()) {
         case QXmlStreamReader::Characters:
-            for (const QChar c : m_reader.text())
-                m_rowText.push_back(c.unicode() < 0x80 ? char(c.unicode()) : '?');
+            appendNarrow(m_reader.text(), m_rowText);
             break;
         case QXmlStreamReader::StartElement:
             m_reader.skipCurrentElement();

@@ -5,7 +5,9 @@
 
 #include <kdqcore_version.h>
 
-#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <vector>
 
 namespace {
 
@@ -32,36 +34,67 @@ QString number(int value)
     return QString::number(value);
 }
 
-// One row at a time in a buffer that keeps its size.
-class RowText {
-public:
-    explicit RowText(int columns) { m_text.reserve(std::min(columns, 1000) * nNumberText::capacity); }
+constexpr int blockSize = 1 << 16;
 
-    void clear() { m_text.resize(0); }
-    void append(double value)
+// Number and values of one row after the other, in buffers that stay.
+class RowTexts {
+public:
+    RowTexts(const kdDataTable& table, TableXmlWriter::ValueEnd valueEnd)
+        : m_withLastSemicolon(valueEnd == TableXmlWriter::TerminatedValues)
     {
-        char digits[nNumberText::capacity];
-        char* const end = nNumberText::writeRounded(digits, value);
-        *end = ';';
-        m_text.append(QLatin1String(digits, int(end - digits) + 1));
+        for (int i = 0; i < table.columns(); ++i)
+            m_columns.push_back(table.column(i));
+        m_values.resize(m_columns.size() * nNumberText::capacity);
     }
-    void dropLastSemicolon() { m_text.chop(1); }
-    const QString& text() const { return m_text; }
+
+    QLatin1String number(int row)
+    {
+        return QLatin1String(m_number, std::to_chars(m_number, std::end(m_number), row + 1).ptr);
+    }
+
+    QLatin1String values(int row)
+    {
+        char* end = m_values.data();
+        for (const kdDataColumn* column : m_columns) {
+            end = nNumberText::writeRounded(end, column->value(row));
+            *end++ = ';';
+        }
+        return QLatin1String(m_values.data(), m_withLastSemicolon ? end : end - 1);
+    }
 
 private:
-    QString m_text;
+    std::vector<const kdDataColumn*> m_columns;
+    std::vector<char> m_values;
+    char m_number[nNumberText::capacity];
+    bool m_withLastSemicolon;
 };
+
+void set(QString& text, QLatin1String content)
+{
+    text.resize(0);
+    text.append(content);
+}
+
+void append(QByteArray& block, QLatin1String text)
+{
+    block.append(text.data(), text.size());
+}
 
 } // namespace
 
-void TableXmlWriter::write(const QString& element, ValueEnd valueEnd)
+bool TableXmlWriter::write(const QString& element, ValueEnd valueEnd)
 {
     m_writer.writeStartElement(element);
     writeHead();
     for (int i = 0; i < m_table.columns(); ++i)
         writeColumn(i);
-    writeRows(valueEnd);
+    bool isWritten = true;
+    if (m_rowDevice)
+        isWritten = writeRowsToDevice(valueEnd);
+    else
+        writeRows(valueEnd);
     m_writer.writeEndElement();
+    return isWritten;
 }
 
 void TableXmlWriter::writeHead()
@@ -102,21 +135,42 @@ void TableXmlWriter::writeColumn(int index)
 void TableXmlWriter::writeRows(ValueEnd valueEnd)
 {
     const QString element = QStringLiteral("row");
-    const QString rowNumber = QStringLiteral("nb");
-    const int columns = m_table.columns();
+    const QString numberAttribute = QStringLiteral("nb");
     const int rows = m_table.rows();
-    RowText row(columns);
+    RowTexts texts(m_table, valueEnd);
+    QString number;
+    QString values;
+    number.reserve(nNumberText::capacity);
+    values.reserve(nNumberText::capacity); // from now on it keeps what it needs
     for (int i = 0; i < rows; ++i) {
-        row.clear();
-        for (int k = 0; k < columns; ++k)
-            row.append(m_table.column(k)->value(i));
-        if (valueEnd == SeparatedValues)
-            row.dropLastSemicolon();
+        set(number, texts.number(i));
+        set(values, texts.values(i));
         m_writer.writeStartElement(element);
-        m_writer.writeAttribute(rowNumber, number(i + 1));
-        m_writer.writeCharacters(row.text());
+        m_writer.writeAttribute(numberAttribute, number);
+        m_writer.writeCharacters(values);
         m_writer.writeEndElement();
     }
+}
+
+bool TableXmlWriter::writeRowsToDevice(ValueEnd valueEnd)
+{
+    const int rows = m_table.rows();
+    RowTexts texts(m_table, valueEnd);
+    QByteArray block;
+    block.reserve(blockSize + blockSize / 8);
+    for (int i = 0; i < rows; ++i) {
+        append(block, QLatin1String("\n    <row nb=\""));
+        append(block, texts.number(i));
+        append(block, QLatin1String("\">"));
+        append(block, texts.values(i));
+        append(block, QLatin1String("</row>"));
+        if (block.size() < blockSize && i + 1 < rows)
+            continue;
+        if (m_rowDevice->write(block) != block.size())
+            return false;
+        block.resize(0);
+    }
+    return true;
 }
 
 // A carriage return in plain form is read as a line feed.

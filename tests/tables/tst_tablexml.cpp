@@ -129,6 +129,33 @@ private Q_SLOTS:
         QVERIFY(result == withoutColumns);
     }
 
+    // A device gets the bytes that a writer with automatic formatting gives it.
+    void deviceAndWriterAgree_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("columns");
+        QTest::newRow("no columns") << 0 << 0;
+        QTest::newRow("no rows") << 0 << 2;
+        QTest::newRow("one row") << 1 << 1;
+        QTest::newRow("several blocks") << 20000 << 3;
+    }
+    void deviceAndWriterAgree()
+    {
+        QFETCH(int, rows);
+        QFETCH(int, columns);
+        kdDataTable table;
+        table.setComment(QStringLiteral("ε > 0"));
+        for (int i = 0; i < columns; ++i)
+            table.appendColumn(column(kdUnitSystem(), QString(), QVector<double>(rows, 1.0 / (i + 3))));
+        QByteArray expected;
+        QXmlStreamWriter writer(&expected);
+        writer.setAutoFormatting(true);
+        writer.writeStartDocument();
+        QVERIFY(table.writeXML(writer));
+        writer.writeEndDocument();
+        QCOMPARE(writtenToDevice(table), expected);
+    }
+
     // Special values and random bits: the text of each is that of QString::number, and reads back as it does.
     void values_data() { forms(); }
     void values()
