@@ -1,0 +1,1564 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>DeckCommands</name>
+    <message>
+        <source>The table needs an id above 0 (id ID).</source>
+        <translation>Die Tabelle braucht eine Nummer über 0 (id ID).</translation>
+    </message>
+    <message>
+        <source>The table needs the solver&apos;s code of its independent variable (variable CODE).</source>
+        <translation>Die Tabelle braucht die Nummer ihrer unabhängigen Variablen beim Solver (variable CODE).</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be converted to &apos;%2&apos;; from and to name two units.</source>
+        <translation>„%1“ lässt sich nicht in „%2“ umrechnen; from und to nennen zwei Einheiten.</translation>
+    </message>
+    <message>
+        <source>Column %1 of table &apos;%2&apos; must have a number as its name, not &apos;%3&apos;.</source>
+        <translation>Spalte %1 der Tabelle „%2“ muss eine Zahl als Namen haben, nicht „%3“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no solver; possible are: %2.</source>
+        <translation>„%1“ ist kein Solver; möglich sind: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no section key; possible is table.</source>
+        <translation>„%1“ ist kein Abschnittsschlüssel; möglich ist table.</translation>
+    </message>
+    <message>
+        <source>The table needs the solver&apos;s code of its second variable (variable2 CODE).</source>
+        <translation>Die Tabelle braucht die Nummer ihrer zweiten Variablen beim Solver (variable2 CODE).</translation>
+    </message>
+    <message>
+        <source>The formula of table &apos;%1&apos; is empty.</source>
+        <translation>Die Formel der Tabelle „%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>The point load needs a list of nodes (nodes NAME) and a body of 0 or above (body ID); the deck holds comments instead.</source>
+        <translation>Die Punktlast braucht eine Knotenliste (nodes NAME) und einen Körper ab 0 (body ID); im Deck stehen stattdessen Kommentare.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no unit of electric current.</source>
+        <translation>„%1“ ist keine Einheit der Stromstärke.</translation>
+    </message>
+    <message>
+        <source>The solver&apos;s input deck: its lines and its cards.</source>
+        <translation>Das Eingabedeck des Solvers: seine Zeilen und seine Karten.</translation>
+    </message>
+    <message>
+        <source>Begins a deck; free and extended where nothing is said.</source>
+        <translation>Beginnt ein Deck; ohne Angabe in freiem Format und erweiterter Breite.</translation>
+    </message>
+    <message>
+        <source>Ends the deck and says whether all of it was written.</source>
+        <translation>Beendet das Deck und sagt, ob alles geschrieben wurde.</translation>
+    </message>
+    <message>
+        <source>Hands everything written so far to the system.</source>
+        <translation>Übergibt alles bisher Geschriebene dem System.</translation>
+    </message>
+    <message>
+        <source>Shows file and layout of the deck.</source>
+        <translation>Zeigt Datei und Form des Decks.</translation>
+    </message>
+    <message>
+        <source>Changes the layout of the lines to come.</source>
+        <translation>Ändert das Format der folgenden Zeilen.</translation>
+    </message>
+    <message>
+        <source>Writes the title line.</source>
+        <translation>Schreibt die Titelzeile.</translation>
+    </message>
+    <message>
+        <source>Writes comment lines, cut where the text is too long for one.</source>
+        <translation>Schreibt Kommentarzeilen, geteilt, wo der Text für eine zu lang ist.</translation>
+    </message>
+    <message>
+        <source>Writes a keyword line.</source>
+        <translation>Schreibt eine Schlüsselwortzeile.</translation>
+    </message>
+    <message>
+        <source>Writes a key of the parameter section, without line end.</source>
+        <translation>Schreibt einen Schlüssel des Parameterabschnitts, ohne Zeilenende.</translation>
+    </message>
+    <message>
+        <source>Writes a text as it is, without line end.</source>
+        <translation>Schreibt einen Text, wie er ist, ohne Zeilenende.</translation>
+    </message>
+    <message>
+        <source>Ends the line.</source>
+        <translation>Beendet die Zeile.</translation>
+    </message>
+    <message>
+        <source>Writes the line &quot;element&quot;.</source>
+        <translation>Schreibt die Zeile „element“.</translation>
+    </message>
+    <message>
+        <source>Writes the line &quot;feature&quot;.</source>
+        <translation>Schreibt die Zeile „feature“.</translation>
+    </message>
+    <message>
+        <source>Writes the line &quot;nodal&quot;.</source>
+        <translation>Schreibt die Zeile „nodal“.</translation>
+    </message>
+    <message>
+        <source>Writes the line &quot;loadcase&quot;.</source>
+        <translation>Schreibt die Zeile „loadcase“.</translation>
+    </message>
+    <message>
+        <source>Writes a list of whole numbers.</source>
+        <translation>Schreibt eine Liste ganzer Zahlen.</translation>
+    </message>
+    <message>
+        <source>Writes a list of numbers.</source>
+        <translation>Schreibt eine Liste von Zahlen.</translation>
+    </message>
+    <message>
+        <source>Writes the values of a table&apos;s column as a list.</source>
+        <translation>Schreibt die Werte einer Tabellenspalte als Liste.</translation>
+    </message>
+    <message>
+        <source>Writes the key of the parameter section that allows tables.</source>
+        <translation>Schreibt den Schlüssel des Parameterabschnitts, der Tabellen erlaubt.</translation>
+    </message>
+    <message>
+        <source>Writes a table of two columns in its own units; hold: no extrapolation.</source>
+        <translation>Schreibt eine Tabelle aus zwei Spalten in ihren eigenen Einheiten; hold: keine Extrapolation.</translation>
+    </message>
+    <message>
+        <source>Writes a table of two variables: the first in its first column, the second in the other columns&apos; names, converted where from and to say so; single: one value a line.</source>
+        <translation>Schreibt eine Tabelle zweier Variablen: die erste in ihrer ersten Spalte, die zweite in den Namen der anderen Spalten, umgerechnet, wo from und to es sagen; single: ein Wert je Zeile.</translation>
+    </message>
+    <message>
+        <source>Writes a table that the solver evaluates from a formula.</source>
+        <translation>Schreibt eine Tabelle, die der Solver aus einer Formel berechnet.</translation>
+    </message>
+    <message>
+        <source>Writes the solver option: automatic, pardiso, multifrontal, mumps, iterative, sparse, casi, profile or mixed.</source>
+        <translation>Schreibt die Option des Solvers: automatic, pardiso, multifrontal, mumps, iterative, sparse, casi, profile oder mixed.</translation>
+    </message>
+    <message>
+        <source>Writes the process line.</source>
+        <translation>Schreibt die Prozesszeile.</translation>
+    </message>
+    <message>
+        <source>Writes automatic loading.</source>
+        <translation>Schreibt die automatische Belastung.</translation>
+    </message>
+    <message>
+        <source>Writes a force on a list of nodes, in newton.</source>
+        <translation>Schreibt eine Kraft auf eine Knotenliste, in Newton.</translation>
+    </message>
+    <message>
+        <source>Writes an electric current at a node, constant or by a table.</source>
+        <translation>Schreibt einen elektrischen Strom an einem Knoten, konstant oder nach einer Tabelle.</translation>
+    </message>
+    <message>
+        <source>The deck &apos;%1&apos; is still open; see &apos;deck close&apos;.</source>
+        <translation>Das Deck „%1“ ist noch offen; siehe „deck close“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no layout; possible are fixed, free, standard, extended.</source>
+        <translation>„%1“ ist keine Form; möglich sind fixed, free, standard, extended.</translation>
+    </message>
+    <message>
+        <source>No deck is open.</source>
+        <translation>Es ist kein Deck offen.</translation>
+    </message>
+    <message>
+        <source>Deck &apos;%1&apos; written.</source>
+        <translation>Deck „%1“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>Deck &apos;%1&apos;: %2, %3.</source>
+        <translation>Deck „%1“: %2, %3.</translation>
+    </message>
+    <message>
+        <source>fixed columns</source>
+        <translation>feste Spalten</translation>
+    </message>
+    <message>
+        <source>free format</source>
+        <translation>freies Format</translation>
+    </message>
+    <message>
+        <source>standard widths</source>
+        <translation>Standardbreiten</translation>
+    </message>
+    <message>
+        <source>extended widths</source>
+        <translation>erweiterte Breiten</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no format; possible are fixed and free.</source>
+        <translation>„%1“ ist kein Format; möglich sind fixed und free.</translation>
+    </message>
+    <message>
+        <source>PERLINE must be at least 1, not %1.</source>
+        <translation>PERLINE muss mindestens 1 sein, nicht %1.</translation>
+    </message>
+    <message>
+        <source>Number %1</source>
+        <translation>Zahl %1</translation>
+    </message>
+</context>
+<context>
+    <name>LogCommands</name>
+    <message>
+        <source>A severity is 0 to 6, not %1.</source>
+        <translation>Ein Schweregrad ist 0 bis 6, nicht %1.</translation>
+    </message>
+    <message>
+        <source>The debug log of this run.</source>
+        <translation>Das Protokoll dieses Laufs.</translation>
+    </message>
+    <message>
+        <source>Shows where the log file lies.</source>
+        <translation>Zeigt, wo die Protokolldatei liegt.</translation>
+    </message>
+    <message>
+        <source>Shows log lines from a severity (0 to 6) on also on standard error.</source>
+        <translation>Zeigt Protokollzeilen ab einem Schweregrad (0 bis 6) auch auf der Fehlerausgabe.</translation>
+    </message>
+    <message>
+        <source>Writes a line into the log.</source>
+        <translation>Schreibt eine Zeile in das Protokoll.</translation>
+    </message>
+    <message>
+        <source>Hands all log lines to the system.</source>
+        <translation>Übergibt alle Protokollzeilen dem System.</translation>
+    </message>
+</context>
+<context>
+    <name>Shell</name>
+    <message>
+        <source>&apos;%1&apos; cannot be read: %2</source>
+        <translation>„%1“ ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>kdqsh %1. &apos;help&apos; shows the commands, &apos;quit&apos; ends the session.</source>
+        <translation>kdqsh %1. „help“ zeigt die Befehle, „quit“ beendet die Sitzung.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no arguments.</source>
+        <translation>„%1“ nimmt keine Argumente.</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>There is nothing that can be undone.</source>
+        <translation>Es gibt nichts, was sich rückgängig machen lässt.</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation>Es gibt nichts zu wiederholen.</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ShellCall</name>
+    <message>
+        <source>%1 must be a whole number, not &apos;%2&apos;.</source>
+        <translation>%1 muss eine ganze Zahl sein, nicht „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 must be a number, not &apos;%2&apos;.</source>
+        <translation>%1 muss eine Zahl sein, nicht „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>ShellCommand</name>
+    <message>
+        <source>&apos;%1&apos; needs one of: %2.</source>
+        <translation>„%1“ braucht eines von: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown command: &gt;%1 %2&lt;! Known are: %3.</source>
+        <translation>Unbekannter Befehl: &gt;%1 %2&lt;! Bekannt sind: %3.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>No deck is open; see &apos;deck open&apos;.</source>
+        <translation>Es ist kein Deck offen; siehe „deck open“.</translation>
+    </message>
+    <message>
+        <source>The command failed.</source>
+        <translation>Der Befehl ist gescheitert.</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ShellConsole</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>ShellDeck</name>
+    <message>
+        <source>The deck &apos;%1&apos; cannot be opened for writing: %2</source>
+        <translation>Das Deck „%1“ lässt sich nicht zum Schreiben öffnen: %2</translation>
+    </message>
+    <message>
+        <source>The deck &apos;%1&apos; cannot be written: %2</source>
+        <translation>Das Deck „%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ShellHelp</name>
+    <message>
+        <source>There is no command &apos;%1&apos;; &apos;help&apos; shows them all.</source>
+        <translation>Es gibt keinen Befehl „%1“; „help“ zeigt alle.</translation>
+    </message>
+    <message>
+        <source>Shows all commands, or one with its usage.</source>
+        <translation>Zeigt alle Befehle oder einen mit seinem Aufruf.</translation>
+    </message>
+    <message>
+        <source>Shows the commands of this session.</source>
+        <translation>Zeigt die Befehle dieser Sitzung.</translation>
+    </message>
+    <message>
+        <source>Ends the session; an open deck is closed.</source>
+        <translation>Beendet die Sitzung; ein offenes Deck wird geschlossen.</translation>
+    </message>
+    <message>
+        <source>Executes the command undone last once more.</source>
+        <translation>Führt den zuletzt rückgängig gemachten Befehl noch einmal aus.</translation>
+    </message>
+    <message>
+        <source>Takes back the last command that changed something.</source>
+        <translation>Nimmt den letzten Befehl zurück, der etwas geändert hat.</translation>
+    </message>
+    <message>
+        <source>%1 See &apos;help %2&apos;.</source>
+        <translation>%1 Siehe „help %2“.</translation>
+    </message>
+    <message>
+        <source>Statements end at the line end or at &quot;;&quot;. Words that hold blanks, &quot;;&quot; or &quot;#&quot; stand in quotes. &quot;#&quot; opens a comment, &quot;\&quot; at the end continues a line.</source>
+        <translation>Anweisungen enden am Zeilenende oder bei „;“. Wörter mit Leerzeichen, „;“ oder „#“ stehen in Anführungszeichen (&quot; oder &apos;). „#“ beginnt einen Kommentar, „\“ am Ende setzt eine Zeile fort.</translation>
+    </message>
+</context>
+<context>
+    <name>ShellLineParser</name>
+    <message>
+        <source>The quote %1 in column %2 is not closed.</source>
+        <translation>Das Anführungszeichen %1 in Spalte %2 ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A blank is missing after the closing quote in column %1.</source>
+        <translation>Nach dem schließenden Anführungszeichen in Spalte %1 fehlt ein Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>The input ends within a continued line.</source>
+        <translation>Die Eingabe endet in einer fortgesetzten Zeile.</translation>
+    </message>
+</context>
+<context>
+    <name>ShellOptions</name>
+    <message>
+        <source>Tables of material data and solver input decks by text commands. Commands come from a script, from
+-c, from standard input, or from a prompt. The exit status is 0 only if all went well, 1 if a command
+failed, 2 if this command line was wrong.</source>
+        <translation>Tabellen von Werkstoffdaten und Eingabedecks des Solvers durch Textbefehle. Die Befehle kommen aus einem
+Skript, aus -c, von der Standardeingabe oder von einer Eingabezeile. Der Endestatus ist 0 nur, wenn alles
+gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war.</translation>
+    </message>
+    <message>
+        <source>Runs these commands, separated by &quot;;&quot;.</source>
+        <translation>Führt diese Befehle aus, getrennt durch „;“.</translation>
+    </message>
+    <message>
+        <source>commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Goes on after a command that failed.</source>
+        <translation>Fährt nach einem gescheiterten Befehl fort.</translation>
+    </message>
+    <message>
+        <source>Stops at the first command that failed (default, except at the prompt).</source>
+        <translation>Hält beim ersten gescheiterten Befehl an (Vorgabe, außer an der Eingabezeile).</translation>
+    </message>
+    <message>
+        <source>Shows errors and the results that were asked for, nothing else.</source>
+        <translation>Zeigt Fehler und verlangte Ergebnisse, sonst nichts.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Zeigt diese Hilfe.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Zeigt die Version.</translation>
+    </message>
+    <message>
+        <source>File with commands (UTF-8); &quot;-&quot; is standard input.</source>
+        <translation>Datei mit Befehlen (UTF-8); „-“ ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>--keep-going and --stop-on-error exclude each other.</source>
+        <translation>--keep-going und --stop-on-error schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>Only one script or one -c can be run.</source>
+        <translation>Nur ein Skript oder ein -c kann ausgeführt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ShellParameters</name>
+    <message>
+        <source>&apos;%1&apos; is unknown here; possible are: %2.</source>
+        <translation>„%1“ ist hier unbekannt; möglich sind: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is given twice.</source>
+        <translation>„%1“ ist zweimal angegeben.</translation>
+    </message>
+    <message>
+        <source>Too few values after &apos;%1&apos;, which takes %2.</source>
+        <translation>Zu wenige Werte nach „%1“; es braucht %2.</translation>
+    </message>
+</context>
+<context>
+    <name>TableCommands</name>
+    <message>
+        <source>Tables of material and process data with units.</source>
+        <translation>Tabellen von Werkstoff- und Prozessdaten mit Einheiten.</translation>
+    </message>
+    <message>
+        <source>Lists the tables of the session.</source>
+        <translation>Listet die Tabellen der Sitzung.</translation>
+    </message>
+    <message>
+        <source>Reads a text file of values, with names and units in its header.</source>
+        <translation>Liest eine Textdatei von Werten, mit Namen und Einheiten im Kopf.</translation>
+    </message>
+    <message>
+        <source>Reads a table from its XML form.</source>
+        <translation>Liest eine Tabelle aus ihrer XML-Form.</translation>
+    </message>
+    <message>
+        <source>Writes a table as XML or as text (separator: tab, blank or as given, ; by default).</source>
+        <translation>Schreibt eine Tabelle als XML oder als Text (Trennzeichen: tab, blank oder wie angegeben, ohne Angabe ;).</translation>
+    </message>
+    <message>
+        <source>Shows a table, or its first rows.</source>
+        <translation>Zeigt eine Tabelle oder ihre ersten Zeilen.</translation>
+    </message>
+    <message>
+        <source>Shows unit, range and direction of each column.</source>
+        <translation>Zeigt Einheit, Bereich und Verlauf jeder Spalte.</translation>
+    </message>
+    <message>
+        <source>Shows the interpolated value at X; outside the range the end value, or zero.</source>
+        <translation>Zeigt den interpolierten Wert bei X; außerhalb des Bereichs den Endwert oder null.</translation>
+    </message>
+    <message>
+        <source>Converts columns to units. A column is x, y (all but the first), a name or a number.</source>
+        <translation>Rechnet Spalten in Einheiten um. Eine Spalte ist x, y (alle außer der ersten), ein Name oder eine Nummer.</translation>
+    </message>
+    <message>
+        <source>States the units of columns and leaves the values as they are.</source>
+        <translation>Nennt die Einheiten von Spalten und lässt die Werte, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Makes a new table of two columns.</source>
+        <translation>Macht aus zwei Spalten eine neue Tabelle.</translation>
+    </message>
+    <message>
+        <source>Makes a copy of a table.</source>
+        <translation>Macht eine Kopie einer Tabelle.</translation>
+    </message>
+    <message>
+        <source>Gives a table another name.</source>
+        <translation>Gibt einer Tabelle einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Removes a table from the session.</source>
+        <translation>Entfernt eine Tabelle aus der Sitzung.</translation>
+    </message>
+    <message>
+        <source>Sorts the points of a table of two columns by X.</source>
+        <translation>Ordnet die Punkte einer Tabelle aus zwei Spalten nach X.</translation>
+    </message>
+    <message>
+        <source>Multiplies X, or all other columns, by a factor.</source>
+        <translation>Multipliziert X oder alle anderen Spalten mit einem Faktor.</translation>
+    </message>
+    <message>
+        <source>Makes a curve of two: sum, difference, average, or the part within the other&apos;s range.</source>
+        <translation>Macht aus zwei Kurven eine: Summe, Differenz, Mittel oder den Teil im Bereich der anderen.</translation>
+    </message>
+    <message>
+        <source>There is no table &apos;%1&apos;; none has been imported yet.</source>
+        <translation>Es gibt keine Tabelle „%1“; es wurde noch keine importiert.</translation>
+    </message>
+    <message>
+        <source>There is no table &apos;%1&apos;, only %2.</source>
+        <translation>Es gibt keine Tabelle „%1“, nur %2.</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos;: %2 rows, %3 columns.</source>
+        <translation>Tabelle „%1“: %2 Zeilen, %3 Spalten.</translation>
+    </message>
+    <message>
+        <source>No tables.</source>
+        <translation>Keine Tabellen.</translation>
+    </message>
+    <message>
+        <source>undefined</source>
+        <translation>unbestimmt</translation>
+    </message>
+    <message>
+        <source>constant</source>
+        <translation>konstant</translation>
+    </message>
+    <message>
+        <source>increasing</source>
+        <translation>steigend</translation>
+    </message>
+    <message>
+        <source>decreasing</source>
+        <translation>fallend</translation>
+    </message>
+    <message>
+        <source>not monotonic</source>
+        <translation>nicht monoton</translation>
+    </message>
+    <message>
+        <source>%1: %2 [%3], %4 to %5, %6</source>
+        <translation>%1: %2 [%3], %4 bis %5, %6</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos; has no such column.</source>
+        <translation>Tabelle „%1“ hat keine solche Spalte.</translation>
+    </message>
+    <message>
+        <source>Column &apos;%1&apos; in %2 cannot be converted to &apos;%3&apos;.</source>
+        <translation>Spalte „%1“ in %2 lässt sich nicht in „%3“ umrechnen.</translation>
+    </message>
+    <message>
+        <source>no unit</source>
+        <translation>keiner Einheit</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no unit.</source>
+        <translation>„%1“ ist keine Einheit.</translation>
+    </message>
+    <message>
+        <source>Each column needs a unit.</source>
+        <translation>Jede Spalte braucht eine Einheit.</translation>
+    </message>
+    <message>
+        <source>&apos;as&apos; is missing before the new name.</source>
+        <translation>Vor dem neuen Namen fehlt „as“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no order; leave it out or say descending.</source>
+        <translation>„%1“ ist keine Ordnung; weglassen oder descending sagen.</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos; has not two columns with values.</source>
+        <translation>Tabelle „%1“ hat nicht zwei Spalten mit Werten.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither x nor y.</source>
+        <translation>„%1“ ist weder x noch y.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of sum, difference, average, cut.</source>
+        <translation>„%1“ ist keines von sum, difference, average, cut.</translation>
+    </message>
+    <message>
+        <source>Tables &apos;%1&apos; and &apos;%2&apos; do not fit: two columns each, X rising or falling, units that convert, ranges that meet.</source>
+        <translation>Die Tabellen „%1“ und „%2“ passen nicht zusammen: je zwei Spalten, X steigend oder fallend, umrechenbare Einheiten, gemeinsamer Bereich.</translation>
+    </message>
+    <message>
+        <source>&apos;as&apos; and a name are missing after the file.</source>
+        <translation>Nach der Datei fehlen „as“ und ein Name.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read: %2</source>
+        <translation>„%1“ ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>Reading &apos;%1&apos;</source>
+        <translation>Lese „%1“</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, line %2: %3</source>
+        <translation>„%1“, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no form of a table; possible are xml and text.</source>
+        <translation>„%1“ ist keine Form einer Tabelle; möglich sind xml und text.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos; written to &apos;%2&apos;.</source>
+        <translation>Tabelle „%1“ in „%2“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos; has no column &apos;%2&apos;; number of columns: %3.</source>
+        <translation>Tabelle „%1“ hat keine Spalte „%2“; Anzahl der Spalten: %3.</translation>
+    </message>
+</context>
+<context>
+    <name>coFeDataTableCard</name>
+    <message>
+        <source>Table &apos;%1&apos; does not fit the card: %2</source>
+        <translation>Tabelle „%1“ passt nicht zur Karte: %2</translation>
+    </message>
+    <message>
+        <source>column %1 is in &apos;%2&apos;, which cannot be converted to &apos;%3&apos;.</source>
+        <translation>Spalte %1 ist in „%2“, das sich nicht in „%3“ umrechnen lässt.</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>value %1 of %2 is no finite number.</source>
+        <translation>Wert %1 von %2 ist keine endliche Zahl.</translation>
+    </message>
+    <message>
+        <source>x must not descend, but %1 in row %2 follows %3.</source>
+        <translation>x darf nicht fallen, aber %1 in Zeile %2 folgt auf %3.</translation>
+    </message>
+    <message>
+        <source>%1 must ascend, but value %2 is %3 after %4.</source>
+        <translation>%1 muss steigen, aber Wert %2 ist %3 nach %4.</translation>
+    </message>
+    <message>
+        <source>it is no XY table (an X and a Y column); number of columns: %1.</source>
+        <translation>sie ist keine XY-Tabelle (eine X- und eine Y-Spalte); Anzahl der Spalten: %1.</translation>
+    </message>
+    <message>
+        <source>it has no rows.</source>
+        <translation>sie hat keine Zeilen.</translation>
+    </message>
+    <message>
+        <source>it has %1 columns, but the grid needs one for x and one for each of %2 values of the second variable.</source>
+        <translation>sie hat %1 Spalten, aber das Raster braucht eine für x und je eine für die %2 Werte der zweiten Variablen.</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>the second variable</source>
+        <translation>die zweite Variable</translation>
+    </message>
+</context>
+<context>
+    <name>coMatrixSolverSolutionProcedureType</name>
+    <message>
+        <source>Solution procedure FullK</source>
+        <translation>Lösungsverfahren FullK</translation>
+    </message>
+    <message>
+        <source>Solution procedure DI</source>
+        <translation>Lösungsverfahren DI</translation>
+    </message>
+    <message>
+        <source>Failed to read the value of the XML element: %1</source>
+        <translation>Der Wert des XML-Elements ist nicht lesbar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>coScriptMode</name>
+    <message>
+        <source>Failed to open script file.</source>
+        <translation>Die Skriptdatei lässt sich nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>Path: %1, Error: %2</source>
+        <translation>Pfad: %1, Fehler: %2</translation>
+    </message>
+    <message>
+        <source>Included script expected but not found</source>
+        <translation>Eingebundenes Skript erwartet, aber nicht gefunden</translation>
+    </message>
+    <message>
+        <source>include script &apos;%1&apos; could not be found</source>
+        <translation>das eingebundene Skript „%1“ wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Included script includes itself</source>
+        <translation>Ein eingebundenes Skript bindet sich selbst ein</translation>
+    </message>
+    <message>
+        <source>include script &apos;%1&apos; is included by &apos;%2&apos;, which it includes itself</source>
+        <translation>das eingebundene Skript „%1“ wird von „%2“ eingebunden, das es selbst einbindet</translation>
+    </message>
+    <message>
+        <source>Too many included scripts</source>
+        <translation>Zu viele eingebundene Skripte</translation>
+    </message>
+    <message>
+        <source>include script &apos;%1&apos; is one more than the %2 that are allowed</source>
+        <translation>das eingebundene Skript „%1“ ist eines mehr als die erlaubten %2</translation>
+    </message>
+</context>
+<context>
+    <name>kdComLanguage</name>
+    <message>
+        <source>Sets the language of the commands: %1.</source>
+        <translation>Stellt die Sprache der Befehle ein: %1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no language code; there are: %2.</source>
+        <translation>„%1“ ist kein Sprachkürzel; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>The texts of the language &apos;%1&apos; are not installed.</source>
+        <translation>Die Texte der Sprache „%1“ sind nicht installiert.</translation>
+    </message>
+</context>
+<context>
+    <name>kdComList</name>
+    <message>
+        <source>Lists all commands.</source>
+        <translation>Zeigt die Befehle.</translation>
+    </message>
+    <message>
+        <source>The command &apos;list&apos; takes no parameter, not &apos;%1&apos;.</source>
+        <translation>Der Befehl „list“ nimmt keinen Parameter, auch nicht „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>kdCommand</name>
+    <message>
+        <source>The command &apos;%1&apos; failed: %2</source>
+        <translation>Der Befehl „%1“ ist gescheitert: %2</translation>
+    </message>
+    <message>
+        <source>The command &apos;%1&apos; failed for an unknown reason.</source>
+        <translation>Der Befehl „%1“ ist aus unbekanntem Grund gescheitert.</translation>
+    </message>
+</context>
+<context>
+    <name>kdCommandDispatcher</name>
+    <message>
+        <source>Unknown command: &gt;%1&lt;!</source>
+        <translation>Unbekannter Befehl: &gt;%1&lt;!</translation>
+    </message>
+    <message>
+        <source>Unknown command: &gt;%1 %2&lt;!</source>
+        <translation>Unbekannter Befehl: &gt;%1 %2&lt;!</translation>
+    </message>
+</context>
+<context>
+    <name>kdDataTable</name>
+    <message>
+        <source>row %1: no values follow the header</source>
+        <translation>Zeile %1: auf den Kopf folgen keine Werte</translation>
+    </message>
+    <message>
+        <source>row %1 does not describe a column by dimension, unit and name</source>
+        <translation>Zeile %1 beschreibt keine Spalte durch Dimension, Einheit und Namen</translation>
+    </message>
+    <message>
+        <source>row %1 has %2, the table has %3</source>
+        <translation>Zeile %1 hat %2, die Tabelle hat %3</translation>
+    </message>
+    <message>
+        <source>row %1 has %2, the header in row %3 names %4</source>
+        <translation>Zeile %1 hat %2, der Kopf in Zeile %3 nennt %4</translation>
+    </message>
+    <message>
+        <source>1 value</source>
+        <translation>1 Wert</translation>
+    </message>
+    <message>
+        <source>%1 values</source>
+        <translation>%1 Werte</translation>
+    </message>
+    <message>
+        <source>1 column</source>
+        <translation>1 Spalte</translation>
+    </message>
+    <message>
+        <source>%1 columns</source>
+        <translation>%1 Spalten</translation>
+    </message>
+    <message>
+        <source>row %1, column %2: &apos;%3&apos; is not a number</source>
+        <translation>Zeile %1, Spalte %2: „%3“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos; is missing</source>
+        <translation>das Element „%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>column %1 has the unit &apos;%2&apos;, which its dimension does not know</source>
+        <translation>Spalte %1 hat die Einheit „%2“, die ihre Dimension nicht kennt</translation>
+    </message>
+    <message>
+        <source>row %1 of &apos;%2&apos; has %3, the table has %4</source>
+        <translation>Zeile %1 von „%2“ hat %3, die Tabelle hat %4</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a whole number</source>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+</context>
+<context>
+    <name>kdUnitSystem</name>
+    <message>
+        <source>dimensionless</source>
+        <translation>dimensionslos</translation>
+    </message>
+    <message>
+        <source>per cent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>kilogram</source>
+        <translation>Kilogramm</translation>
+    </message>
+    <message>
+        <source>gram</source>
+        <translation>Gramm</translation>
+    </message>
+    <message>
+        <source>tonne</source>
+        <translation>Tonne</translation>
+    </message>
+    <message>
+        <source>pound</source>
+        <translation>Pfund</translation>
+    </message>
+    <message>
+        <source>radian</source>
+        <translation>Radiant</translation>
+    </message>
+    <message>
+        <source>degree</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>Sekunde</translation>
+    </message>
+    <message>
+        <source>millisecond</source>
+        <translation>Millisekunde</translation>
+    </message>
+    <message>
+        <source>minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>hour</source>
+        <translation>Stunde</translation>
+    </message>
+    <message>
+        <source>metre</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>millimetre</source>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>centimetre</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>micrometre</source>
+        <translation>Mikrometer</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>foot</source>
+        <translation>Fuß</translation>
+    </message>
+    <message>
+        <source>square metre</source>
+        <translation>Quadratmeter</translation>
+    </message>
+    <message>
+        <source>square millimetre</source>
+        <translation>Quadratmillimeter</translation>
+    </message>
+    <message>
+        <source>square centimetre</source>
+        <translation>Quadratzentimeter</translation>
+    </message>
+    <message>
+        <source>square inch</source>
+        <translation>Quadratzoll</translation>
+    </message>
+    <message>
+        <source>cubic metre</source>
+        <translation>Kubikmeter</translation>
+    </message>
+    <message>
+        <source>cubic millimetre</source>
+        <translation>Kubikmillimeter</translation>
+    </message>
+    <message>
+        <source>cubic centimetre</source>
+        <translation>Kubikzentimeter</translation>
+    </message>
+    <message>
+        <source>litre</source>
+        <translation>Liter</translation>
+    </message>
+    <message>
+        <source>cubic inch</source>
+        <translation>Kubikzoll</translation>
+    </message>
+    <message>
+        <source>metre per second</source>
+        <translation>Meter pro Sekunde</translation>
+    </message>
+    <message>
+        <source>millimetre per second</source>
+        <translation>Millimeter pro Sekunde</translation>
+    </message>
+    <message>
+        <source>millimetre per minute</source>
+        <translation>Millimeter pro Minute</translation>
+    </message>
+    <message>
+        <source>metre per minute</source>
+        <translation>Meter pro Minute</translation>
+    </message>
+    <message>
+        <source>inch per second</source>
+        <translation>Zoll pro Sekunde</translation>
+    </message>
+    <message>
+        <source>metre per square second</source>
+        <translation>Meter pro Quadratsekunde</translation>
+    </message>
+    <message>
+        <source>millimetre per square second</source>
+        <translation>Millimeter pro Quadratsekunde</translation>
+    </message>
+    <message>
+        <source>radian per second</source>
+        <translation>Radiant pro Sekunde</translation>
+    </message>
+    <message>
+        <source>revolution per minute</source>
+        <translation>Umdrehung pro Minute</translation>
+    </message>
+    <message>
+        <source>degree per second</source>
+        <translation>Grad pro Sekunde</translation>
+    </message>
+    <message>
+        <source>kelvin</source>
+        <translation>Kelvin</translation>
+    </message>
+    <message>
+        <source>degree Celsius</source>
+        <translation>Grad Celsius</translation>
+    </message>
+    <message>
+        <source>degree Fahrenheit</source>
+        <translation>Grad Fahrenheit</translation>
+    </message>
+    <message>
+        <source>kelvin per second</source>
+        <translation>Kelvin pro Sekunde</translation>
+    </message>
+    <message>
+        <source>kelvin per minute</source>
+        <translation>Kelvin pro Minute</translation>
+    </message>
+    <message>
+        <source>kelvin per hour</source>
+        <translation>Kelvin pro Stunde</translation>
+    </message>
+    <message>
+        <source>hertz</source>
+        <translation>Hertz</translation>
+    </message>
+    <message>
+        <source>kilohertz</source>
+        <translation>Kilohertz</translation>
+    </message>
+    <message>
+        <source>per minute</source>
+        <translation>pro Minute</translation>
+    </message>
+    <message>
+        <source>per second</source>
+        <translation>pro Sekunde</translation>
+    </message>
+    <message>
+        <source>newton</source>
+        <translation>Newton</translation>
+    </message>
+    <message>
+        <source>kilonewton</source>
+        <translation>Kilonewton</translation>
+    </message>
+    <message>
+        <source>meganewton</source>
+        <translation>Meganewton</translation>
+    </message>
+    <message>
+        <source>pound-force</source>
+        <translation>Pound-force</translation>
+    </message>
+    <message>
+        <source>newton metre</source>
+        <translation>Newtonmeter</translation>
+    </message>
+    <message>
+        <source>newton millimetre</source>
+        <translation>Newtonmillimeter</translation>
+    </message>
+    <message>
+        <source>kilonewton metre</source>
+        <translation>Kilonewtonmeter</translation>
+    </message>
+    <message>
+        <source>joule</source>
+        <translation>Joule</translation>
+    </message>
+    <message>
+        <source>kilojoule</source>
+        <translation>Kilojoule</translation>
+    </message>
+    <message>
+        <source>megajoule</source>
+        <translation>Megajoule</translation>
+    </message>
+    <message>
+        <source>kilowatt-hour</source>
+        <translation>Kilowattstunde</translation>
+    </message>
+    <message>
+        <source>watt</source>
+        <translation>Watt</translation>
+    </message>
+    <message>
+        <source>kilowatt</source>
+        <translation>Kilowatt</translation>
+    </message>
+    <message>
+        <source>megawatt</source>
+        <translation>Megawatt</translation>
+    </message>
+    <message>
+        <source>horsepower</source>
+        <translation>Horsepower</translation>
+    </message>
+    <message>
+        <source>kilogram per cubic metre</source>
+        <translation>Kilogramm pro Kubikmeter</translation>
+    </message>
+    <message>
+        <source>gram per cubic centimetre</source>
+        <translation>Gramm pro Kubikzentimeter</translation>
+    </message>
+    <message>
+        <source>tonne per cubic millimetre</source>
+        <translation>Tonne pro Kubikmillimeter</translation>
+    </message>
+    <message>
+        <source>joule per kilogram kelvin</source>
+        <translation>Joule pro Kilogramm und Kelvin</translation>
+    </message>
+    <message>
+        <source>joule per gram kelvin</source>
+        <translation>Joule pro Gramm und Kelvin</translation>
+    </message>
+    <message>
+        <source>kilojoule per kilogram kelvin</source>
+        <translation>Kilojoule pro Kilogramm und Kelvin</translation>
+    </message>
+    <message>
+        <source>watt per metre kelvin</source>
+        <translation>Watt pro Meter und Kelvin</translation>
+    </message>
+    <message>
+        <source>milliwatt per millimetre kelvin</source>
+        <translation>Milliwatt pro Millimeter und Kelvin</translation>
+    </message>
+    <message>
+        <source>watt per square metre kelvin</source>
+        <translation>Watt pro Quadratmeter und Kelvin</translation>
+    </message>
+    <message>
+        <source>milliwatt per square millimetre kelvin</source>
+        <translation>Milliwatt pro Quadratmillimeter und Kelvin</translation>
+    </message>
+    <message>
+        <source>per kelvin</source>
+        <translation>pro Kelvin</translation>
+    </message>
+    <message>
+        <source>micrometre per metre kelvin</source>
+        <translation>Mikrometer pro Meter und Kelvin</translation>
+    </message>
+    <message>
+        <source>watt per square metre</source>
+        <translation>Watt pro Quadratmeter</translation>
+    </message>
+    <message>
+        <source>watt per square millimetre</source>
+        <translation>Watt pro Quadratmillimeter</translation>
+    </message>
+    <message>
+        <source>ampere</source>
+        <translation>Ampere</translation>
+    </message>
+    <message>
+        <source>kiloampere</source>
+        <translation>Kiloampere</translation>
+    </message>
+    <message>
+        <source>milliampere</source>
+        <translation>Milliampere</translation>
+    </message>
+    <message>
+        <source>volt</source>
+        <translation>Volt</translation>
+    </message>
+    <message>
+        <source>kilovolt</source>
+        <translation>Kilovolt</translation>
+    </message>
+    <message>
+        <source>millivolt</source>
+        <translation>Millivolt</translation>
+    </message>
+    <message>
+        <source>ohm</source>
+        <translation>Ohm</translation>
+    </message>
+    <message>
+        <source>milliohm</source>
+        <translation>Milliohm</translation>
+    </message>
+    <message>
+        <source>microohm</source>
+        <translation>Mikroohm</translation>
+    </message>
+    <message>
+        <source>centimetre per second</source>
+        <translation>Zentimeter pro Sekunde</translation>
+    </message>
+    <message>
+        <source>kilogram per kilogram</source>
+        <translation>Kilogramm pro Kilogramm</translation>
+    </message>
+    <message>
+        <source>pascal</source>
+        <translation>Pascal</translation>
+    </message>
+    <message>
+        <source>kilopascal</source>
+        <translation>Kilopascal</translation>
+    </message>
+    <message>
+        <source>megapascal</source>
+        <translation>Megapascal</translation>
+    </message>
+    <message>
+        <source>gigapascal</source>
+        <translation>Gigapascal</translation>
+    </message>
+    <message>
+        <source>newton per square millimetre</source>
+        <translation>Newton pro Quadratmillimeter</translation>
+    </message>
+    <message>
+        <source>pound per square inch</source>
+        <translation>Pfund pro Quadratzoll</translation>
+    </message>
+    <message>
+        <source>kilopound per square inch</source>
+        <translation>Kilopfund pro Quadratzoll</translation>
+    </message>
+    <message>
+        <source>square metre per second</source>
+        <translation>Quadratmeter pro Sekunde</translation>
+    </message>
+    <message>
+        <source>square millimetre per second</source>
+        <translation>Quadratmillimeter pro Sekunde</translation>
+    </message>
+    <message>
+        <source>square centimetre per second</source>
+        <translation>Quadratzentimeter pro Sekunde</translation>
+    </message>
+    <message>
+        <source>byte</source>
+        <translation>Byte</translation>
+    </message>
+    <message>
+        <source>kibibyte</source>
+        <translation>Kibibyte</translation>
+    </message>
+    <message>
+        <source>mebibyte</source>
+        <translation>Mebibyte</translation>
+    </message>
+    <message>
+        <source>gibibyte</source>
+        <translation>Gibibyte</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Masse</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Beschleunigung</translation>
+    </message>
+    <message>
+        <source>Angular velocity</source>
+        <translation>Winkelgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Temperature difference</source>
+        <translation>Temperaturdifferenz</translation>
+    </message>
+    <message>
+        <source>Temperature rate</source>
+        <translation>Temperaturrate</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Strain rate</source>
+        <translation>Dehnrate</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Kraft</translation>
+    </message>
+    <message>
+        <source>Torque</source>
+        <translation>Drehmoment</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Energie</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Dichte</translation>
+    </message>
+    <message>
+        <source>Specific heat</source>
+        <translation>Spezifische Wärmekapazität</translation>
+    </message>
+    <message>
+        <source>Thermal conductivity</source>
+        <translation>Wärmeleitfähigkeit</translation>
+    </message>
+    <message>
+        <source>Heat transfer coefficient</source>
+        <translation>Wärmeübergangskoeffizient</translation>
+    </message>
+    <message>
+        <source>Thermal expansion</source>
+        <translation>Wärmeausdehnung</translation>
+    </message>
+    <message>
+        <source>Heat flux</source>
+        <translation>Wärmestromdichte</translation>
+    </message>
+    <message>
+        <source>Electric current</source>
+        <translation>Stromstärke</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Spannung (elektrisch)</translation>
+    </message>
+    <message>
+        <source>Resistance</source>
+        <translation>Widerstand</translation>
+    </message>
+    <message>
+        <source>Mass transfer coefficient</source>
+        <translation>Stoffübergangskoeffizient</translation>
+    </message>
+    <message>
+        <source>Mass fraction</source>
+        <translation>Massenanteil</translation>
+    </message>
+    <message>
+        <source>Stress</source>
+        <translation>Spannung</translation>
+    </message>
+    <message>
+        <source>Diffusion coefficient</source>
+        <translation>Diffusionskoeffizient</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Datenmenge</translation>
+    </message>
+</context>
+<context>
+    <name>kdUnitValue</name>
+    <message>
+        <source>Element &apos;%1&apos;: unit &apos;%2&apos; of dimension &apos;%3&apos; is unknown.</source>
+        <translation>Element „%1“: Einheit „%2“ der Dimension „%3“ ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>Element &apos;%1&apos; expected, &apos;%2&apos; found.</source>
+        <translation>Element „%1“ erwartet, „%2“ gefunden.</translation>
+    </message>
+    <message>
+        <source>Element &apos;%1&apos;: &apos;%2&apos; is not a number.</source>
+        <translation>Element „%1“: „%2“ ist keine Zahl.</translation>
+    </message>
+</context>
+<context>
+    <name>nCompanyInfo</name>
+    <message>
+        <source>Copyright © %1. All rights reserved.</source>
+        <translation>Copyright © %1. Alle Rechte vorbehalten.</translation>
+    </message>
+    <message>
+        <source>Contains components of licensed partners. The rights in these components remain with their owners.</source>
+        <translation>Enthält Komponenten lizenzierter Partner. Die Rechte an diesen Komponenten bleiben bei ihren Inhabern.</translation>
+    </message>
+</context>
+<context>
+    <name>nFileSystem</name>
+    <message>
+        <source>Failed to copy &apos;%1&apos; to &apos;%2&apos;: %3</source>
+        <translation>„%1“ ließ sich nicht nach „%2“ kopieren: %3</translation>
+    </message>
+    <message>
+        <source>Could not create directory &apos;%1&apos;.</source>
+        <translation>Der Ordner „%1“ ließ sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>Directory &apos;%1&apos; does not exist.</source>
+        <translation>Den Ordner „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>the target lies in the source</source>
+        <translation>das Ziel liegt in der Quelle</translation>
+    </message>
+    <message>
+        <source>both are the same file</source>
+        <translation>beide sind dieselbe Datei</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>Failed to remove file &apos;%1&apos;: %2</source>
+        <translation>Die Datei „%1“ ließ sich nicht löschen: %2</translation>
+    </message>
+    <message>
+        <source>Failed to remove directory &apos;%1&apos;.</source>
+        <translation>Der Ordner „%1“ ließ sich nicht löschen.</translation>
+    </message>
+</context>
+<context>
+    <name>nKaldoranJes</name>
+    <message>
+        <source>jes files (*%1)</source>
+        <translation>jes-Dateien (*%1)</translation>
+    </message>
+</context>
+<context>
+    <name>nProcessInfo</name>
+    <message>
+        <source>Undefined</source>
+        <translation>Nicht definiert</translation>
+    </message>
+</context>
+<context>
+    <name>nSolver</name>
+    <message>
+        <source>Sparse Direct Solver</source>
+        <translation>Direkter dünnbesetzter Löser</translation>
+    </message>
+    <message>
+        <source>Multifrontal Sparse</source>
+        <translation>Multifrontal dünnbesetzt</translation>
+    </message>
+    <message>
+        <source>Pardiso Direct Sparse</source>
+        <translation>Pardiso direkt dünnbesetzt</translation>
+    </message>
+    <message>
+        <source>CASI Iterative Solver</source>
+        <translation>CASI iterativer Löser</translation>
+    </message>
+    <message>
+        <source>Iterative Sparse</source>
+        <translation>Iterativ dünnbesetzt</translation>
+    </message>
+    <message>
+        <source>MUMPS Parallel Direct</source>
+        <translation>MUMPS parallel direkt</translation>
+    </message>
+    <message>
+        <source>Direct Profile</source>
+        <translation>Direkt Profil</translation>
+    </message>
+    <message>
+        <source>Mixed Direct/Iterative</source>
+        <translation>Gemischt direkt/iterativ</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Metis best</source>
+        <translation>Metis bestes</translation>
+    </message>
+    <message>
+        <source>Metis element-based</source>
+        <translation>Metis elementbasiert</translation>
+    </message>
+    <message>
+        <source>Metis node-based</source>
+        <translation>Metis knotenbasiert</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vektor</translation>
+    </message>
+    <message>
+        <source>Radial</source>
+        <translation>Radial</translation>
+    </message>
+    <message>
+        <source>Angular</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Recursive coordinate bisection</source>
+        <translation>Rekursive Koordinatenhalbierung</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>kdDytran (Finite volume)</source>
+        <translation>kdDytran (Finite Volumen)</translation>
+    </message>
+    <message>
+        <source>kdMarc (Finite elements)</source>
+        <translation>kdMarc (Finite Elemente)</translation>
+    </message>
+    <message>
+        <source>Attempt removal</source>
+        <translation>Entfernen versuchen</translation>
+    </message>
+    <message>
+        <source>Contact detection during DDM</source>
+        <translation>Kontakterkennung während der DDM</translation>
+    </message>
+</context>
+<context>
+    <name>nSystem</name>
+    <message>
+        <source>Failed to open file &apos;%1&apos;.</source>
+        <translation>Die Datei „%1“ ließ sich nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>Failed to create file mapping for &apos;%1&apos;.</source>
+        <translation>Die Abbildung der Datei „%1“ ließ sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>Failed to map file &apos;%1&apos;.</source>
+        <translation>Die Datei „%1“ ließ sich nicht abbilden.</translation>
+    </message>
+    <message>
+        <source>Could not get size of version info of file &apos;%1&apos;.</source>
+        <translation>Die Größe der Versionsinformation der Datei „%1“ ist nicht bestimmbar.</translation>
+    </message>
+    <message>
+        <source>Could not get version info of file &apos;%1&apos;.</source>
+        <translation>Die Versionsinformation der Datei „%1“ ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Failed to query version info translation values.</source>
+        <translation>Die Übersetzungswerte der Versionsinformation sind nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Resource language unknown.</source>
+        <translation>Die Sprache der Ressource ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>Failed to query version info value.</source>
+        <translation>Der Wert der Versionsinformation ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>File &apos;%1&apos; is not a valid Windows executable.</source>
+        <translation>Die Datei „%1“ ist keine gültige ausführbare Windows-Datei.</translation>
+    </message>
+</context>
+</TS>
