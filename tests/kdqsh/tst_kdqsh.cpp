@@ -123,7 +123,7 @@ void TestKdqsh::errors_data()
     const auto row = [](const char* name, const QString& commands, const QString& error) {
         QTest::newRow(name) << commands << QStringLiteral("-c:1: %1\n").arg(error);
     };
-    row("unknown command", S("tabel list"), S("Unknown command: >tabel list<!"));
+    row("unknown command", S("matrix list"), S("Unknown command: >matrix list<!"));
     row("unknown command without parameters", S("frobnicate"), S("Unknown command: >frobnicate<!"));
     row("unknown table command", S("table lst x"),
         S("table: Unknown command: >table lst<! Known are: list, import, load, export, show, info, lookup, "
