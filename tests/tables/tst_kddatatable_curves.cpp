@@ -324,6 +324,32 @@ private Q_SLOTS:
         QVERIFY(!other.applySamplingPoints(*kelvin.column(1)));
     }
 
+    void roundingOfAConversionMakesNoNodes()
+    {
+        kdDataTable metres(kdUnitSystem::Length, kdUnitSystem::Force);
+        for (int i = 0; i < 100; ++i)
+            metres.addPoint(0.037 + 0.1 * i, i);
+        kdDataTable inches(metres);
+        QVERIFY(inches.xToUnit(4));
+        QVERIFY(metres.sumXY(inches));
+        QCOMPARE(metres.rows(), 100);
+    }
+
+    void equalXKeepTheirOrder()
+    {
+        kdDataTable table = curve({});
+        for (int i = 0; i < 100; ++i)
+            table.addPoint(i % 2, i);
+        table.sortForXValues();
+        for (int i = 0; i < 50; ++i)
+            QCOMPARE(table.pointAt(i), QPointF(0, 2 * i));
+
+        const Points step{{2, 5}, {1, 4}, {1, 3}, {0, 2}};
+        kdDataTable cut;
+        QVERIFY(curve(step).getCutByOtherTable(curve({{0, 0}, {2, 0}}), cut));
+        QCOMPARE(cut.points(), step);
+    }
+
     void infiniteXIsANodeLikeAnyOther()
     {
         kdDataTable table = curve({{0, 1}, {1, 2}});
