@@ -25,6 +25,7 @@ private Q_SLOTS:
     void exportIsReadBack();
     void languageIsChosen_data();
     void languageIsChosen();
+    void helpStandsInTheDocumentation();
     void logHoldsTheRun();
     void onlyTheDataFolderIsWritten();
 
@@ -449,6 +450,18 @@ void TestKdqsh::languageIsChosen()
     shell.setVariable(S("LANGUAGE"), environment);
     QVERIFY(shell.runCommands(commands, {S("-q")}));
     QTEST(shell.errors, "errors");
+}
+
+void TestKdqsh::helpStandsInTheDocumentation()
+{
+    QFile page(qEnvironmentVariable("KDQ_TEST_DATA") + S("/docs/kdqsh.md"));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(page.readAll());
+    KdqshRun shell;
+    for (const QString& topic : {S(""), S("table"), S("deck"), S("log")}) {
+        QVERIFY(shell.runCommands(S("help ") + topic));
+        QVERIFY2(text.contains(S("```\n%1```\n").arg(shell.output)), qPrintable(topic));
+    }
 }
 
 void TestKdqsh::logHoldsTheRun()
