@@ -129,7 +129,12 @@ ExclusiveFile::Failure creationFailure(DWORD code, const QString& path)
 
 qint64 monotonicMilliseconds()
 {
-    return static_cast<qint64>(GetTickCount64());
+    // The tick count steps by some 16 ms; this one is finer and does not wrap either.
+    LARGE_INTEGER frequency{}, counter{};
+    QueryPerformanceFrequency(&frequency);
+    QueryPerformanceCounter(&counter);
+    const qint64 seconds = counter.QuadPart / frequency.QuadPart;
+    return seconds * 1000 + counter.QuadPart % frequency.QuadPart * 1000 / frequency.QuadPart;
 }
 
 QString systemErrorText(unsigned long errorCode)

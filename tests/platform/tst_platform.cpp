@@ -2,20 +2,11 @@
 #include "platform.h"
 
 #include <atomic>
-#include <cerrno>
 #include <climits>
-#include <cstdlib>
-#include <ctime>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
+#include <cstdio>
 #include <thread>
-#include <unistd.h>
 
 using namespace nPlatform;
-
-Q_DECLARE_METATYPE(nPlatform::ExclusiveFile::Failure)
-Q_DECLARE_METATYPE(nPlatform::MappedFile::Failure)
 
 namespace {
 
@@ -27,6 +18,7 @@ QByteArray contentOf(const QString& path)
 
 } // namespace
 
+/// What every system promises; the sources' own sides are tested beside it.
 class TestPlatform : public QObject {
     Q_OBJECT
 
@@ -38,45 +30,13 @@ private Q_SLOTS:
         QVERIFY(monotonicMilliseconds() - before >= 39);
     }
 
-    void errorTexts_data()
+    void errorTextEndsWithTheSystemsLineBreak()
     {
-        QTest::addColumn<qulonglong>("code");
-        QTest::addColumn<bool>("known");
-        QTest::newRow("missing file") << qulonglong(ENOENT) << true;
-        QTest::newRow("highest of the C library") << qulonglong(EHWPOISON) << true;
-        QTest::newRow("unknown") << qulonglong(99999) << false;
-        QTest::newRow("largest number") << qulonglong(INT_MAX) << false;
-        QTest::newRow("would be ENOENT when cut to 32 bits") << ((1ULL << 32) | ENOENT) << false;
-        QTest::newRow("would be negative") << 0xffffffffULL << false;
-    }
-
-    void errorTexts()
-    {
-        QFETCH(qulonglong, code);
-        QFETCH(bool, known);
-        const QString text = systemErrorText(static_cast<unsigned long>(code));
-        QCOMPARE(!text.isEmpty(), known);
-        QCOMPARE(text.endsWith(QLatin1Char('\n')), known);
-        QCOMPARE(text.trimmed().size(), known ? text.size() - 1 : 0);
-    }
-
-    void systemInformationAgreesWithOtherSources()
-    {
-        const SystemInformation& information = systemInformation();
-        QCOMPARE(&information, &systemInformation());
-        QCOMPARE(information.cores, QThread::idealThreadCount());
-        QCOMPARE(information.hostName, QSysInfo::machineHostName());
-        QVERIFY(information.operatingSystem.contains(QSysInfo::kernelVersion()));
-        QVERIFY(!information.processor.isEmpty());
-        QProcess id;
-        id.start(QStringLiteral("id"), {QStringLiteral("-un")});
-        QVERIFY(id.waitForFinished());
-        QCOMPARE(information.userName, QString::fromLocal8Bit(id.readAll().trimmed()));
-        const QByteArray memory =
-            contentOf(QStringLiteral("/proc/meminfo")).split('\n').constFirst().simplified();
-        QCOMPARE(information.physicalMemory / 1024, memory.split(' ').at(1).toULongLong());
-        QCOMPARE(information.architecture == QLatin1String("x64"),
-                 QSysInfo::currentCpuArchitecture() == QLatin1String("x86_64"));
+        constexpr unsigned long missingFile = 2; // the same number on POSIX and Windows
+        const QString text = systemErrorText(missingFile);
+        QVERIFY(text.trimmed().size() > 3);
+        QVERIFY(text.endsWith(QLatin1Char('\n')));
+        QCOMPARE(systemErrorText(99999), QString());
     }
 
     void noSuchProcess_data()
@@ -95,97 +55,21 @@ private Q_SLOTS:
         QVERIFY(!processFacts(id).alive);
     }
 
-    void ownProcess()
+    void otherProcessUntilItEnds()
     {
-        const ProcessFacts facts = processFacts(QCoreApplication::applicationPid());
-        QVERIFY(facts.alive);
-        QCOMPARE(facts.executableName, QFileInfo(QCoreApplication::applicationFilePath()).fileName());
-        QVERIFY(facts.startTime.size() > 30);
-        QCOMPARE(processFacts(QCoreApplication::applicationPid()).startTime, facts.startTime);
-    }
-
-    void otherProcess_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("plain") << QStringLiteral("sleeper");
-        QTest::newRow("blanks and parentheses") << QStringLiteral("a) Z (b 1 2");
-        QTest::newRow("not ASCII") << QStringLiteral("Größe");
-    }
-
-    void otherProcess()
-    {
-        QFETCH(QString, name);
-        QTemporaryDir folder;
-        const QString path = folder.filePath(name);
-        QVERIFY(QFile::copy(QStandardPaths::findExecutable(QStringLiteral("sleep")), path));
         QProcess process;
-        process.start(path, {QStringLiteral("60")});
+        process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("-wait-for-input")});
         QVERIFY(process.waitForStarted());
-        QTRY_COMPARE(processFacts(process.processId()).executableName, name);
-        const ProcessFacts facts = processFacts(process.processId());
-        QVERIFY(facts.alive);
-        QVERIFY(facts.startTime != processFacts(QCoreApplication::applicationPid()).startTime);
-
-        QVERIFY(QFile::remove(path));
-        QCOMPARE(processFacts(process.processId()).executableName, name);
-
         const qint64 id = process.processId();
-        process.kill();
+        const ProcessFacts facts = processFacts(id);
+        const ProcessFacts own = processFacts(QCoreApplication::applicationPid());
+        process.closeWriteChannel();
         QVERIFY(process.waitForFinished());
+        QVERIFY(facts.alive);
+        QCOMPARE(facts.executableName, own.executableName);
+        QVERIFY(!facts.startTime.isEmpty());
+        QVERIFY(facts.startTime != own.startTime);
         QVERIFY(!processFacts(id).alive);
-    }
-
-    void endedProcessThatItsParentHasNotAskedAfter()
-    {
-        const pid_t child = fork();
-        if (child == 0)
-            _exit(0);
-        siginfo_t information{};
-        QCOMPARE(waitid(P_PID, static_cast<id_t>(child), &information, WEXITED | WNOWAIT), 0);
-        QVERIFY(!processFacts(child).alive);
-        waitpid(child, nullptr, 0);
-    }
-
-    void terminal()
-    {
-        const int saved = dup(STDIN_FILENO);
-        const int nullDevice = open("/dev/null", O_RDONLY);
-        dup2(nullDevice, STDIN_FILENO);
-        const bool nullIsTerminal = isTerminal(StandardStream::Input);
-        const int controller = posix_openpt(O_RDWR | O_NOCTTY);
-        QVERIFY(controller >= 0 && grantpt(controller) == 0 && unlockpt(controller) == 0);
-        const int pseudoTerminal = open(ptsname(controller), O_RDWR | O_NOCTTY);
-        dup2(pseudoTerminal, STDIN_FILENO);
-        const bool terminalIsTerminal = isTerminal(StandardStream::Input);
-        dup2(saved, STDIN_FILENO);
-        for (int descriptor : {saved, nullDevice, controller, pseudoTerminal})
-            close(descriptor);
-        QVERIFY(!nullIsTerminal);
-        QVERIFY(terminalIsTerminal);
-    }
-
-    void timeZoneIsNamedOnlyWhereUnset()
-    {
-        const QByteArray given("Asia/Kathmandu");
-        qputenv("TZ", given);
-        presetTimeZone();
-        QCOMPARE(qgetenv("TZ"), given);
-
-        const auto hourOf = [](time_t moment) {
-            tm parts{};
-            tzset();
-            localtime_r(&moment, &parts);
-            return parts.tm_hour;
-        };
-        qunsetenv("TZ");
-        const int expected = hourOf(1700000000);
-        presetTimeZone();
-        const bool named = qEnvironmentVariableIsSet("TZ");
-        const int actual = hourOf(1700000000);
-        qputenv("TZ", given);
-        tzset();
-        QCOMPARE(named, QFile::exists(QStringLiteral("/etc/localtime")));
-        QCOMPARE(actual, expected);
     }
 
     void exclusiveFileIsTakenOnce()
@@ -198,7 +82,7 @@ private Q_SLOTS:
         QVERIFY(!second.create(path));
         QVERIFY(!second.isOpen());
         QCOMPARE(second.failure(), ExclusiveFile::Failure::Exists);
-        QCOMPARE(second.errorCode(), static_cast<unsigned long>(EEXIST));
+        QVERIFY(second.errorCode() != 0);
 
         const QByteArray record("PID=1\nUserName=J\xc3\xb6rg\n");
         QVERIFY(first.write(record));
@@ -214,40 +98,21 @@ private Q_SLOTS:
         QCOMPARE(second.errorCode(), 0UL);
     }
 
-    void exclusiveFileRefused_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<ExclusiveFile::Failure>("failure");
-        QTest::newRow("a folder bears the name") << QDir::tempPath() << ExclusiveFile::Failure::Exists;
-        QTest::newRow("missing folder")
-            << QStringLiteral("/no/such/folder/x.lock") << ExclusiveFile::Failure::Unexpected;
-        QTest::newRow("not even root may")
-            << QStringLiteral("/sys/kdq.lock") << ExclusiveFile::Failure::NotPermitted;
-    }
-
-    void exclusiveFileRefused()
-    {
-        QFETCH(QString, path);
-        QFETCH(ExclusiveFile::Failure, failure);
-        if (path.startsWith(QLatin1String("/sys")) && !QFile::exists(QStringLiteral("/sys/kernel")))
-            QSKIP("no /sys here");
-        ExclusiveFile file;
-        QVERIFY(!file.create(path));
-        QCOMPARE(file.failure(), failure);
-        QVERIFY(file.errorCode() != 0);
-    }
-
-    void touchMakesTheFileYoung()
+    void exclusiveFileInAFolderOfALongPath()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("x.lock"));
+        QString path = folder.path();
+        for (int i = 0; i < 30; ++i) // some 600 characters, beyond the old limit of Windows
+            path += QLatin1Char('/') + QStringLiteral("Verzeichnis-äöü-%1").arg(i);
+        QVERIFY(QDir().mkpath(path));
+        path += QStringLiteral("/x.lock");
         ExclusiveFile file;
         QVERIFY(file.create(path));
-        const timespec old[2] = {{1000, 0}, {1000, 0}};
-        QCOMPARE(utimensat(AT_FDCWD, QFile::encodeName(path).constData(), old, 0), 0);
-        QCOMPARE(QFileInfo(path).lastModified().toSecsSinceEpoch(), qint64(1000));
-        QVERIFY(file.touch());
-        QVERIFY(QFileInfo(path).lastModified().secsTo(QDateTime::currentDateTime()) < 60);
+        QVERIFY(file.write("x"));
+        file.close();
+        const MappedFile view(path);
+        QCOMPARE(view.failure(), MappedFile::Failure::None);
+        QCOMPARE(view.size(), qint64(1));
     }
 
     void raceForAFileHasOneWinner()
@@ -287,35 +152,16 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(reinterpret_cast<const char*>(view.data()), static_cast<int>(view.size())),
                  content);
     }
-
-    void mappingRefused_data()
-    {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<MappedFile::Failure>("failure");
-        QTest::newRow("missing") << QStringLiteral("missing") << MappedFile::Failure::Open;
-        QTest::newRow("folder") << QStringLiteral("folder") << MappedFile::Failure::Open;
-        QTest::newRow("pipe that nobody writes to") << QStringLiteral("pipe") << MappedFile::Failure::Open;
-        QTest::newRow("empty") << QStringLiteral("empty") << MappedFile::Failure::CreateMapping;
-    }
-
-    void mappingRefused()
-    {
-        QFETCH(QString, kind);
-        QFETCH(MappedFile::Failure, failure);
-        QTemporaryDir folder;
-        const QString path = folder.filePath(kind);
-        if (kind == QLatin1String("folder"))
-            QVERIFY(QDir().mkdir(path));
-        if (kind == QLatin1String("pipe"))
-            QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-        if (kind == QLatin1String("empty"))
-            QVERIFY(QFile(path).open(QIODevice::WriteOnly));
-        const MappedFile view(path);
-        QCOMPARE(view.failure(), failure);
-        QVERIFY(view.errorCode() != 0);
-        QCOMPARE(view.data(), nullptr);
-    }
 };
 
-KDQ_TEST_MAIN(TestPlatform)
+int main(int argc, char** argv)
+{
+    if (argc > 1 && qstrcmp(argv[1], "-wait-for-input") == 0)
+        return std::getchar() == EOF ? 0 : 1;
+    QCoreApplication application(argc, argv);
+    kdqPrepareTest("TestPlatform");
+    TestPlatform test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_platform.moc"

@@ -1,0 +1,232 @@
+#include "kdqtest.h"
+#include "platform.h"
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <ctime>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace nPlatform;
+
+Q_DECLARE_METATYPE(nPlatform::ExclusiveFile::Failure)
+Q_DECLARE_METATYPE(nPlatform::MappedFile::Failure)
+
+namespace {
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestPlatformPosix : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void errorTexts_data()
+    {
+        QTest::addColumn<qulonglong>("code");
+        QTest::addColumn<bool>("known");
+        QTest::newRow("missing file") << qulonglong(ENOENT) << true;
+        QTest::newRow("highest of the C library") << qulonglong(EHWPOISON) << true;
+        QTest::newRow("unknown") << qulonglong(99999) << false;
+        QTest::newRow("largest number") << qulonglong(INT_MAX) << false;
+        QTest::newRow("would be ENOENT when cut to 32 bits") << ((1ULL << 32) | ENOENT) << false;
+        QTest::newRow("would be negative") << 0xffffffffULL << false;
+    }
+
+    void errorTexts()
+    {
+        QFETCH(qulonglong, code);
+        QFETCH(bool, known);
+        const QString text = systemErrorText(static_cast<unsigned long>(code));
+        QCOMPARE(!text.isEmpty(), known);
+        QCOMPARE(text.endsWith(QLatin1Char('\n')), known);
+        QCOMPARE(text.trimmed().size(), known ? text.size() - 1 : 0);
+    }
+
+    void systemInformationAgreesWithOtherSources()
+    {
+        const SystemInformation& information = systemInformation();
+        QCOMPARE(&information, &systemInformation());
+        QCOMPARE(information.cores, QThread::idealThreadCount());
+        QCOMPARE(information.hostName, QSysInfo::machineHostName());
+        QVERIFY(information.operatingSystem.contains(QSysInfo::kernelVersion()));
+        QVERIFY(!information.processor.isEmpty());
+        QProcess id;
+        id.start(QStringLiteral("id"), {QStringLiteral("-un")});
+        QVERIFY(id.waitForFinished());
+        QCOMPARE(information.userName, QString::fromLocal8Bit(id.readAll().trimmed()));
+        const QByteArray memory =
+            contentOf(QStringLiteral("/proc/meminfo")).split('\n').constFirst().simplified();
+        QCOMPARE(information.physicalMemory / 1024, memory.split(' ').at(1).toULongLong());
+        QCOMPARE(information.architecture == QLatin1String("x64"),
+                 QSysInfo::currentCpuArchitecture() == QLatin1String("x86_64"));
+    }
+
+    void ownProcess()
+    {
+        const ProcessFacts facts = processFacts(QCoreApplication::applicationPid());
+        QVERIFY(facts.alive);
+        QCOMPARE(facts.executableName, QFileInfo(QCoreApplication::applicationFilePath()).fileName());
+        QVERIFY(facts.startTime.size() > 30);
+        QCOMPARE(processFacts(QCoreApplication::applicationPid()).startTime, facts.startTime);
+    }
+
+    void otherProcess_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << QStringLiteral("sleeper");
+        QTest::newRow("blanks and parentheses") << QStringLiteral("a) Z (b 1 2");
+        QTest::newRow("not ASCII") << QStringLiteral("Größe");
+    }
+
+    void otherProcess()
+    {
+        QFETCH(QString, name);
+        QTemporaryDir folder;
+        const QString path = folder.filePath(name);
+        QVERIFY(QFile::copy(QStandardPaths::findExecutable(QStringLiteral("sleep")), path));
+        QProcess process;
+        process.start(path, {QStringLiteral("60")});
+        QVERIFY(process.waitForStarted());
+        QTRY_COMPARE(processFacts(process.processId()).executableName, name);
+        const ProcessFacts facts = processFacts(process.processId());
+        QVERIFY(facts.alive);
+        QVERIFY(facts.startTime != processFacts(QCoreApplication::applicationPid()).startTime);
+
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(processFacts(process.processId()).executableName, name);
+
+        const qint64 id = process.processId();
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        QVERIFY(!processFacts(id).alive);
+    }
+
+    void endedProcessThatItsParentHasNotAskedAfter()
+    {
+        const pid_t child = fork();
+        if (child == 0)
+            _exit(0);
+        siginfo_t information{};
+        QCOMPARE(waitid(P_PID, static_cast<id_t>(child), &information, WEXITED | WNOWAIT), 0);
+        QVERIFY(!processFacts(child).alive);
+        waitpid(child, nullptr, 0);
+    }
+
+    void terminal()
+    {
+        const int saved = dup(STDIN_FILENO);
+        const int nullDevice = open("/dev/null", O_RDONLY);
+        dup2(nullDevice, STDIN_FILENO);
+        const bool nullIsTerminal = isTerminal(StandardStream::Input);
+        const int controller = posix_openpt(O_RDWR | O_NOCTTY);
+        QVERIFY(controller >= 0 && grantpt(controller) == 0 && unlockpt(controller) == 0);
+        const int pseudoTerminal = open(ptsname(controller), O_RDWR | O_NOCTTY);
+        dup2(pseudoTerminal, STDIN_FILENO);
+        const bool terminalIsTerminal = isTerminal(StandardStream::Input);
+        dup2(saved, STDIN_FILENO);
+        for (int descriptor : {saved, nullDevice, controller, pseudoTerminal})
+            close(descriptor);
+        QVERIFY(!nullIsTerminal);
+        QVERIFY(terminalIsTerminal);
+    }
+
+    void timeZoneIsNamedOnlyWhereUnset()
+    {
+        const QByteArray given("Asia/Kathmandu");
+        qputenv("TZ", given);
+        presetTimeZone();
+        QCOMPARE(qgetenv("TZ"), given);
+
+        const auto hourOf = [](time_t moment) {
+            tm parts{};
+            tzset();
+            localtime_r(&moment, &parts);
+            return parts.tm_hour;
+        };
+        qunsetenv("TZ");
+        const int expected = hourOf(1700000000);
+        presetTimeZone();
+        const bool named = qEnvironmentVariableIsSet("TZ");
+        const int actual = hourOf(1700000000);
+        qputenv("TZ", given);
+        tzset();
+        QCOMPARE(named, QFile::exists(QStringLiteral("/etc/localtime")));
+        QCOMPARE(actual, expected);
+    }
+
+    void exclusiveFileRefused_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<ExclusiveFile::Failure>("failure");
+        QTest::newRow("a folder bears the name") << QDir::tempPath() << ExclusiveFile::Failure::Exists;
+        QTest::newRow("missing folder")
+            << QStringLiteral("/no/such/folder/x.lock") << ExclusiveFile::Failure::Unexpected;
+        QTest::newRow("not even root may")
+            << QStringLiteral("/sys/kdq.lock") << ExclusiveFile::Failure::NotPermitted;
+    }
+
+    void exclusiveFileRefused()
+    {
+        QFETCH(QString, path);
+        QFETCH(ExclusiveFile::Failure, failure);
+        if (path.startsWith(QLatin1String("/sys")) && !QFile::exists(QStringLiteral("/sys/kernel")))
+            QSKIP("no /sys here");
+        ExclusiveFile file;
+        QVERIFY(!file.create(path));
+        QCOMPARE(file.failure(), failure);
+        QVERIFY(file.errorCode() != 0);
+    }
+
+    void touchMakesTheFileYoung()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("x.lock"));
+        ExclusiveFile file;
+        QVERIFY(file.create(path));
+        const timespec old[2] = {{1000, 0}, {1000, 0}};
+        QCOMPARE(utimensat(AT_FDCWD, QFile::encodeName(path).constData(), old, 0), 0);
+        QCOMPARE(QFileInfo(path).lastModified().toSecsSinceEpoch(), qint64(1000));
+        QVERIFY(file.touch());
+        QVERIFY(QFileInfo(path).lastModified().secsTo(QDateTime::currentDateTime()) < 60);
+    }
+
+    void mappingRefused_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<MappedFile::Failure>("failure");
+        QTest::newRow("missing") << QStringLiteral("missing") << MappedFile::Failure::Open;
+        QTest::newRow("folder") << QStringLiteral("folder") << MappedFile::Failure::Open;
+        QTest::newRow("pipe that nobody writes to") << QStringLiteral("pipe") << MappedFile::Failure::Open;
+        QTest::newRow("empty") << QStringLiteral("empty") << MappedFile::Failure::CreateMapping;
+    }
+
+    void mappingRefused()
+    {
+        QFETCH(QString, kind);
+        QFETCH(MappedFile::Failure, failure);
+        QTemporaryDir folder;
+        const QString path = folder.filePath(kind);
+        if (kind == QLatin1String("folder"))
+            QVERIFY(QDir().mkdir(path));
+        if (kind == QLatin1String("pipe"))
+            QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        if (kind == QLatin1String("empty"))
+            QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+        const MappedFile view(path);
+        QCOMPARE(view.failure(), failure);
+        QVERIFY(view.errorCode() != 0);
+        QCOMPARE(view.data(), nullptr);
+    }
+};
+
+KDQ_TEST_MAIN(TestPlatformPosix)
+#include "tst_platform_posix.moc"

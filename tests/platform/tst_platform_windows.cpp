@@ -1,0 +1,130 @@
+#include "kdqtest.h"
+#include "platform.h"
+
+#include <kdQCore/coVersionNumber>
+#include <kdQCore/nSystem>
+
+#include <windows.h>
+#include <winver.h>
+
+using namespace nPlatform;
+
+namespace {
+
+const wchar_t* wide(const QString& text)
+{
+    return reinterpret_cast<const wchar_t*>(text.utf16());
+}
+
+qint64 ticks(const FILETIME& time)
+{
+    return (qint64(time.dwHighDateTime) << 32) | time.dwLowDateTime;
+}
+
+QByteArray versionInfo(const QString& file)
+{
+    DWORD ignored = 0;
+    QByteArray block(int(GetFileVersionInfoSizeW(wide(file), &ignored)), '\0');
+    if (block.isEmpty() || !GetFileVersionInfoW(wide(file), 0, DWORD(block.size()), block.data()))
+        return QByteArray();
+    return block;
+}
+
+/// The version text as the system reads it: the first translation's FileVersion.
+QString versionBySystem(const QString& file)
+{
+    const QByteArray block = versionInfo(file);
+    if (block.isEmpty())
+        return QString();
+    void* value = nullptr;
+    UINT size = 0;
+    if (!VerQueryValueW(block.constData(), L"\\VarFileInfo\\Translation", &value, &size) || size < 4)
+        return QString();
+    const quint16* pair = static_cast<const quint16*>(value);
+    const QString key = QStringLiteral("\\StringFileInfo\\%1%2\\FileVersion")
+                            .arg(uint(pair[0]), 4, 16, QLatin1Char('0'))
+                            .arg(uint(pair[1]), 4, 16, QLatin1Char('0'));
+    if (!VerQueryValueW(block.constData(), wide(key), &value, &size))
+        return QString();
+    return QString::fromWCharArray(static_cast<const wchar_t*>(value));
+}
+
+} // namespace
+
+class TestPlatformWindows : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void versionAsTheSystemReadsIt_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const char* name : {"Qt5Core.dll", "Qt5Network.dll", "Qt5Test.dll"})
+            QTest::newRow(name) << QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(name));
+    }
+
+    void versionAsTheSystemReadsIt()
+    {
+        QFETCH(QString, file);
+        const QString text = versionBySystem(QDir::toNativeSeparators(file));
+        QVERIFY(!text.isEmpty());
+        QCOMPARE(nSystem::nWin32::getFileVersionFromStringFileInfo(file), coVersionNumber(text));
+    }
+
+    void refusedFiles_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("failure");
+        QTest::newRow("a folder bears the name") << QDir::tempPath() << int(ExclusiveFile::Failure::Exists);
+        QTest::newRow("missing folder") << QDir::tempPath() + QStringLiteral("/no/such/x.lock")
+                                        << int(ExclusiveFile::Failure::Unexpected);
+        QTest::newRow("bad name") << QDir::tempPath() + QStringLiteral("/a|b")
+                                  << int(ExclusiveFile::Failure::Unexpected);
+    }
+
+    void refusedFiles()
+    {
+        QFETCH(QString, path);
+        QFETCH(int, failure);
+        ExclusiveFile file;
+        QVERIFY(!file.create(path));
+        QCOMPARE(int(file.failure()), failure);
+        QVERIFY(file.errorCode() != 0);
+    }
+
+    void lockedFileKeepsItsName()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("x.lock"));
+        ExclusiveFile file;
+        QVERIFY(file.create(path));
+        QVERIFY(file.touch());
+        QVERIFY(!QFile::remove(path)); // nobody can take it from a live owner
+        WIN32_FILE_ATTRIBUTE_DATA attributes{};
+        QVERIFY(GetFileAttributesExW(wide(path), GetFileExInfoStandard, &attributes));
+        FILETIME now{};
+        GetSystemTimeAsFileTime(&now);
+        constexpr qint64 minute = 60 * qint64(10000000);
+        QVERIFY(qAbs(ticks(now) - ticks(attributes.ftLastWriteTime)) < minute);
+        file.close();
+        QVERIFY(QFile::remove(path));
+    }
+
+    void systemFactsAgreeWithOtherSources()
+    {
+        const SystemInformation& information = systemInformation();
+        QCOMPARE(information.cores, QThread::idealThreadCount());
+        QCOMPARE(information.hostName.toLower(), QSysInfo::machineHostName().toLower().left(15));
+        QCOMPARE(information.userName, qEnvironmentVariable("USERNAME"));
+        QVERIFY(information.physicalMemory > 64 * 1024 * 1024);
+        QCOMPARE(information.architecture, QStringLiteral("x64"));
+    }
+
+    void localTextIsTheAnsiCodePage()
+    {
+        const QByteArray local = QStringLiteral("Gr\u00f6\u00dfe").toLocal8Bit();
+        QCOMPARE(local.size(), GetACP() == CP_UTF8 ? 7 : 5);
+    }
+};
+
+KDQ_TEST_MAIN(TestPlatformWindows)
+#include "tst_platform_windows.moc"
