@@ -261,6 +261,10 @@
         <source>Redone: %1</source>
         <translation>Wiederholt: %1</translation>
     </message>
+    <message>
+        <source>The last command could not be undone.</source>
+        <translation>Der letzte Befehl ließ sich nicht rückgängig machen.</translation>
+    </message>
 </context>
 <context>
     <name>ShellCall</name>

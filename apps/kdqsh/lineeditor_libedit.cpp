@@ -80,6 +80,9 @@ LineEditor::LineEditor(const QString& historyFile, Completer completer) : d(new 
     el_set(d->editor, EL_HIST, history, d->history);
     el_set(d->editor, EL_ADDFN, "kdqsh-complete", "complete the word", &Private::complete);
     el_set(d->editor, EL_BIND, "^I", "kdqsh-complete", nullptr);
+    // Ctrl-C drops the line instead of the session.
+    el_set(d->editor, EL_SETTY, "-d", "-isig", nullptr);
+    el_set(d->editor, EL_BIND, "^C", "em-kill-line", nullptr);
     el_set(d->editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     el_source(d->editor, nullptr);
 }

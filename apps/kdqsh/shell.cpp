@@ -130,12 +130,14 @@ bool Shell::undo()
     const auto connection = QObject::connect(
         &dispatcher, &kdCommandDispatcher::signalCommandReverted,
         [&reverted](const QSharedPointer<kdCommand>& command) { reverted = command->toString(); });
+    const bool isAvailable = dispatcher.undoAvailable();
     const bool ok = dispatcher.slotUndo();
     QObject::disconnect(connection);
     if (ok)
         m_console.message(tr("Undone: %1").arg(reverted), ShellConsole::Account);
     else
-        m_console.error(tr("There is nothing that can be undone."));
+        m_console.error(isAvailable ? tr("The last command could not be undone.")
+                                    : tr("There is nothing that can be undone."));
     return ok;
 }
 

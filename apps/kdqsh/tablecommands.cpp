@@ -219,14 +219,14 @@ bool changeUnits(ShellCall& call, const QString& usage,
     kdDataTable table(*original);
     for (int i = 1; i < call.count(); i += 2) {
         const QVector<int> indices = columnIndices(call, table, call.text(i));
-        if (indices.isEmpty() && !call.hasFailed())
-            return call.fail(TableCommands::tr("Table '%1' has no such column.").arg(call.text(0)));
+        if (indices.isEmpty())
+            return call.hasFailed()
+                ? false
+                : call.fail(TableCommands::tr("Table '%1' has no such column.").arg(call.text(0)));
         for (const int index : indices)
             if (!change(call, table.columnRef(index), call.text(i + 1)))
                 return false;
     }
-    if (call.hasFailed())
-        return false;
     ShellSession::I().tables.put(call.text(0), std::move(table));
     return true;
 }

@@ -35,6 +35,14 @@ private:
 
 #define S(text) QStringLiteral(text)
 
+/// What the system says of a file that is not there, in the language of the runs.
+static QString missingFileText()
+{
+    qputenv("LANGUAGE", "en");
+    QFile file(S("no such file"));
+    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
+}
+
 void TestKdqsh::prepare(KdqshRun& shell)
 {
     QVERIFY(shell.write(S("curve.csv"), "# a curve\ntime [min];temperature [degC]\n0;20\n1;120\n3;420\n"));
@@ -134,8 +142,7 @@ void TestKdqsh::errors_data()
     row("missing arguments", S("table rename c"), S("table rename: Usage: table rename NAME NEW"));
     row("too many arguments", S("table list all"), S("table list: Usage: table list"));
     row("open quote", S("table show 'c"), S("The quote ' in column 12 is not closed."));
-    row("missing file", S("table import none.csv as c"),
-        S("table import: 'none.csv' cannot be read: No such file or directory"));
+    row("missing file", S("table import none.csv as c"), S("table import: 'none.csv' cannot be read: *"));
     row("misplaced as", S("table import curve.csv at c"),
         S("table import: 'as' and a name are missing after the file."));
     row("no such table", curve + S("table show d"), S("table show: There is no table 'd', only c."));
@@ -156,7 +163,7 @@ void TestKdqsh::errors_data()
     row("wrong layout", S("deck open a.dat wide"),
         S("deck open: 'wide' is no layout; possible are fixed, free, standard, extended."));
     row("folder instead of deck", S("deck open ."),
-        S("deck open: The deck '.' cannot be opened for writing: Is a directory"));
+        S("deck open: The deck '.' cannot be opened for writing: *"));
     row("two decks", deck + S("deck open b.dat"),
         S("deck open: The deck 'a.dat' is still open; see 'deck close'."));
     row("empty formula", deck + S("deck formula k id 1 variable 1 formula ' '"),
@@ -194,7 +201,13 @@ void TestKdqsh::errors()
     KdqshRun shell;
     prepare(shell);
     QVERIFY(shell.runCommands(commands, {S("--quiet")}));
-    QTEST(shell.errors, "error");
+    QFETCH(QString, error);
+    if (error.endsWith(S("*\n"))) { // the rest is the system's text
+        QVERIFY2(shell.errors.startsWith(error.chopped(2)), qPrintable(shell.errors));
+        QCOMPARE(shell.errors.count(QLatin1Char('\n')), 1);
+    } else {
+        QCOMPARE(shell.errors, error);
+    }
     QCOMPARE(shell.output, QString());
     QCOMPARE(shell.status, 1);
 }
@@ -260,8 +273,7 @@ void TestKdqsh::deck_data()
     QTest::newRow("closed before the end")
         << fixed + S("deck comment a; deck close; log flush") << QByteArray("$ a\n");
     QTest::newRow("non-ASCII text") << fixed + S("deck title Plattenhöhe; deck comment 20 °C")
-                                    << QByteArray("titlePlattenh\xC3\xB6he\n$ 20 \xC2\xB0"
-                                                  "C\n");
+                                    << S("titlePlattenhöhe\n$ 20 °C\n").toLocal8Bit();
 }
 
 void TestKdqsh::deck()
@@ -282,7 +294,7 @@ void TestKdqsh::scriptStopsOrGoesOn_data()
     QTest::addColumn<QByteArray>("deck");
 
     const QString missing =
-        S("run.kdqsh:3: table import: 'none.csv' cannot be read: No such file or directory\n");
+        S("run.kdqsh:3: table import: 'none.csv' cannot be read: %1\n").arg(missingFileText());
     const QString others = S("run.kdqsh:5: Unknown command: >bogus<!\n"
                              "run.kdqsh:6: The quote \" in column 14 is not closed.\n");
     QTest::newRow("stops") << QStringList() << missing << QByteArray("$ one\n");
@@ -321,7 +333,7 @@ void TestKdqsh::commandLine_data()
     QTest::newRow("unknown option") << QStringList{S("--frobnicate")} << QString()
                                     << S("kdqsh: Unknown option 'frobnicate'.\n") << 2;
     QTest::newRow("missing script") << QStringList{S("none.kdqsh")} << QString()
-                                    << S("'none.kdqsh' cannot be read: No such file or directory\n") << 2;
+                                    << S("'none.kdqsh' cannot be read: %1\n").arg(missingFileText()) << 2;
     QTest::newRow("two scripts") << QStringList{S("a"), S("b")} << QString()
                                  << S("kdqsh: Only one script or one -c can be run.\n") << 2;
     QTest::newRow("contradiction") << QStringList{S("-k"), S("--stop-on-error"), S("-c"), S("quit")}
