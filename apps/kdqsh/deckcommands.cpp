@@ -5,81 +5,86 @@
 
 const ShellCommandGroup& DeckCommands::group()
 {
+    static const ShellCommandGroup group{"deck", "DeckCommands",
+                                         QT_TR_NOOP("The solver's input deck: its lines and its cards."),
+                                         lineEntries() + cardEntries()};
+    return group;
+}
+
+QVector<ShellCommandEntry> DeckCommands::lineEntries()
+{
     using Entry = ShellCommandEntry;
     constexpr int anyNumber = ShellCommand::anyNumber;
-    static const ShellCommandGroup group{
-        "deck",
-        "DeckCommands",
-        QT_TR_NOOP("The solver's input deck: its lines and its cards."),
-        {
-            {"open", "FILE [fixed|free] [standard|extended]",
-             QT_TR_NOOP("Begins a deck; free and extended where nothing is said."), 1, 3, Entry::CannotUndo,
-             open},
-            {"close", "", QT_TR_NOOP("Ends the deck and says whether all of it was written."), 0, 0,
-             Entry::CannotUndo, close},
-            {"flush", "", QT_TR_NOOP("Hands everything written so far to the system."), 0, 0, Entry::Query,
-             flush},
-            {"info", "", QT_TR_NOOP("Shows file and layout of the deck."), 0, 0, Entry::Query, info},
-            {"format", "fixed|free", QT_TR_NOOP("Changes the layout of the lines to come."), 1, 1,
-             Entry::WritesDeck, format},
-            {"title", "TEXT", QT_TR_NOOP("Writes the title line."), 1, anyNumber, Entry::WritesDeck, title},
-            {"comment", "[TEXT]", QT_TR_NOOP("Writes comment lines, cut where the text is too long for one."),
-             0, anyNumber, Entry::WritesDeck, comment},
-            {"keyword", "TEXT", QT_TR_NOOP("Writes a keyword line."), 1, anyNumber, Entry::WritesDeck,
-             keyword},
-            {"key", "KEY", QT_TR_NOOP("Writes a key of the parameter section, without line end."), 1, 1,
-             Entry::WritesDeck, key},
-            {"text", "TEXT", QT_TR_NOOP("Writes a text as it is, without line end."), 1, anyNumber,
-             Entry::WritesDeck, text},
-            {"break", "", QT_TR_NOOP("Ends the line."), 0, 0, Entry::WritesDeck, lineBreak},
-            {"element", "NUMBER", QT_TR_NOOP("Writes the line \"element\"."), 1, 1, Entry::WritesDeck,
-             element},
-            {"feature", "NUMBER", QT_TR_NOOP("Writes the line \"feature\"."), 1, 1, Entry::WritesDeck,
-             feature},
-            {"nodal", "NUMBER", QT_TR_NOOP("Writes the line \"nodal\"."), 1, 1, Entry::WritesDeck, nodal},
-            {"loadcase", "NAME", QT_TR_NOOP("Writes the line \"loadcase\"."), 1, anyNumber, Entry::WritesDeck,
-             loadcase},
-            {"integers", "PERLINE NUMBER...", QT_TR_NOOP("Writes a list of whole numbers."), 2, anyNumber,
-             Entry::WritesDeck, integers},
-            {"reals", "PERLINE NUMBER...", QT_TR_NOOP("Writes a list of numbers."), 2, anyNumber,
-             Entry::WritesDeck, reals},
-            {"column", "PERLINE TABLE COLUMN", QT_TR_NOOP("Writes the values of a table's column as a list."),
-             3, 3, Entry::WritesDeck, column},
-            {"section", "table", QT_TR_NOOP("Writes the key of the parameter section that allows tables."), 1,
-             1, Entry::WritesDeck, sectionTable},
-            {"table", "TABLE id ID variable CODE [name TEXT] [hold]",
-             QT_TR_NOOP("Writes a table of two columns in its own units; hold: no extrapolation."), 5,
-             anyNumber, Entry::WritesDeck, table},
-            {"grid",
-             "TABLE id ID variable CODE variable2 CODE [from UNIT] [to UNIT] [name TEXT] [single] [hold]",
-             QT_TR_NOOP(
-                 "Writes a table of two variables: the first in its first column, the second in the other "
-                 "columns' names, converted where from and to say so; single: one value a line."),
-             7, anyNumber, Entry::WritesDeck, grid},
-            {"formula", "NAME id ID variable CODE [variable2 CODE] formula TEXT",
-             QT_TR_NOOP("Writes a table that the solver evaluates from a formula."), 5, anyNumber,
-             Entry::WritesDeck, formula},
-            {"solver",
-             "TYPE [uppercase] [nonsymmetric] [fullk] [reproducible] [rigid FLAG] [iterations N] [tolerance "
-             "T]",
-             QT_TR_NOOP(
-                 "Writes the solver option: automatic, pardiso, multifrontal, mumps, iterative, sparse, "
-                 "casi, profile or mixed."),
-             1, anyNumber, Entry::WritesDeck, solver},
-            {"process",
-             "[3d] [material N] [licences N] [type N] [noheat] [kin N] [rigid N] [version N] [checkheat] "
-             "[contact N]",
-             QT_TR_NOOP("Writes the process line."), 0, anyNumber, Entry::WritesDeck, process},
-            {"autoload", "time T [travel S] [steps N] [remeshings N] [cutback N]",
-             QT_TR_NOOP("Writes automatic loading."), 2, anyNumber, Entry::WritesDeck, autoLoad},
-            {"pointload", "nodes NAME body ID force X Y Z [3d] [component NAME] [comment TEXT]",
-             QT_TR_NOOP("Writes a force on a list of nodes, in newton."), 2, anyNumber, Entry::WritesDeck,
-             pointLoad},
-            {"pointcurrent", "label NAME node NAME [current VALUE] [unit UNIT] [table ID]",
-             QT_TR_NOOP("Writes an electric current at a node, constant or by a table."), 2, anyNumber,
-             Entry::WritesDeck, pointCurrent},
-        }};
-    return group;
+    return {
+        {"open", "FILE [fixed|free] [standard|extended]",
+         QT_TR_NOOP("Begins a deck; free and extended where nothing is said."), 1, 3, Entry::CannotUndo,
+         open},
+        {"close", "", QT_TR_NOOP("Ends the deck and says whether all of it was written."), 0, 0,
+         Entry::CannotUndo, close},
+        {"flush", "", QT_TR_NOOP("Hands everything written so far to the system."), 0, 0, Entry::Query,
+         flush},
+        {"info", "", QT_TR_NOOP("Shows file and layout of the deck."), 0, 0, Entry::Query, info},
+        {"format", "fixed|free", QT_TR_NOOP("Changes the layout of the lines to come."), 1, 1,
+         Entry::WritesDeck, format},
+        {"title", "TEXT", QT_TR_NOOP("Writes the title line."), 1, anyNumber, Entry::WritesDeck, title},
+        {"comment", "[TEXT]", QT_TR_NOOP("Writes comment lines, cut where the text is too long for one."), 0,
+         anyNumber, Entry::WritesDeck, comment},
+        {"keyword", "TEXT", QT_TR_NOOP("Writes a keyword line."), 1, anyNumber, Entry::WritesDeck, keyword},
+        {"key", "KEY", QT_TR_NOOP("Writes a key of the parameter section, without line end."), 1, 1,
+         Entry::WritesDeck, key},
+        {"text", "TEXT", QT_TR_NOOP("Writes a text as it is, without line end."), 1, anyNumber,
+         Entry::WritesDeck, text},
+        {"break", "", QT_TR_NOOP("Ends the line."), 0, 0, Entry::WritesDeck, lineBreak},
+        {"element", "NUMBER", QT_TR_NOOP("Writes the line \"element\"."), 1, 1, Entry::WritesDeck, element},
+        {"feature", "NUMBER", QT_TR_NOOP("Writes the line \"feature\"."), 1, 1, Entry::WritesDeck, feature},
+        {"nodal", "NUMBER", QT_TR_NOOP("Writes the line \"nodal\"."), 1, 1, Entry::WritesDeck, nodal},
+        {"loadcase", "NAME", QT_TR_NOOP("Writes the line \"loadcase\"."), 1, anyNumber, Entry::WritesDeck,
+         loadcase},
+        {"integers", "PERLINE NUMBER...", QT_TR_NOOP("Writes a list of whole numbers."), 2, anyNumber,
+         Entry::WritesDeck, integers},
+        {"reals", "PERLINE NUMBER...", QT_TR_NOOP("Writes a list of numbers."), 2, anyNumber,
+         Entry::WritesDeck, reals},
+        {"column", "PERLINE TABLE COLUMN", QT_TR_NOOP("Writes the values of a table's column as a list."), 3,
+         3, Entry::WritesDeck, column},
+    };
+}
+
+QVector<ShellCommandEntry> DeckCommands::cardEntries()
+{
+    using Entry = ShellCommandEntry;
+    constexpr int anyNumber = ShellCommand::anyNumber;
+    return {
+        {"section", "table", QT_TR_NOOP("Writes the key of the parameter section that allows tables."), 1, 1,
+         Entry::WritesDeck, sectionTable},
+        {"table", "TABLE id ID variable CODE [name TEXT] [hold]",
+         QT_TR_NOOP("Writes a table of two columns in its own units; hold: no extrapolation."), 5, anyNumber,
+         Entry::WritesDeck, table},
+        {"grid", "TABLE id ID variable CODE variable2 CODE [from UNIT] [to UNIT] [name TEXT] [single] [hold]",
+         QT_TR_NOOP("Writes a table of two variables: the first in its first column, the second in the other "
+                    "columns' names, converted where from and to say so; single: one value a line."),
+         7, anyNumber, Entry::WritesDeck, grid},
+        {"formula", "NAME id ID variable CODE [variable2 CODE] formula TEXT",
+         QT_TR_NOOP("Writes a table that the solver evaluates from a formula."), 5, anyNumber,
+         Entry::WritesDeck, formula},
+        {"solver",
+         "TYPE [uppercase] [nonsymmetric] [fullk] [reproducible] [rigid FLAG] [iterations N] [tolerance "
+         "T]",
+         QT_TR_NOOP("Writes the solver option: automatic, pardiso, multifrontal, mumps, iterative, sparse, "
+                    "casi, profile or mixed."),
+         1, anyNumber, Entry::WritesDeck, solver},
+        {"process",
+         "[3d] [material N] [licences N] [type N] [noheat] [kin N] [rigid N] [version N] [checkheat] "
+         "[contact N]",
+         QT_TR_NOOP("Writes the process line."), 0, anyNumber, Entry::WritesDeck, process},
+        {"autoload", "time T [travel S] [steps N] [remeshings N] [cutback N]",
+         QT_TR_NOOP("Writes automatic loading."), 2, anyNumber, Entry::WritesDeck, autoLoad},
+        {"pointload", "nodes NAME body ID force X Y Z [3d] [component NAME] [comment TEXT]",
+         QT_TR_NOOP("Writes a force on a list of nodes, in newton."), 2, anyNumber, Entry::WritesDeck,
+         pointLoad},
+        {"pointcurrent", "label NAME node NAME [current VALUE] [unit UNIT] [table ID]",
+         QT_TR_NOOP("Writes an electric current at a node, constant or by a table."), 2, anyNumber,
+         Entry::WritesDeck, pointCurrent},
+    };
 }
 
 CFEDatLineWriter& DeckCommands::writer()

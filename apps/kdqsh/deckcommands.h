@@ -14,6 +14,9 @@ public:
     static const ShellCommandGroup& group();
 
 private:
+    static QVector<ShellCommandEntry> lineEntries();
+    static QVector<ShellCommandEntry> cardEntries();
+
     static bool open(ShellCall& call);
     static bool close(ShellCall& call);
     static bool flush(ShellCall& call);

@@ -100,8 +100,10 @@ bool LineEditor::readLine(const QString& prompt, QString& line)
     d->promptBytes = prompt.toLocal8Bit();
     int count = 0;
     const char* bytes = el_gets(d->editor, &count);
-    if (bytes == nullptr || count <= 0)
+    if (bytes == nullptr || count <= 0) {
+        std::puts(""); // the cursor is still behind the prompt
         return false;
+    }
     line = QString::fromLocal8Bit(bytes, count);
     if (!line.trimmed().isEmpty())
         history(d->history, &d->event, H_ENTER, bytes);

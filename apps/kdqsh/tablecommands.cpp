@@ -94,7 +94,7 @@ const ShellCommandGroup& TableCommands::group()
 ShellTables::Table TableCommands::find(const ShellCall& call, const QString& name)
 {
     const ShellTables& tables = ShellSession::I().tables;
-    const ShellTables::Table table = tables.find(name);
+    ShellTables::Table table = tables.find(name);
     if (table.isNull())
         call.fail(
             tables.names().isEmpty()
