@@ -188,12 +188,13 @@ bool DeckCommands::solver(ShellCall& call)
     bool isNonSymmetric = false;
     bool isFullK = false;
     bool isReproducible = false;
+    bool isCommented = false;
     int rigid = card.autoforgeField10Value();
     int iterations = card.maxIterations();
     double tolerance = card.tolerance();
     ShellParameters reader(call, 1);
     reader.flag("uppercase", isUpperCase).flag("nonsymmetric", isNonSymmetric).flag("fullk", isFullK);
-    reader.flag("reproducible", isReproducible).integer("rigid", rigid);
+    reader.flag("reproducible", isReproducible).integer("rigid", rigid).flag("comment", isCommented);
     if (!reader.integer("iterations", iterations).real("tolerance", tolerance).read())
         return false;
     card.enableUsingUpperCaseKeywords(isUpperCase);
@@ -203,7 +204,8 @@ bool DeckCommands::solver(ShellCall& call)
     card.setAutoforgeField10Value(rigid);
     card.setMaxIterations(iterations);
     card.setTolerance(tolerance);
-    return writeCard(card);
+    const bool isCommentWritten = !isCommented || writer().writeCommentLine(card.getSolverTypeUsingComment());
+    return writeCard(card) && isCommentWritten;
 }
 
 bool DeckCommands::process(ShellCall& call)

@@ -67,8 +67,8 @@ QVector<ShellCommandEntry> DeckCommands::cardEntries()
          QT_TR_NOOP("Writes a table that the solver evaluates from a formula."), 5, anyNumber,
          Entry::WritesDeck, formula},
         {"solver",
-         "TYPE [uppercase] [nonsymmetric] [fullk] [reproducible] [rigid FLAG] [iterations N] [tolerance "
-         "T]",
+         "TYPE [uppercase] [nonsymmetric] [fullk] [reproducible] [rigid FLAG] [iterations N] [tolerance T] "
+         "[comment]",
          QT_TR_NOOP("Writes the solver option: automatic, pardiso, multifrontal, mumps, iterative, sparse, "
                     "casi, profile or mixed."),
          1, anyNumber, Entry::WritesDeck, solver},

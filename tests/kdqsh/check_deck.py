@@ -159,6 +159,7 @@ def check_deck(text, layout, widths, sources):
     check_grid(deck, sources)
     check_formula(deck, sources)
     check_points(deck, 5, 1, sources.fire_seconds, sources.fire_kelvin, "fire_curve")
+    assert "Using pardiso direct sparse (11)" in deck.comments
     deck.line("solver")
     assert deck.ints() == [11, 0, 0, 0, 0, 0, 0, 0]
     assert deck.key("optimize") == [11]

@@ -143,6 +143,24 @@ void TestKdqsh::errors_data()
     row("too many arguments", S("table list all"), S("table list: Usage: table list"));
     row("open quote", S("table show 'c"), S("The quote ' in column 12 is not closed."));
     row("missing file", S("table import none.csv as c"), S("table import: 'none.csv' cannot be read: *"));
+    row("text instead of a number", S("table import bad.csv"),
+        S("table import: 'bad.csv': row 3, column 2: 'abc' is not a number"));
+    row("broken XML", S("table load bad.xml"),
+        S("table load: 'bad.xml', line 2: Premature end of document."));
+    row("text instead of XML", S("table load bad.csv"),
+        S("table load: 'bad.csv', line 1: Start tag expected."));
+    row("table that does not fit a card",
+        S("table import falling.csv as f; ") + deck + S("deck table f id 1 variable 1"),
+        S("deck table: Table 'f' does not fit the card: x must not descend, but 1 in row 3 follows 2."));
+    row("table with too many columns",
+        S("table import wide.csv as w; ") + deck + S("deck table w id 1 variable 1"),
+        S("deck table: Table 'w' does not fit the card: it is no XY table (an X and a Y column); number of "
+          "columns: "
+          "3."));
+    row("curves that do not fit", curve + S("table import wide.csv as w; table combine c sum w as q"),
+        S("table combine: Tables 'c' and 'w' do not fit: two columns each, X rising or falling, units that "
+          "convert, "
+          "ranges that meet."));
     row("misplaced as", S("table import curve.csv at c"),
         S("table import: 'as' and a name are missing after the file."));
     row("no such table", curve + S("table show d"), S("table show: There is no table 'd', only c."));
@@ -249,6 +267,10 @@ void TestKdqsh::deck_data()
                              << QByteArray("table,k\n4,1,0,0,3,\n12,0,2,\nmax(1; v1)\n");
     QTest::newRow("solver") << free + S("deck solver mumps uppercase nonsymmetric")
                             << QByteArray("SOLVER\n12,1,0,0,0,0,0,0,\nOPTIMIZE,11,\n");
+    QTest::newRow("solver with comment")
+        << free + S("deck solver iterative comment iterations 50 tolerance 1e-4")
+        << QByteArray("$ Using sparse iterative solver (2)\nsolver\n2,0,0,0,0,0,0,0,\n50,1,5,\n"
+                      "1.00000000000000E-4,\noptimize,9,\n");
     QTest::newRow("process") << free + S("deck process 3d material 1 type 4 noheat rigid 2 checkheat")
                              << QByteArray("autoforge,2,1,2,0,0,4,1,0,2,14,1,0,\n");
     QTest::newRow("automatic load") << fixed + S("deck autoload time 10 travel 2.5 steps 20 cutback 3")
