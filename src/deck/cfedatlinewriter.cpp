@@ -2,6 +2,7 @@
 
 #include "cfeabstractdatcard.h"
 #include "dattext_p.h"
+#include "stdiodevice_p.h"
 
 #include <kdQCore/kdLog>
 
@@ -51,6 +52,8 @@ bool isWriteError(QFileDevice::FileError error)
 
 bool flushDevice(QIODevice* device)
 {
+    if (auto* stdio = dynamic_cast<StdioDevice*>(device))
+        return stdio->flush();
     auto* file = qobject_cast<QFileDevice*>(device);
     return !file || (file->flush() && !isWriteError(file->error()));
 }
@@ -71,9 +74,12 @@ CFEDatLineWriter::~CFEDatLineWriter() = default;
 void CFEDatLineWriter::setFileHandler(std::FILE* file)
 {
     m_ownStream.reset();
+    m_ownDevice.reset();
     m_file = file;
-    if (file)
-        m_ownStream = std::make_unique<QTextStream>(file, QIODevice::WriteOnly);
+    if (file) {
+        m_ownDevice = std::make_unique<StdioDevice>(file);
+        m_ownStream = std::make_unique<QTextStream>(m_ownDevice.get());
+    }
     m_stream = m_ownStream.get();
 }
 
@@ -84,8 +90,10 @@ void CFEDatLineWriter::setFileHandler(std::nullptr_t)
 
 void CFEDatLineWriter::setFileHandler(QTextStream* stream)
 {
-    if (m_ownStream)
+    if (m_ownStream) {
         m_ownStream->flush();
+        m_ownDevice->flushPending();
+    }
     m_stream = stream;
 }
 
@@ -109,10 +117,9 @@ bool CFEDatLineWriter::flush()
     if (!m_stream)
         return !m_isInWriteMode;
     m_stream->flush();
-    bool ok = flushDevice(m_stream->device());
-    if (m_ownStream && m_stream == m_ownStream.get())
-        ok = std::fflush(m_file) == 0 && std::ferror(m_file) == 0 && ok;
-    return ok && isStreamGood();
+    if (!flushDevice(m_stream->device()))
+        m_stream->setStatus(QTextStream::WriteFailed);
+    return isStreamGood();
 }
 
 bool CFEDatLineWriter::writeCard(const cFeAbstractDatCard& card)

@@ -13,6 +13,7 @@
 
 class cFeAbstractDatCard;
 class QTextStream;
+class StdioDevice;
 
 #ifdef __clang__ // says that the enumerator "free" shadows the C library's function
 #pragma clang diagnostic push
@@ -82,8 +83,9 @@ public:
     Q_DISABLE_COPY(CFEDatLineWriter)
 
     /// Writes to a stdio file from now on, through a stream that the writer makes and owns. The file stays
-    /// the caller's: before closing it, destroy the writer, or call setFileHandler(nullptr), which both
-    /// flush. Null leaves the writer without a stream.
+    /// the caller's: before closing it, call flush(), after which the writer leaves the file alone until the
+    /// next write, or setFileHandler(nullptr), or destroy the writer, which both flush. Null leaves the
+    /// writer without a stream.
     void setFileHandler(std::FILE* file);
     void setFileHandler(std::nullptr_t);
 
@@ -315,6 +317,7 @@ private:
     QList<datFormat> m_formatStack;
     QTextStream* m_stream = nullptr;
     std::FILE* m_file = nullptr;
+    std::unique_ptr<StdioDevice> m_ownDevice; // outlives the stream on it
     std::unique_ptr<QTextStream> m_ownStream;
 };
 

@@ -138,6 +138,24 @@ private Q_SLOTS:
         QCOMPARE(contents(path), QByteArray("titleÖfen\nby hand\n    1"));
     }
 
+    void fileClosedAfterFlushIsLeftAlone()
+    {
+        const QString path = m_folder->filePath(QStringLiteral("job.dat"));
+        const QString other = m_folder->filePath(QStringLiteral("other.txt"));
+        FilePointer otherFile(nullptr, std::fclose);
+        {
+            FilePointer file = openFile(path);
+            CFEDatLineWriter writer(CFEDatLineWriter::standard, CFEDatLineWriter::fixed);
+            writer.setFileHandler(file.get());
+            QVERIFY(writer.writeInt(1) && writer.flush());
+            file.reset();
+            otherFile = openFile(other); // usually takes the place of the closed one
+            std::fputs("not flushed yet", otherFile.get());
+        }
+        QCOMPARE(contents(path), QByteArray("    1"));
+        QCOMPARE(contents(other), QByteArray());
+    }
+
     void longLists_data()
     {
         QTest::addColumn<QByteArray>("codec");
