@@ -54,7 +54,7 @@ bool coMatrixSolverSolutionProcedureType::readXML(QXmlStreamReader& reader)
     const QString element = reader.isStartElement() ? reader.name().toString() : xmlElementName();
     bool isInteger = false;
     const int id = readIdText(reader, element).toInt(&isInteger);
-    if (!isInteger) {
+    if (!isInteger || reader.hasError()) {
         reader.raiseError(tr("Failed to read the value of the XML element: %1").arg(element));
         return false;
     }

@@ -55,6 +55,7 @@ private Q_SLOTS:
         row("too large", R"(<matrix_solver_solution_procedure_type value="4294967297"/>)", 0, 0, own);
         row("child in the text", R"(<procedure><one/>1</procedure>)", 0, 0, QStringLiteral("procedure"));
         row("cut off", R"(<matrix_solver_solution_procedure_type>)", 1, 1, own);
+        row("closed by another", R"(<matrix_solver_solution_procedure_type>1</other>)", 0, 0, own);
     }
 
     void read()
