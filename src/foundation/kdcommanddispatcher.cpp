@@ -246,11 +246,7 @@ bool kdCommandDispatcher::slotRedo()
 {
     if (m_redoList.isEmpty())
         return false;
-    const QPointer<kdCommandDispatcher> self(this);
-    const bool succeeded = execute(m_redoList.takeFirst());
-    if (self && !redoAvailable())
-        Q_EMIT signalRedoEnabled(false);
-    return succeeded;
+    return execute(m_redoList.takeFirst());
 }
 
 bool kdCommandDispatcher::slotStop()

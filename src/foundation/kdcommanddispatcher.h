@@ -90,6 +90,8 @@ Q_SIGNALS:
     void signalCommandExecuted(QSharedPointer<kdCommand> command);
     void signalCommandReverted(QSharedPointer<kdCommand> command);
     void signalUndoEnabled(bool enabled);
+    /// Comes with an undo only. A redo is told by signalCommandExecuted, at which redoAvailable() is up to
+    /// date.
     void signalRedoEnabled(bool enabled);
 
 private:
