@@ -74,7 +74,7 @@ void logBuild()
     const auto both = [](const char* first, const char* second) {
         return QLatin1String(first) + QLatin1Char(' ') + QLatin1String(second);
     };
-    logFact("Revision", both(nBuildInfo::revision, nBuildInfo::revisionDate));
+    logFact("Revision", both(nBuildInfo::revisionNumber, nBuildInfo::revisionDate));
     logFact("Build date", both(nBuildInfo::buildDate, nBuildInfo::buildTime));
     logFact("Qt version", QLatin1String(nBuildInfo::qtVersion));
     logFact("Configuration", QLatin1String(nBuildInfo::configuration));

@@ -1,6 +1,6 @@
 #include "nkaldorandemos.h"
 
-#include "buildinformation.h"
+#include "kdbuildinfo_p.h"
 #include "productversion.h"
 
 namespace {
@@ -26,7 +26,7 @@ QString nKaldoranDemos::productVersion()
 
 QString nKaldoranDemos::fullRevisionVersion()
 {
-    return QStringLiteral("%1.%2").arg(productVersion(), nBuildInformation::revision());
+    return QStringLiteral("%1.%2").arg(productVersion(), QLatin1String(nBuildInfo::revisionNumber));
 }
 
 QString nKaldoranDemos::productNameAndVersion()

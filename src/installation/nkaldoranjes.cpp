@@ -118,8 +118,7 @@ QString nKaldoranJes::projectFileSelectionFilter()
 
 QString nKaldoranJes::createProjectFilePath(const QString& folder, const QString& name)
 {
-    const QString separator = QDir::separator();
-    return QStringLiteral("%1%2%3%4%5.%6").arg(folder, separator, name, separator, name, shortProductName());
+    return createProjectFolderPath(folder, name) + QDir::separator() + name + projectFileExtension();
 }
 
 QString nKaldoranJes::createProjectFolderPath(const QString& folder, const QString& name)

@@ -1,6 +1,6 @@
 #include "nkaldoranjoining.h"
 
-#include "buildinformation.h"
+#include "kdbuildinfo_p.h"
 #include "ncompanyinfo.h"
 #include "productversion.h"
 
@@ -140,6 +140,7 @@ QString nKaldoranJoining::settingsFileNameResultThresholdsRsw(const QString& nam
 QString nKaldoranJoining::fileComment(const QString& what)
 {
     return QStringLiteral("%1 - written by %2 %3 (rev. %4, %5) %6")
-        .arg(what, nCompanyInfo::companyName(), productNameAndFullVersion(), nBuildInformation::revision(),
-             nBuildInformation::revisionDate(), QDateTime::currentDateTime().toString(Qt::ISODate));
+        .arg(what, nCompanyInfo::companyName(), productNameAndFullVersion(),
+             QLatin1String(nBuildInfo::revisionNumber), QLatin1String(nBuildInfo::revisionDate),
+             QDateTime::currentDateTime().toString(Qt::ISODate));
 }

@@ -1,6 +1,8 @@
 #include "productversion.h"
 
-#include "buildinformation.h"
+#include "kdbuildinfo_p.h"
+
+#include <QSysInfo>
 
 namespace {
 
@@ -26,6 +28,18 @@ constexpr Row rows[] = {
     {"Kaldoran Remote", "2018", 1},
 };
 static_assert(sizeof(rows) / sizeof(rows[0]) == coProductType::Remote + 1);
+
+QString platform()
+{
+#if defined(Q_OS_WIN)
+    const QString system = QStringLiteral("win");
+#elif defined(Q_OS_MACOS)
+    const QString system = QStringLiteral("macos");
+#else
+    const QString system = QStringLiteral("linux");
+#endif
+    return system + QString::number(int(QSysInfo::WordSize));
+}
 
 QString dotted(const QString& first, const QString& second)
 {
@@ -57,17 +71,17 @@ QString ProductVersion::fullVersion(bool withMinor) const
 
 QString ProductVersion::fullRevisionVersion() const
 {
-    return dotted(fullVersion(true), nBuildInformation::revision());
+    return dotted(fullVersion(true), QLatin1String(nBuildInfo::revisionNumber));
 }
 
 QString ProductVersion::fullRevisionOSVersion() const
 {
-    return dotted(fullRevisionVersion(), nBuildInformation::platform());
+    return dotted(fullRevisionVersion(), platform());
 }
 
 QString ProductVersion::fullRevisionOSVersionDate() const
 {
-    return spaced(fullRevisionOSVersion(), nBuildInformation::buildDate());
+    return spaced(fullRevisionOSVersion(), QLatin1String(nBuildInfo::buildDate));
 }
 
 QString ProductVersion::productNameAndVersion() const
@@ -93,7 +107,7 @@ QString ProductVersion::productNameAndFullRevisionOSVersion() const
 QString ProductVersion::productNameAndFullRevisionOSVersionTime() const
 {
     return QStringLiteral("%1 - %2").arg(productNameAndFullRevisionOSVersion(),
-                                         nBuildInformation::buildTime());
+                                         QLatin1String(nBuildInfo::buildTime));
 }
 
 QString ProductVersion::fullVersionAndSuffix() const

@@ -186,6 +186,8 @@ private Q_SLOTS:
             QVERIFY2(all.at(i).text.startsWith(start), qPrintable(all.at(i).text));
         }
         QVERIFY(all.at(5).text.endsWith(QStringLiteral(" kB")));
+        const QRegularExpression revision(QStringLiteral("Revision: \\d+ (\\d{4}-\\d\\d-\\d\\d|unknown)$"));
+        QVERIFY2(revision.match(all.at(14).text).hasMatch(), qPrintable(all.at(14).text));
         if (mode == QStringLiteral("withApplication"))
             QCOMPARE(QString::fromLocal8Bit(m_output.trimmed()), files(logFolder()).constFirst());
     }
@@ -300,14 +302,6 @@ private Q_SLOTS:
             for (int i = 0; i < 250; ++i)
                 QCOMPARE(ofThread.at(i), start + QStringLiteral("line %1").arg(i));
         }
-    }
-
-    void missingFolderIsCreated()
-    {
-        qputenv("LOCALAPPDATA", QFile::encodeName(m_folder->filePath(QStringLiteral("deep/er"))));
-        const QString path = kdDebugLog::defaultLogPath(QStringLiteral("app.exe"));
-        QCOMPARE(path, m_folder->filePath(QStringLiteral("deep/er/kaldoran/log/app.exe-")));
-        QVERIFY(QFileInfo(path).absoluteDir().exists());
     }
 
     void missingVariableMeansTheRootFolder()
