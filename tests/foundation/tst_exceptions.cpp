@@ -21,7 +21,11 @@ using PositionException = kdTypedException<QPair<int, int>>;
 
 static_assert(std::is_abstract_v<maDataError> && std::has_virtual_destructor_v<maDataError>);
 static_assert(!std::is_base_of_v<std::exception, maDataError>);
-static_assert(!std::is_base_of_v<kdException, cError>);
+static_assert(
+    std::is_base_of_v<kdException, DetailedException> && std::is_base_of_v<kdException, coIOException>);
+static_assert(
+    std::is_base_of_v<std::runtime_error, kdException> && std::is_base_of_v<std::runtime_error, cError>);
+static_assert(std::is_base_of_v<cError, cWindowsError> && !std::is_base_of_v<kdException, cError>);
 static_assert(
     std::is_nothrow_copy_constructible_v<kdException> && std::is_move_assignable_v<PositionException>);
 static_assert(std::is_copy_assignable_v<maValueError> && std::is_move_constructible_v<cWindowsError>);
@@ -42,30 +46,7 @@ private:
     QTextCodec* m_saved;
 };
 
-enum Kind { General, Detailed, Position, InputOutput, System, Windows };
-
-void throwException(Kind kind)
-{
-    const QString text = QStringLiteral("x");
-    switch (kind) {
-    case General:
-        throw kdException(text);
-    case Detailed:
-        throw DetailedException(text, text);
-    case Position:
-        throw PositionException(text, {1, 2});
-    case InputOutput:
-        throw coIOException(text);
-    case System:
-        throw cError(text);
-    case Windows:
-        throw cWindowsError(text, ENOENT);
-    }
-}
-
 } // namespace
-
-Q_DECLARE_METATYPE(Kind)
 
 class TestExceptions : public QObject {
     Q_OBJECT
@@ -138,34 +119,6 @@ private Q_SLOTS:
         QCOMPARE(first.payload(), QStringLiteral("c"));
         QCOMPARE(kept.payload(), QStringLiteral("Straße"));
         QCOMPARE(kept.getErrorMessage(), QStringLiteral("a"));
-    }
-
-    void family_data()
-    {
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<bool>("ofTheLibrary");
-        QTest::newRow("kdException") << General << true;
-        QTest::newRow("kdTypedException<QString>") << Detailed << true;
-        QTest::newRow("kdTypedException<QPair<int, int>>") << Position << true;
-        QTest::newRow("coIOException") << InputOutput << true;
-        QTest::newRow("cError") << System << false;
-        QTest::newRow("cWindowsError") << Windows << false;
-    }
-
-    void family()
-    {
-        QFETCH(Kind, kind);
-        QFETCH(bool, ofTheLibrary);
-        QVERIFY_EXCEPTION_THROWN(throwException(kind), std::runtime_error);
-        try {
-            throwException(kind);
-        } catch (const kdException& caught) {
-            QVERIFY(ofTheLibrary);
-            QCOMPARE(caught.getErrorMessage(), QStringLiteral("x"));
-        } catch (const cError& caught) {
-            QVERIFY(!ofTheLibrary);
-            QVERIFY(caught.message().startsWith(QLatin1Char('x')));
-        }
     }
 
     void systemErrorText_data()
