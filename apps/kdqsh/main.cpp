@@ -1,10 +1,10 @@
 #include "linesource.h"
+#include "platform.h"
 #include "shell.h"
 #include "shellcompletion.h"
 #include "shellgroups.h"
 #include "shelloptions.h"
 #include "shellsession.h"
-#include "terminal.h"
 
 #include <kdQCore/coProductInformation>
 #include <kdQCore/kdCommandDispatcher>
@@ -122,7 +122,8 @@ int main(int argc, char** argv)
 
     const Application family(argc, argv);
     ShellOptions options;
-    switch (options.parse(QCoreApplication::arguments(), nTerminal::isTerminal(stdin))) {
+    switch (options.parse(QCoreApplication::arguments(),
+                          nPlatform::isTerminal(nPlatform::StandardStream::Input))) {
     case ShellOptions::ShowText:
         ShellConsole().message(options.text);
         return AllWell;

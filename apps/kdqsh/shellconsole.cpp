@@ -1,11 +1,12 @@
 #include "shellconsole.h"
 
-#include "terminal.h"
+#include "platform.h"
 
 #include <algorithm>
 #include <cstdio>
 
-ShellConsole::ShellConsole() : m_out(stdout), m_err(stderr), m_hasTerminal(nTerminal::isTerminal(stderr))
+ShellConsole::ShellConsole()
+    : m_out(stdout), m_err(stderr), m_hasTerminal(nPlatform::isTerminal(nPlatform::StandardStream::Error))
 {
     QObject::connect(&m_reporter, &kdReporter::signalErrorMessage,
                      [this](const QString& text) { error(text); });
@@ -58,7 +59,7 @@ void ShellConsole::showProgress(double fraction)
     const QString bar = QStringLiteral("[%1%2] %3 %4")
                             .arg(QString(filled, QLatin1Char('#')), QString(width - filled, QLatin1Char('.')),
                                  percent, m_operation)
-                            .left(nTerminal::columns() - 1);
+                            .left(nPlatform::terminalColumns() - 1);
     eraseBar();
     m_err << bar << Qt::flush;
     m_barLength = bar.size();

@@ -59,6 +59,9 @@ enum class StandardStream { Input, Output, Error };
 /// Whether a person sits at the other end.
 bool isTerminal(StandardStream stream);
 
+/// Width of the window behind the standard error stream in columns; 80 where it is not known.
+int terminalColumns();
+
 /// Names the system's zone in the environment where it names none, so that the C library does not look the
 /// zone file up for every time text. Does nothing on Windows. Call it before other threads start.
 void presetTimeZone();

@@ -10,6 +10,7 @@
 #include <ctime>
 #include <fcntl.h>
 #include <pwd.h>
+#include <sys/ioctl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/utsname.h>
@@ -163,6 +164,12 @@ ProcessFacts processFacts(qint64 processId)
     const QByteArray boot = contentOf(QStringLiteral("/proc/sys/kernel/random/boot_id")).trimmed();
     facts.startTime = QString::fromLatin1(fields[startTimeField] + '@' + boot);
     return facts;
+}
+
+int terminalColumns()
+{
+    winsize size{};
+    return ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
 }
 
 bool isTerminal(StandardStream stream)

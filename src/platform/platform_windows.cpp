@@ -196,6 +196,14 @@ bool isTerminal(StandardStream stream)
     return GetConsoleMode(GetStdHandle(id), &mode) != 0;
 }
 
+int terminalColumns()
+{
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    if (!GetConsoleScreenBufferInfo(GetStdHandle(STD_ERROR_HANDLE), &info))
+        return 80;
+    return info.srWindow.Right - info.srWindow.Left + 1;
+}
+
 void presetTimeZone() { }
 
 struct ExclusiveFile::Handle {
