@@ -29,6 +29,9 @@ class TestPlatformPosix : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    // Start times count in ticks of 10 ms: the processes started below are to be later ones.
+    void initTestCase() { QThread::msleep(25); }
+
     void errorTexts_data()
     {
         QTest::addColumn<qulonglong>("code");
