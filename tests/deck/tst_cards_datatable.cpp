@@ -167,11 +167,7 @@ private Q_SLOTS:
         row("too few", {20}, {0, 1},
             "it has 3 columns, but the grid needs one for x and one for each of 1 values of the second "
             "variable.");
-        row("none", {}, {0, 1},
-            "it has 3 columns, but the grid needs one for x and one for each of 0 values of the second "
-            "variable.");
         row("equal x", {20, 30}, {1, 1}, "x must ascend, but value 2 is 1 after 1.");
-        row("equal x within", {20, 30}, {1, 1, 2}, "x must ascend, but value 2 is 1 after 1.");
         row("descending x", {20, 30}, {2, 1}, "x must ascend, but value 2 is 1 after 2.");
         row("NaN x", {20, 30}, {qQNaN(), 1}, "value 1 of column 1 is no finite number.");
         row("equal second", {20, 20}, {0, 1}, "the second variable must ascend, but value 2 is 20 after 20.");
