@@ -18,14 +18,14 @@ namespace nHtml {
 ///   their number.
 /// - White space folds to one blank, as in a browser, except within "pre".
 /// - What does not look like a tag is text: "a < b", an unclosed "<b", and a name in brackets that is no
-/// common
-///   tag, is not closed later, ends without "/" and has no "=" ("copy <source> <target>").
+///   common tag, is not closed later, ends without "/" and has no "=" ("copy <source> <target>").
 ///
 /// A text without any tag keeps its white space; with neither tag nor entity it comes back unchanged.
 ///
 /// \code
-/// nHtml::toPlainText(QStringLiteral("<p>Zone <b>A</b> &ge; 5&nbsp;mm</p><p>skipped"));  // "Zone A ≥ 5
-/// mm\nskipped" \endcode
+/// nHtml::toPlainText(QStringLiteral("<p>Zone <b>A</b> &ge; 5&nbsp;mm</p><p>skipped"));
+/// // "Zone A ≥ 5 mm\nskipped"
+/// \endcode
 ///
 /// Thread-safe.
 KDQCORE_EXPORT QString toPlainText(const QString& html);

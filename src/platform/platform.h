@@ -48,8 +48,8 @@ const SystemInformation& systemInformation();
 struct ProcessFacts {
     bool alive = false;     ///< false also for one that has ended and is only kept for its parent
     QString executableName; ///< file name without folder; empty where the system does not tell
-    QString
-        startTime; ///< tells a process from a later one with the same id, also over restarts; may be empty
+    /// Tells a process from a later one with the same id, also over restarts; may be empty.
+    QString startTime;
 };
 
 ProcessFacts processFacts(qint64 processId);

@@ -42,8 +42,8 @@ UnitConversion::UnitConversion(const Unit& from, const Unit& to)
 double UnitConversion::operator()(double value) const
 {
     const double scaled = value * m_factor;
+    // Where only the product overflows, an offset is far below one ulp.
     if (!std::isfinite(scaled) && std::isfinite(value))
-        return value / m_divisor
-            * m_factor; // the product alone overflows; an offset is far below one ulp here
+        return value / m_divisor * m_factor;
     return (m_isShifted ? scaled + m_offset : scaled) / m_divisor;
 }
