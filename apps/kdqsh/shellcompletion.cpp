@@ -90,7 +90,8 @@ QStringList nShellCompletion::candidates(const QString& beforeCursor)
     const bool isNewWord = statement.isEmpty() || statement.back().isSpace();
     const QString prefix = isNewWord || typed.isEmpty() ? QString() : typed.takeLast();
     QStringList result;
-    for (const QString& word : following(typed, prefix))
+    const QStringList words = following(typed, prefix);
+    for (const QString& word : words)
         if (word.startsWith(prefix) && ShellLineParser::quoted(word) == word && !result.contains(word))
             result.append(word);
     return result;

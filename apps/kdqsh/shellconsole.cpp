@@ -8,15 +8,15 @@
 ShellConsole::ShellConsole()
     : m_out(stdout), m_err(stderr), m_hasTerminal(nPlatform::isTerminal(nPlatform::StandardStream::Error))
 {
-    QObject::connect(&m_reporter, &kdReporter::signalErrorMessage,
+    QObject::connect(&m_reporter, &kdReporter::signalErrorMessage, &m_reporter,
                      [this](const QString& text) { error(text); });
-    QObject::connect(&m_reporter, &kdReporter::signalMessage,
+    QObject::connect(&m_reporter, &kdReporter::signalMessage, &m_reporter,
                      [this](const QString& text, int level) { message(text, level); });
-    QObject::connect(&m_reporter, &kdReporter::signalStartOperation,
+    QObject::connect(&m_reporter, &kdReporter::signalStartOperation, &m_reporter,
                      [this](const QString& text) { startOperation(text); });
-    QObject::connect(&m_reporter, &kdReporter::signalProgress,
+    QObject::connect(&m_reporter, &kdReporter::signalProgress, &m_reporter,
                      [this](double fraction) { showProgress(fraction); });
-    QObject::connect(&m_reporter, &kdReporter::signalFinishOperation,
+    QObject::connect(&m_reporter, &kdReporter::signalFinishOperation, &m_reporter,
                      [this](const QString& text) { finishOperation(text); });
 }
 

@@ -133,7 +133,8 @@ QString TableCommands::size(const kdDataTable& table)
 bool TableCommands::list(ShellCall& call)
 {
     const ShellTables& tables = ShellSession::I().tables;
-    for (const QString& name : tables.names())
+    const QStringList names = tables.names();
+    for (const QString& name : names)
         call.show(size(*tables.find(name)));
     if (tables.names().isEmpty())
         call.tell(tr("No tables."));

@@ -16,7 +16,11 @@ bool kdDebugLog::m_enableLoggingFlag = false;
 
 namespace {
 
-QString destinationOfThisRun;
+QString& destinationOfThisRun()
+{
+    static QString destination;
+    return destination;
+}
 
 QString currentDirectory()
 {
@@ -101,7 +105,7 @@ void kdDebugLog::createInstance(int argc, char* const* argv, bool logInCurrentDi
         KD_LOG(kdLog::Fault, kdLog::General, QStringLiteral("kdDebugLog creation failed!"));
         return;
     }
-    destinationOfThisRun = destination;
+    destinationOfThisRun() = destination;
     logSystemInfo(argc, argv);
     m_enableLoggingFlag = true;
 }
@@ -113,7 +117,7 @@ void kdDebugLog::removeInstance()
         return;
     }
     m_enableLoggingFlag = false;
-    destinationOfThisRun.clear();
+    destinationOfThisRun().clear();
     nLogBackEnd::stop();
 }
 
@@ -135,9 +139,9 @@ void kdDebugLog::setAlsoLogToStdErrorEnabled(bool enabled)
 
 QString kdDebugLog::logFilePath()
 {
-    if (destinationOfThisRun.isEmpty())
+    if (destinationOfThisRun().isEmpty())
         return QString();
-    const QFileInfo destination(destinationOfThisRun);
+    const QFileInfo destination(destinationOfThisRun());
     const QString ending = QStringLiteral(".%1.log").arg(QCoreApplication::applicationPid());
     const QFileInfoList files = destination.dir().entryInfoList(QDir::Files, QDir::Time);
     for (const QFileInfo& file : files)

@@ -52,9 +52,11 @@ const QHash<QString, Element>& elements()
             {Element::Preformatted, QStringLiteral("pre")},
         };
         QHash<QString, Element> result;
-        for (const auto& group : groups)
-            for (const QString& name : group.second.split(QLatin1Char(' ')))
+        for (const auto& group : groups) {
+            const QStringList names = group.second.split(QLatin1Char(' '));
+            for (const QString& name : names)
                 result.insert(name, group.first);
+        }
         return result;
     }();
     return table;
@@ -494,7 +496,7 @@ QString toPlainText(const QString& html)
 {
     if (html.contains(QLatin1Char('<'))) {
         Converter converter(html, Converter::Mode::Markup);
-        const QString text = converter.run();
+        QString text = converter.run();
         if (converter.sawMarkup())
             return text;
     }

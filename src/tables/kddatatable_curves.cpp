@@ -182,7 +182,7 @@ bool kdDataTable::applySamplingPoints(const kdDataColumn& samplingPoints)
     for (int i = 0; i < curve.curves(); ++i) {
         QVector<double> values;
         values.reserve(nodes.size());
-        for (double x : nodes)
+        for (double x : qAsConst(nodes))
             values.append(curve.valueAt(i, x));
         columns.push_back(values);
     }

@@ -77,6 +77,7 @@ void kdDataTable::importFromTextStream(QTextStream& stream, kdDataTable& table)
     MeasuredTextReader reader(stream);
     reader.read();
     std::vector<ColumnPointer> columns;
+    columns.reserve(static_cast<std::size_t>(reader.columns()));
     for (int i = 0; i < reader.columns(); ++i)
         columns.push_back(createColumn(reader, i));
     table.replaceColumns(std::move(columns));

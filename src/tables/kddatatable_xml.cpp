@@ -55,6 +55,7 @@ bool kdDataTable::readXML(QXmlStreamReader& reader, const QString& startElement)
     if (!table.read(startElement))
         return false;
     std::vector<ColumnPointer> columns;
+    columns.reserve(static_cast<std::size_t>(table.columns()));
     for (int i = 0; i < table.columns(); ++i)
         columns.push_back(table.createColumn(i));
     replaceColumns(std::move(columns));

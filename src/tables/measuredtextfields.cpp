@@ -140,7 +140,7 @@ QStringList plainHeaderFields(const QString& line, const Separator& separator)
     QVector<QStringView> views;
     split(line, separator, views);
     QStringList result;
-    for (const QStringView& view : views)
+    for (const QStringView& view : qAsConst(views))
         result.append(view.toString());
     return result;
 }
@@ -191,7 +191,7 @@ void nMeasuredText::split(QStringView line, const Separator& separator, QVector<
 
 QStringList nMeasuredText::headerFields(const QString& line, const Separator& separator, int columns)
 {
-    const QStringList plain = plainHeaderFields(line, separator);
+    QStringList plain = plainHeaderFields(line, separator);
     if (plain.size() == columns)
         return plain;
     for (const char candidate : {';', '\t', ','}) {
@@ -201,7 +201,7 @@ QStringList nMeasuredText::headerFields(const QString& line, const Separator& se
             return fields;
     }
     for (const auto& splitter : {splitHeaderAfterBrackets, splitHeaderAtGaps, splitHeaderAtWords}) {
-        const QStringList fields = splitter(line);
+        QStringList fields = splitter(line);
         if (fields.size() == columns)
             return fields;
     }

@@ -67,7 +67,8 @@ AtomNames buildAtomNames()
     AtomNames names;
     for (const Spelling& spelling : spellings) {
         names.atoms.append(QString::fromLatin1(spelling.atom));
-        for (const QString& word : QString::fromLatin1(spelling.words).split(QLatin1Char(' ')))
+        const QStringList words = QString::fromLatin1(spelling.words).split(QLatin1Char(' '));
+        for (const QString& word : words)
             names.byWord.insert(word, names.atoms.constLast());
     }
     for (const char* atom : prefixedAtoms)
