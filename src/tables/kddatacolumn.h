@@ -70,6 +70,7 @@ public:
 
     /// A new copy, which the caller owns.
     virtual kdDataColumn* getCopy() const;
+    void getCopy(kdDataColumn& copy) const { copy = *this; }
 
     /// Compares unit, type, usage, title, name and values, not id and colour. A NaN makes two columns differ,
     /// even a column from itself.

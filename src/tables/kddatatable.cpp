@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+kdDataTable::kdDataTable() = default;
+
 kdDataTable::kdDataTable(bool editable) : m_editable(editable) { }
 
 kdDataTable::kdDataTable(kdUnitSystem::Dimension x, kdUnitSystem::Dimension y)

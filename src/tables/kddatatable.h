@@ -65,7 +65,8 @@ public:
     // --- Construction and comparison ---
 
     /// A table without columns.
-    explicit kdDataTable(bool editable = true);
+    kdDataTable();
+    explicit kdDataTable(bool editable);
     /// An XY table without points, in the SI units of the dimensions.
     kdDataTable(kdUnitSystem::Dimension x, kdUnitSystem::Dimension y);
     kdDataTable(const kdDataTable& other);
@@ -155,6 +156,7 @@ public:
     /// other columns with values and the lengths differ; a refused column stays the caller's.
     bool replaceDataColumnAt(int index, kdDataColumn* column);
     bool replaceColumn(int index, const kdDataColumn& column);
+    bool replaceColumn(int index, kdDataColumn* column) { return replaceDataColumnAt(index, column); }
     bool replaceColumn(kdDataColumn* oldColumn, kdDataColumn* newColumn);
     /// Makes the table as new: no columns, no name, default attributes.
     void clear();
@@ -216,6 +218,7 @@ public:
     void toViewUnit();
     void toSIUnit();
     void toUnit(int unitX, int unitY);
+    void toUnit(const kdUnitSystem& unitX, const kdUnitSystem& unitY);
     bool xToViewUnit();
     bool yToViewUnit();
     bool xToUnit(int unit);
@@ -245,6 +248,7 @@ public:
     bool allYToUnit(kdUnitSystem::Dimension) = delete;
     void setUnitX(kdUnitSystem::Dimension) = delete;
     void setUnitY(kdUnitSystem::Dimension) = delete;
+    void toUnit(kdUnitSystem::Dimension, kdUnitSystem::Dimension) = delete;
 
     // --- Values ---
 
@@ -311,6 +315,10 @@ public:
     /// Replaces X by the given values, in their order, and every Y by its lookup there, with the end values
     /// outside; NaN among them is left out. False where X neither rises nor falls or nothing is given.
     bool applySamplingPoints(const kdDataColumn& samplingPoints);
+    bool applySamplingPoints(const kdDataColumn* samplingPoints)
+    {
+        return samplingPoints && applySamplingPoints(*samplingPoints);
+    }
 
     // --- Editing curves ---
 
@@ -367,7 +375,7 @@ public:
     bool writeXML(QXmlStreamWriter& writer) const;
     /// The form that the job editor reads: the same content in an element "DataTable", every value of a row
     /// followed by ";".
-    bool readXMLForJES(QXmlStreamReader& reader);
+    bool readXMLForJES(QXmlStreamReader& reader, const QString& startElement = tagNameForJES());
     bool writeXMLForJES(QXmlStreamWriter& writer) const;
 
     // --- Text ---
@@ -376,8 +384,9 @@ public:
     ///
     /// Fields are separated by ";", else by tabs, else by ",", else by blanks, whichever the first line of
     /// values holds; they may stand in quotation marks. With ";" or tabs a comma in a number is its decimal
-    /// mark. Empty lines, empty fields at the end of a line, and lines that begin with # // % ! $ or * are
-    /// skipped. Above the values may stand
+    /// mark. Empty lines, empty fields at the end of a line, lines that begin with # // % ! $ or * and a
+    /// first line such as "sep=;" are skipped. Lines end with LF, CRLF or CR. A line whose first
+    /// field holds a digit and no letter is one of values, however odd. Above the values may stand
     /// - a line of names, with units in brackets ("time [s]; force (kN)") or not, and a line of units;
     /// - or one line for each column as exportValuesToTextStream() writes it, with or without "#"; the
     ///   separator in these lines is then that of the file, and a comma beside it a decimal mark;

@@ -26,6 +26,12 @@ void kdDataTable::toUnit(int unitX, int unitY)
     yToUnit(unitY);
 }
 
+void kdDataTable::toUnit(const kdUnitSystem& unitX, const kdUnitSystem& unitY)
+{
+    xToUnit(unitX);
+    yToUnit(unitY);
+}
+
 bool kdDataTable::xToViewUnit()
 {
     return column(0) && column(0)->toViewUnit();

@@ -100,9 +100,9 @@ bool kdDataTable::writeXML(QIODevice& device) const
     return isWritten;
 }
 
-bool kdDataTable::readXMLForJES(QXmlStreamReader& reader)
+bool kdDataTable::readXMLForJES(QXmlStreamReader& reader, const QString& startElement)
 {
-    return readXML(reader, tagNameForJES());
+    return readXML(reader, startElement);
 }
 
 bool kdDataTable::writeXMLForJES(QXmlStreamWriter& writer) const

@@ -179,6 +179,7 @@ private Q_SLOTS:
         QCOMPARE(table.column(1)->values(), (Values{8, 9}));
         QVERIFY(table.replaceColumn(table.column(0), new CountedColumn({6, 7})));
         QVERIFY(table.replaceColumn(0, CountedColumn({4, 5})));
+        QVERIFY(table.replaceColumn(0, new CountedColumn({4, 5}))); // 0 is an index, no null pointer
         QVERIFY(table.replaceDataColumnAt(0, table.column(0)));
         QCOMPARE(table.column(0)->values(), (Values{4, 5}));
         QCOMPARE(CountedColumn::alive, 2);
