@@ -133,7 +133,7 @@ void kdDataColumn::replaceInExtremes(double oldValue)
 void kdDataColumn::generateMinMax() const
 {
     double smallest = m_values.isEmpty() ? 0.0 : largest;
-    double greatest = -smallest;
+    double greatest = m_values.isEmpty() ? 0.0 : -largest; // not -0.0
     for (double value : m_values) {
         smallest = value < smallest ? value : smallest;
         greatest = value > greatest ? value : greatest;

@@ -68,6 +68,8 @@ double kdDataTable::getInterpolDoubleValue(const kdDataColumn& xColumn, const kd
 {
     if (xColumn.size() != yColumn.size())
         return 0.0;
+    if (xColumn.size() < 2)
+        return yColumn.value(0); // without asking for the order, which would be kept
     const interpolation::Nodes nodes{xColumn.values().constData(), yColumn.values().constData(),
                                      xColumn.size(), xColumn.getMonotonicity(), !xColumn.hasNaN()};
     return interpolation::lookUp(nodes, x, rule == ZeroOutside);
