@@ -80,15 +80,16 @@ bool parseDescription(const QString& text, Description& result)
         && readUnitIndex(result.fields.at(1), dimension, result.column.unit);
 }
 
-// "1.234,5" and "1e999" are mistakes in a value rather than names.
+// "1.234,5", "1 000" and "1e999" are mistakes in a value rather than names; "E1" is a name.
 bool isNumberOrNearly(QStringView field, bool decimalComma)
 {
     double value = 0.0;
     if (nNumberText::readTyped(field, value, decimalComma))
         return true;
-    return std::any_of(field.begin(), field.end(), [](QChar c) { return c.isDigit(); })
-        && std::all_of(field.begin(), field.end(),
-                       [](QChar c) { return c.isDigit() || QStringView(u"+-.,eEdD").contains(c); });
+    return !field.isEmpty() && !field.first().isLetter()
+        && std::any_of(field.begin(), field.end(), [](QChar c) { return c.isDigit(); })
+        && std::none_of(field.begin(), field.end(),
+                        [](QChar c) { return c.isLetter() && !QStringView(u"eEdD").contains(c); });
 }
 
 } // namespace
@@ -99,10 +100,9 @@ void MeasuredTextReader::read()
 {
     QString line;
     while (m_stream.readLineInto(&line)) {
-        ++m_line;
-        if (m_line == 1)
+        if (m_line == 0)
             dropByteOrderMark(line);
-        readLine(line);
+        readLines(line);
     }
     if (m_hasData || m_described || m_textRows.isEmpty())
         return;
@@ -115,9 +115,20 @@ double MeasuredTextReader::value(int row, int column) const
     return m_values[std::size_t(row) * std::size_t(columns()) + std::size_t(column)];
 }
 
+// The stream knows only lines that end with a line feed.
+void MeasuredTextReader::readLines(const QString& text)
+{
+    int start = 0;
+    for (int end = 0; end >= 0; start = end + 1) {
+        end = text.indexOf(QLatin1Char('\r'), start);
+        ++m_line;
+        readLine(start == 0 && end < 0 ? text : text.mid(start, end - start));
+    }
+}
+
 void MeasuredTextReader::readLine(const QString& line)
 {
-    if (isEmptyLine(line))
+    if (isEmptyLine(line) || (m_line == 1 && line.startsWith(QLatin1String("sep="))))
         return;
     if (!m_hasData && (readDescription(line) || readUnitRow(line)))
         return;

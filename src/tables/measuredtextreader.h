@@ -39,6 +39,7 @@ private:
         int line;
     };
 
+    void readLines(const QString& text);
     void readLine(const QString& line);
     bool readDescription(const QString& line);
     bool readUnitRow(const QString& line);

@@ -85,10 +85,11 @@ private Q_SLOTS:
         QTest::newRow("tabs") << "1.5\t3\n-2\t4e3\n" << two;
         QTest::newRow("commas") << "1.5,3\n-2,4e3\n" << two;
         QTest::newRow("blanks") << "  1.5   3\n-2 4e3  \n" << two;
-        QTest::newRow("blanks beside separators") << " 1.5 ; 3 \n -2 ; 4e3 \n" << two;
         QTest::newRow("decimal comma, semicolons") << "1,5;3,0\n-2;4e3\n" << two;
         QTest::newRow("decimal comma, tabs") << "1,5\t3\n-2,0\t4,0e3\n" << two;
         QTest::newRow("CRLF, no end of line") << "1.5;3\r\n-2;4e3" << two;
+        QTest::newRow("CR alone") << "\r1.5;3\r-2;4e3\r" << two;
+        QTest::newRow("separator named above") << "\ufeffsep=;\n1,5;3\n-2;4e3\n" << two;
         QTest::newRow("byte order mark") << "\ufeff1.5;3\n-2;4e3" << two;
         QTest::newRow("byte order mark read as Latin-1") << "\u00ef\u00bb\u00bf1.5;3\n-2;4e3" << two;
         QTest::newRow("separators at the end") << "1.5;3;\n-2;4e3;;\n" << two;
@@ -135,6 +136,7 @@ private Q_SLOTS:
             << "c (mean) (J/(kg K)),t\n1,2" << texts({"c (mean):J/(kg·K)", "t:-"});
         QTest::newRow("unknown units")
             << "speed [furlong];x (mean)\n1;2" << texts({"speed [furlong]:-", "x (mean):-"});
+        QTest::newRow("letters of exponents") << "E1;D2\n1;2" << texts({"E1:-", "D2:-"});
         QTest::newRow("words between blanks") << "a b c\n1 2 3" << texts({"a:-", "b:-", "c:-"});
         QTest::newRow("table over two variables")
             << "strain \\ T;20;200\n0;1;2" << texts({"strain \\ T:-", "20:-", "200:-"});
@@ -178,6 +180,8 @@ private Q_SLOTS:
                                       << "row 1 does not describe a column by dimension, unit and name";
         QTest::newRow("decimal comma and digit groups")
             << "1.234,5;2" << 1 << 1 << "row 1, column 1: '1.234,5' is not a number";
+        QTest::newRow("digit groups, no header")
+            << "1 000;2\n500;3" << 1 << 1 << "row 1, column 1: '1 000' is not a number";
         QTest::newRow("too large") << "1e999" << 1 << 1 << "row 1, column 1: '1e999' is not a number";
         QTest::newRow("hexadecimal") << "1\n0x10" << 2 << 1 << "row 2, column 1: '0x10' is not a number";
         QTest::newRow("only a header") << "\na;b\n" << 2 << 1 << "row 2: no values follow the header";
