@@ -25,7 +25,15 @@ T fromVariant(const QVariant& value)
 template <>
 QList<QString> fromVariant<QList<QString>>(const QVariant& value)
 {
+    if (value.userType() == qMetaTypeId<QList<QString>>())
+        return value.value<QList<QString>>(); // a type of its own, which toStringList() does not know
     return value.toStringList();
+}
+
+template <>
+QStringList fromVariant<QStringList>(const QVariant& value)
+{
+    return fromVariant<QList<QString>>(value);
 }
 
 template <typename T>

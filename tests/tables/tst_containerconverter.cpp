@@ -71,6 +71,19 @@ private Q_SLOTS:
         QCOMPARE(ints.value(1) + doubles.value(1), 2.0);
     }
 
+    void listsOfTextsComeInSeveralTypes()
+    {
+        const QList<QString> texts{QStringLiteral("a"), QStringLiteral("b")};
+        QList<QList<QString>> lists;
+        QList<QStringList> stringLists;
+        const QList<QVariant> source{QVariant::fromValue(texts), QVariant(QStringList(texts)),
+                                     QVariant(QVariantList{texts.at(0), texts.at(1)})};
+        kdContainerConverter::fromQVariant(source, lists);
+        kdContainerConverter::fromQVariant(source, stringLists);
+        QCOMPARE(lists, (QList<QList<QString>>{texts, texts, texts}));
+        QCOMPARE(stringLists, (QList<QStringList>{texts, texts, texts}));
+    }
+
     void listsOfTextsPassThroughSettings()
     {
         const QList<QList<QString>> lists{{QStringLiteral("a, b"), QStringLiteral("c")},
