@@ -1,5 +1,5 @@
-#include "expecteddeck.h"
 #include "kdqtest.h"
+#include "writtencard.h"
 
 #include <kdQCore/coFeDataTableCard>
 #include <kdQCore/kdDataColumn>
@@ -57,9 +57,9 @@ private Q_SLOTS:
     void pointsInSI()
     {
         coFeDataTableCard card = emptyCard();
-        QVERIFY(!write(card, layouts[0]).result);
+        QVERIFY(!write(card, fixedStandard).result);
         QVERIFY2(card.setTable(yieldStress), qPrintable(card.errorText()));
-        const Written written = write(card, layouts[0]);
+        const Written written = write(card, fixedStandard);
         QCOMPARE(written.deck,
                  QByteArray("tablesteel\n"
                             "    1    1    0    0    2\n"
@@ -74,7 +74,7 @@ private Q_SLOTS:
         coFeDataTableCard card = emptyCard();
         const Variable temperature(type(5), {20, 200, 300});
         QVERIFY2(card.setGrid(flowCurves, temperature, unit("-"), unit("MPa")), qPrintable(card.errorText()));
-        const Written written = write(card, layouts[2]);
+        const Written written = write(card, freeStandard);
         QCOMPARE(written.deck,
                  QByteArray("table,steel\n"
                             "1,2,0,0,0,\n"
@@ -87,55 +87,63 @@ private Q_SLOTS:
         QVERIFY(written.result);
         QVERIFY(card.setTable(yieldStress));
         QCOMPARE(card.nIndependentVars(), 1);
-        QVERIFY(write(card, layouts[2]).result);
+        QVERIFY(write(card, freeStandard).result);
     }
 
     void copiesOwnTheirValues()
     {
         auto original = std::make_unique<coFeDataTableCard>(emptyCard());
         original->setTable(yieldStress);
-        const QByteArray deck = write(*original, layouts[0]).deck;
+        const QByteArray deck = write(*original, fixedStandard).deck;
         const coFeDataTableCard copy(*original);
         coFeDataTableCard assigned = emptyCard();
         assigned = *original;
         assigned = *&assigned;
         original.reset();
-        QCOMPARE(write(copy, layouts[0]).deck, deck);
-        QCOMPARE(write(assigned, layouts[0]).deck, deck);
+        QCOMPARE(write(copy, fixedStandard).deck, deck);
+        QCOMPARE(write(assigned, fixedStandard).deck, deck);
     }
 
     void tablesThatDoNotFit_data()
     {
         QTest::addColumn<kdDataTable>("table");
+        QTest::addColumn<Values>("temperatures"); // none: no grid
         QTest::addColumn<QString>("reason");
-        const auto row = [](const char* name, const kdDataTable& table, const char* reason) {
-            QTest::newRow(name) << table
-                                << QStringLiteral("Table 'steel' does not fit the card: ")
-                    + QLatin1String(reason);
+        const auto row = [](const char* name, const kdDataTable& table, const Values& temperatures,
+                            const char* reason) {
+            QTest::newRow(name) << table << temperatures << QString::fromLatin1(reason);
         };
-        row("three columns", table({column("s", {1}), column("K", {1}), column("K", {1})}),
-            "it is no XY table (an X and a Y column); number of columns: 3.");
-        row("no columns", table({}), "it is no XY table (an X and a Y column); number of columns: 0.");
-        row("empty", table({column("s", {}), column("K", {})}), "it has no rows.");
-        row("descending", table({column("min", {0, 3, 2}), column("K", {1, 2, 3})}),
+        row("no columns", table({}), {}, "it is no XY table (an X and a Y column); number of columns: 0.");
+        row("empty", table({column("s", {}), column("K", {})}), {}, "it has no rows.");
+        row("descending", table({column("min", {0, 3, 2}), column("K", {1, 2, 3})}), {},
             "x must not descend, but 120 in row 3 follows 180.");
-        row("NaN in x", table({column("s", {0, qQNaN()}), column("K", {1, 2})}),
+        row("NaN in x", table({column("s", {0, qQNaN()}), column("K", {1, 2})}), {},
             "value 2 of column 1 is no finite number.");
-        row("infinite y", table({column("s", {0, 1}), column("K", {qInf(), 2})}),
+        row("overflow in SI", table({column("s", {0}), column("GPa", {1e300})}), {},
             "value 1 of column 2 is no finite number.");
-        row("overflow in SI", table({column("s", {0}), column("GPa", {1e300})}),
-            "value 1 of column 2 is no finite number.");
+        row("too few values", flowCurves, {20},
+            "it has 4 columns, but the grid needs one for x and one for each of 1 values of the second "
+            "variable.");
+        row("equal x", table({column("-", {1, 1}), column("MPa", {0, 0})}), {20},
+            "x must ascend, but value 2 is 1 after 1.");
+        row("equal second", flowCurves, {20, 20, 30},
+            "the second variable must ascend, but value 2 is 20 after 20.");
+        row("NaN second", flowCurves, {qQNaN(), 20, 30},
+            "value 1 of the second variable is no finite number.");
     }
 
     void tablesThatDoNotFit()
     {
         QFETCH(kdDataTable, table);
+        QFETCH(Values, temperatures);
+        QFETCH(QString, reason);
         coFeDataTableCard card = emptyCard();
         QVERIFY(card.setTable(yieldStress));
-        const QByteArray before = write(card, layouts[1]).deck;
-        QVERIFY(!card.setTable(table));
-        QTEST(card.errorText(), "reason");
-        QCOMPARE(write(card, layouts[1]).deck, before);
+        const QByteArray before = write(card, fixedExtended).deck;
+        QVERIFY(!(temperatures.isEmpty() ? card.setTable(table)
+                                         : card.setGrid(table, Variable(type(5), temperatures))));
+        QCOMPARE(card.errorText(), QStringLiteral("Table 'steel' does not fit the card: ") + reason);
+        QCOMPARE(write(card, fixedExtended).deck, before);
         QVERIFY(card.setTable(yieldStress));
         QCOMPARE(card.errorText(), QString());
     }
@@ -151,40 +159,6 @@ private Q_SLOTS:
         unitless.setUnitIndex(-1);
         QVERIFY(card.setTable(table({unitless, unitless})));
         QCOMPARE(*card.values(), Values{7});
-    }
-
-    void gridsThatDoNotFit_data()
-    {
-        QTest::addColumn<Values>("temperatures");
-        QTest::addColumn<QVector<double>>("strains");
-        QTest::addColumn<QString>("reason");
-        const auto row = [](const char* name, const Values& temperatures, const QVector<double>& strains,
-                            const char* reason) {
-            QTest::newRow(name) << temperatures << strains
-                                << QStringLiteral("Table 'steel' does not fit the card: ")
-                    + QLatin1String(reason);
-        };
-        row("too few", {20}, {0, 1},
-            "it has 3 columns, but the grid needs one for x and one for each of 1 values of the second "
-            "variable.");
-        row("equal x", {20, 30}, {1, 1}, "x must ascend, but value 2 is 1 after 1.");
-        row("descending x", {20, 30}, {2, 1}, "x must ascend, but value 2 is 1 after 2.");
-        row("NaN x", {20, 30}, {qQNaN(), 1}, "value 1 of column 1 is no finite number.");
-        row("equal second", {20, 20}, {0, 1}, "the second variable must ascend, but value 2 is 20 after 20.");
-        row("NaN second", {qQNaN(), 20}, {0, 1}, "value 1 of the second variable is no finite number.");
-        row("no rows", {20, 30}, {}, "it has no rows.");
-    }
-
-    void gridsThatDoNotFit()
-    {
-        QFETCH(Values, temperatures);
-        QFETCH(QVector<double>, strains);
-        const kdDataTable grid = table({column("-", strains), column("MPa", QVector<double>(strains.size())),
-                                        column("MPa", QVector<double>(strains.size()))});
-        coFeDataTableCard card = emptyCard();
-        QVERIFY(!card.setGrid(grid, Variable(type(5), temperatures)));
-        QTEST(card.errorText(), "reason");
-        QCOMPARE(card.nIndependentVars(), 1);
     }
 };
 

@@ -7,55 +7,11 @@ class TestDatReal : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void localeHasADecimalComma()
-    {
-        char text[16];
-        std::snprintf(text, sizeof text, "%.1f", 0.5);
-        if (text[1] != ',')
-            QSKIP("No locale with a decimal comma is at hand.");
-        CFEDatLineWriter writer;
-        char buffer[CFEDatLineWriter::doubleBufferSize];
-        writer.formatDouble(0.5, false, buffer);
-        QCOMPARE(buffer, "5.00000000000000E-1");
-    }
-
     void hardValues()
     {
-        const double largest = std::numeric_limits<double>::max();
-        const double least = std::numeric_limits<double>::denorm_min();
-        const double normal = std::numeric_limits<double>::min();
         // The first two lie nearest to the thresholds of the rounding.
-        QList<double> values = {2.873419488446010e-67,
-                                9.421180134141965e-39,
-                                0.0,
-                                1.0,
-                                0.1,
-                                0.3,
-                                2.5,
-                                0.5,
-                                1e15,
-                                1e16,
-                                1e17,
-                                1e21,
-                                1e22,
-                                1e23,
-                                9.5,
-                                9.9999995,
-                                99999.95,
-                                9.99999999999999999e22,
-                                123456789012345678.0,
-                                4503599627370497.5,
-                                9007199254740993.0,
-                                1e100,
-                                1e-99,
-                                1e-100,
-                                1e99,
-                                largest,
-                                least,
-                                normal,
-                                5e-324,
-                                2.2250738585072011e-308,
-                                1.7976931348623155e308};
+        QList<double> values = {2.873419488446010e-67, 9.421180134141965e-39, 0.0, 0.3, 99999.95};
+        values << 123456789012345678.0 << 4503599627370497.5 << std::numeric_limits<double>::max();
         for (int exponent = -1074; exponent < 1024; ++exponent)
             values.append(std::ldexp(1.0, exponent));
         for (int exponent = -323; exponent < 309; ++exponent)
