@@ -176,31 +176,21 @@ private Q_SLOTS:
             QTest::newRow(name) << QString::fromUtf8(line) << succeeds << split(done) << split(errors);
         };
         row("empty", "", true, "", "");
-        row("blank", " \t", true, "", "");
-        row("semicolons only", ";; ;", true, "", "");
+        row("semicolons only", " ;; ;", true, "", "");
         row("one command", "set a", true, "do a|executed a|undo on", "reported by a");
-        row("no parameters", "set", true, "do |executed |undo on", "reported by ");
         row("parameters keep their blanks", "set  a  b\tc ", true, "do a  b\tc|executed a  b\tc|undo on",
             "reported by a  b\tc");
-        row("two commands", "set a;set b", true, "do a|executed a|undo on|do b|executed b",
-            "reported by a|reported by b");
         row("blanks around", " ; set a ;\n set b; ", true, "do a|executed a|undo on|do b|executed b",
             "reported by a|reported by b");
         row("stops at the first failure", "set a;set fail;set b", false, "do a|executed a|undo on|do fail",
             "reported by a|reported by fail");
-        row("unknown", "paint", false, "", "Unknown command: >paint<!");
         row("unknown with parameters", "paint it  %1 %2", false, "", "Unknown command: >paint it  %1 %2<!");
-        row("unknown stops", "paint;set a", false, "", "Unknown command: >paint<!");
-        row("names are case-sensitive", "Set a", false, "", "Unknown command: >Set a<!");
-        row("a command without undo", "set fixed", true, "do fixed|executed fixed", "reported by fixed");
         row("it closes the way back", "set a;set fixed", true,
             "do a|executed a|undo on|do fixed|executed fixed|undo off", "reported by a|reported by fixed");
         row("nested", "set nested", true, "do nested|do x|executed x|undo on|do y|executed y|executed nested",
             "reported by nested|reported by x|reported by y");
         row("exception", "set throw;set a", false, "do throw",
             "reported by throw|The command 'set throw' failed: out of steam");
-        row("odd exception", "set odd", false, "do odd",
-            "reported by odd|The command 'set odd' failed for an unknown reason.");
         row("within itself", "set again", false, "do again", "reported by again");
         row("removes the dispatcher", "set quit; set a", false, "do quit", "reported by quit");
     }
@@ -233,9 +223,6 @@ private Q_SLOTS:
                             bool redoLeft) {
             QTest::newRow(name) << split(steps) << split(done) << undoLeft << redoLeft;
         };
-        row("nothing", "u|r", "", false, false);
-        row("undo of the last of two", "set a;set b|u",
-            "do a|executed a|undo on|do b|executed b|undo b|reverted b|undo on|redo on", true, true);
         row("there and back twice", "set a|u|r|u|r",
             "do a|executed a|undo on|undo a|reverted a|undo off|redo on|do a|executed a|undo on|"
             "undo a|reverted a|undo off|redo on|do a|executed a|undo on",
@@ -280,16 +267,6 @@ private Q_SLOTS:
         QCOMPARE(executed.size(), 2);
         QCOMPARE(executed.at(0).at(0).value<QSharedPointer<kdCommand>>(),
                  executed.at(1).at(0).value<QSharedPointer<kdCommand>>());
-    }
-
-    void aRedoThatFailsIsDropped()
-    {
-        const QSharedPointer<kdCommand> command = createSet(QStringLiteral("a"));
-        QVERIFY(dispatcher().execute(command));
-        QVERIFY(dispatcher().slotUndo());
-        QVERIFY(command->slotExecute()); // behind the dispatcher's back: it is not ready any more
-        QVERIFY(!dispatcher().slotRedo());
-        QVERIFY(!dispatcher().redoAvailable());
     }
 
     void undoingByHandKeepsTheListsConsistent()
@@ -340,15 +317,6 @@ private Q_SLOTS:
         QVERIFY(command.slotUndo());
         QCOMPARE(command.status(), kdCommand::Ready);
 
-        SetCommand stuck(QStringLiteral("stuck"));
-        QVERIFY(stuck.slotExecute());
-        QVERIFY(!stuck.slotUndo());
-        QCOMPARE(stuck.status(), kdCommand::Executed);
-
-        SetCommand failing(QStringLiteral("fail"));
-        QVERIFY(!failing.slotExecute());
-        QCOMPARE(failing.status(), kdCommand::Ready);
-
         kdCommand plain(QStringLiteral("a"));
         QVERIFY(!plain.slotExecute());
         QVERIFY(!plain.undo());
@@ -371,12 +339,6 @@ private Q_SLOTS:
         QVERIFY(dispatcher().slotUndo());
         QVERIFY(command->slotExecute());
         QCOMPARE(m_errors.size(), 2);
-
-        const QSharedPointer<kdCommand> other = createSet(QStringLiteral("b"));
-        QVERIFY(dispatcher().execute(other));
-        QVERIFY(other->slotUndo());
-        QVERIFY(other->slotExecute());
-        QCOMPARE(m_errors.size(), 3);
     }
 
     void listNamesEveryCommandOnce()
@@ -396,11 +358,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("code");
         QTest::addColumn<int>("language");
-        QTest::newRow("de") << "de" << int(kdQLanguage::German);
         QTest::newRow("EN") << "EN" << int(kdQLanguage::English);
         QTest::newRow("de_AT") << "de_AT" << int(kdQLanguage::German);
-        QTest::newRow("en-GB") << "en-GB" << int(kdQLanguage::English);
-        QTest::newRow("xx") << "xx" << -1;
         QTest::newRow("deu") << "deu" << -1;
         QTest::newRow("empty") << "" << -1;
     }
@@ -437,9 +396,6 @@ private Q_SLOTS:
         QCOMPARE(listHelp(), english);
         QVERIFY(dispatcher().slotRedo());
         QCOMPARE(listHelp(), german);
-        kdCommandDispatcher::removeInstance();
-        kdCommandDispatcher::createInstance();
-        QCOMPARE(listHelp(), english);
     }
 
     void languagesThatAreNotThere()

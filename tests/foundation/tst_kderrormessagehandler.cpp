@@ -45,23 +45,6 @@ private Q_SLOTS:
         collector.addErrorMessage(QStringLiteral("new"));
         QCOMPARE(collector.getErrorString(QString()), QStringLiteral("new"));
     }
-
-    void copiesHaveTheirOwnList()
-    {
-        const QStringList one{QStringLiteral("A")};
-        Collector original(one);
-        Collector copy(original);
-        Collector assigned({QStringLiteral("overwritten")});
-        assigned = original;
-        const Collector& same = original;
-        original = same;
-        original.addErrorMessage(QStringLiteral("B"));
-        QCOMPARE(copy.getErrorMessages(), one);
-        QCOMPARE(assigned.getErrorMessages(), one);
-        QCOMPARE(original.errorCount(), 2);
-        assigned = Collector();
-        QVERIFY(!assigned.hasErrors());
-    }
 };
 
 KDQ_TEST_MAIN(TestKdErrorMessageHandler)

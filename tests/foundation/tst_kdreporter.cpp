@@ -61,26 +61,19 @@ private Q_SLOTS:
                                 << QString::fromLatin1(events).split(QLatin1Char(','), Qt::SkipEmptyParts);
         };
         row("second start is ignored", "s:a,+5000,s:b,f:c", "start a,finish c");
-        row("just early", "s:a,+999,p:0.3", "start a");
-        row("just in time", "s:a,+1000,p:0.3", "start a,progress 0.3");
         row("a signal starts the interval anew", "s:a,+1000,p:0.3,+999,p:0.4,+1,p:0.5",
             "start a,progress 0.3,progress 0.5");
         row("a dropped call does not", "s:a,+600,p:0.3,+400,p:0.4", "start a,progress 0.4");
-        row("the end always comes through", "s:a,+1,p:1", "start a,progress 1");
-        row("beyond the end", "s:a,p:1.5", "start a,progress 1.5");
         row("one end only", "s:a,p:1,p:1", "start a,progress 1");
         row("no end without an operation", "p:1", "");
-        row("no end after finish", "s:a,f:b,p:1", "start a,finish b");
         row("progress after the end announces anew", "s:a,p:1,+1000,p:0.4,p:1",
             "start a,progress 1,start a,progress 0.4,progress 1");
-        row("early progress after the end", "s:a,p:1,+999,p:0.4", "start a,progress 1");
         row("progress after finish announces anew", "s:a,f:b,+1000,p:0.4",
             "start a,finish b,start a,progress 0.4");
         row("finish starts the interval anew", "s:a,+900,f:b,+999,p:0.4", "start a,finish b");
         row("messages do not touch the interval", "s:a,+600,m:x,e:y,+400,p:0.5",
             "start a,message 2 x,error y,progress 0.5");
         row("no number", "s:a,+5000,p:nan,p:0.1", "start a,progress 0.1");
-        row("negative", "s:a,+1000,p:-1", "start a,progress -1");
     }
 
     void throttle()
@@ -133,22 +126,6 @@ private Q_SLOTS:
                               QStringLiteral("2 error b")}));
     }
 
-    void anEndSeenBySlotsIsStillWithinTheOperation()
-    {
-        kdReporter reporter;
-        const Producer producer(reporter);
-        QStringList seen;
-        record(reporter, seen);
-        connect(&reporter, &kdReporter::signalProgress,
-                [&] { producer.startOperation(QStringLiteral("b")); });
-        producer.startOperation(QStringLiteral("a"));
-        producer.progress(1.0);
-        producer.startOperation(QStringLiteral("c"));
-        QCOMPARE(seen,
-                 QStringList(
-                     {QStringLiteral("start a"), QStringLiteral("progress 1"), QStringLiteral("start c")}));
-    }
-
     void receiversKeepTheirOrderAndOccurOnce()
     {
         kdReporter a;
@@ -162,16 +139,12 @@ private Q_SLOTS:
         second.startReportingTo(first);
         QCOMPARE(second.messageReceivers(), QList<kdReporter*>({&c, &b, &a}));
 
-        kdReporter later;
-        first.startReportingTo(later);
-        QCOMPARE(second.messageReceivers().size(), 3);
-
         second.startReportingTo(second);
         QCOMPARE(second.messageReceivers(), QList<kdReporter*>({&c, &b, &a}));
 
         second.stopReportingTo(first);
         QCOMPARE(second.messageReceivers(), QList<kdReporter*>{&c});
-        QCOMPARE(first.messageReceivers(), QList<kdReporter*>({&a, &b, &later}));
+        QCOMPARE(first.messageReceivers(), QList<kdReporter*>({&a, &b}));
         first.stopReportingTo(first);
         QVERIFY(first.messageReceivers().isEmpty());
     }
@@ -207,15 +180,10 @@ private Q_SLOTS:
         const QString b = QStringLiteral("b error x");
         const QString c = QStringLiteral("c error x");
         QTest::newRow("receiver dies in its own slot") << "delete b" << QStringList({a, b, c});
-        QTest::newRow("earlier receiver dies") << "delete a" << QStringList({a, b, c});
         QTest::newRow("later receiver dies") << "delete c" << QStringList({a, b});
-        QTest::newRow("all receivers die") << "delete all" << QStringList({a, b});
-        QTest::newRow("producer dies") << "delete producer" << QStringList({a, b});
-        QTest::newRow("producer and its receivers die") << "delete world" << QStringList({a, b});
+        QTest::newRow("producer and its receivers die") << "world" << QStringList({a, b});
         QTest::newRow("later receiver leaves") << "detach c" << QStringList({a, b});
-        QTest::newRow("later receiver leaves and returns") << "reattach c" << QStringList({a, b, c});
         QTest::newRow("a new one comes") << "attach d" << QStringList({a, b, c});
-        QTest::newRow("producer reports to itself") << "self" << QStringList({a, b, c});
     }
 
     void changesDuringADelivery()
@@ -233,36 +201,23 @@ private Q_SLOTS:
                 producer->startReportingTo(*reporters[key]);
         }
         const QString operand = change.section(QLatin1Char(' '), 1);
-        const auto deleteReporters = [&] { qDeleteAll(reporters.values()); };
         const QMap<QString, std::function<void()>> actions{
             {QStringLiteral("delete"), [&] { delete reporters.value(operand); }},
             {QStringLiteral("detach"), [&] { producer->stopReportingTo(*reporters.value(operand)); }},
             {QStringLiteral("attach"), [&] { producer->startReportingTo(*reporters.value(operand)); }},
-            {QStringLiteral("reattach"),
-             [&] {
-                 producer->stopReportingTo(*reporters.value(operand));
-                 producer->startReportingTo(*reporters.value(operand));
-             }},
-            {QStringLiteral("self"),
-             [&] {
-                 Producer& self = *producer;
-                 self.startReportingTo(self);
-             }},
-            {QStringLiteral("delete all"), deleteReporters},
-            {QStringLiteral("delete producer"), [&] { producer.reset(); }},
-            {QStringLiteral("delete world"),
+            {QStringLiteral("world"),
              [&] {
                  producer.reset();
-                 deleteReporters();
+                 qDeleteAll(reporters.values());
              }},
         };
-        const auto action = actions.value(change, actions.value(change.section(QLatin1Char(' '), 0, 0)));
+        const auto action = actions.value(change.section(QLatin1Char(' '), 0, 0));
         connect(reporters.value(QStringLiteral("b")), &kdReporter::signalErrorMessage,
                 [action] { action(); });
 
         producer->errorMessage(QStringLiteral("x"));
         QCOMPARE(seen, events);
-        deleteReporters();
+        qDeleteAll(reporters.values());
         if (producer)
             QVERIFY(producer->messageReceivers().isEmpty());
     }
@@ -283,8 +238,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("maximumLevel");
         QTest::addColumn<QByteArray>("messages");
-        QTest::newRow("none") << -1 << QByteArray();
-        QTest::newRow("level 0") << 0 << QByteArray("level 0\n");
         QTest::newRow("levels 0 and 1") << 1 << QByteArray("level 0\nlevel 1\n");
     }
 
@@ -303,20 +256,6 @@ private Q_SLOTS:
                      + messages + "Finished: done\n");
         QCOMPARE(process.readAllStandardError().replace("\r\n", "\n"),
                  QString::fromUtf8("Error: zu heiß\n").toLocal8Bit());
-    }
-
-    void streamReporterLeavesTheThrottleAlone()
-    {
-        kdReporter window;
-        Producer producer;
-        streamReporter console(-1);
-        console.slotErrorMessage(QStringLiteral("expected on standard error"));
-        producer.startReportingTo(console);
-        producer.startReportingTo(window);
-        QStringList seen;
-        record(window, seen);
-        producer.startOperation(QStringLiteral("a"));
-        QCOMPARE(seen, QStringList{QStringLiteral("start a")});
     }
 };
 

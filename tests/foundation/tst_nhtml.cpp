@@ -15,27 +15,15 @@ private Q_SLOTS:
             "",
             "  two  blanks\n\nand lines\t",
             "a < b and c > d",
-            "a<b",
-            "if x <y",
-            "1<2>0",
             "a & b",
             "AT&T; &bogus; &#; &#x; &#12a;",
             "?a=1&copy=2&lt",
             "copy <source> <target>",
             "<joe@example.org>",
-            "<<<>>>",
-            "</",
-            "<",
             "<!",
-            "&",
-            "&#99999",
-            "</>",
-            "< b>",
             "<!-- open",
             "vector<vector<int>>",
-            "<1>",
             "100%1 Gr\xc3\xb6\xc3\x9f\x65",
-            "<b",
             "<b class=\"",
         };
         for (const char* text : texts)
@@ -57,38 +45,20 @@ private Q_SLOTS:
         };
         row("inline", "File <b>x</b><i>y</i> <A HREF='a>b'>link</A>", "File xy link");
         row("line break", "a<br>b<BR/>c<br />d", "a\nb\nc\nd");
-        row("two line breaks", "a<br><br>b", "a\n\nb");
-        row("paragraphs", "<p>a</p>\n<p>b</p>\n", "a\nb");
         row("unclosed paragraphs", "<p>a<p>b", "a\nb");
         row("break at the end of a block", "<p>a<br></p><p>b", "a\nb");
         row("headings and divisions", "<h1>T</h1><div>a<div>b</div></div>c", "T\na\nb\nc");
         row("bullets", "<ul><li>a</li><li>b</li></ul>c", "- a\n- b\nc");
         row("numbers", "<ol><li>a<li>b<ul><li>c</ul><li>d</ol>", "1. a\n2. b\n- c\n3. d");
-        row("paragraph in an item", "<ul><li> <p> a </p></li></ul>", "- a");
-        row("empty item", "<ul><li></li><li>b</li></ul>", "- b");
         row("table", "<table><tr><th>a</th><th>b</th></tr>\n<tr><td>1</td> <td>2</td></tr></table>",
             "a\tb\n1\t2");
         row("white space folds", "<p> a \n\t b  <b> c </b> d </p>", "a b c d");
         row("preformatted", "x<pre>\n a  b\n\n  c</pre> y", "x\n a  b\n\n  c\ny");
-        row("carriage returns", "<pre>a\r\nb</pre>\r\nc", "a\nb\nc");
         row("comment", "a<!-- <b> > -- -->b<!---->c<!-->d", "abcd");
-        row("document type and instructions", "<?xml version='1.0'?><!DOCTYPE html><html>a</html>", "a");
         row("head", "<html><head><title>t</title><style>p{}</style></head><body>a</body></html>", "a");
         row("script", "a<script>if (a<b) \"</b>\" </scripted></script>b", "ab");
-        row("empty script", "a<script></script>b", "ab");
-        row("unclosed script", "a<STYLE>b <p>c", "a");
-        row("unclosed head", "<head><title>a<p>b", "a\nb");
-        row("greater in a value", "a<p title=\"x > y\">b", "a\nb");
-        row("quote in text", "<p>5\" pipe isn't</p> a", "5\" pipe isn't\na");
         row("unclosed quote", "<a href=\"x>link</a> on", "link on");
         row("unknown but closed", "<kd:note x='1'>a</kd:note> <unit/>b", "a b");
-        row("rare tag with a value", "<source src='x'>a", "a");
-        row("placeholder beside markup", "<b>copy</b> <file>", "copy <file>");
-        row("less than beside markup", "<b>a</b> < b <i", "a < b <i");
-        row("closing tags only", "</b>a</p>b</foo></ul></pre>", "a\nb");
-        row("spaces before the end", "<b >a</b >", "a");
-        row("entities", "&lt;b&gt; &amp;amp; &quot;&apos;", "<b> &amp; \"'");
-        row("entities keep the white space", "a  &auml;\n&Auml;&szlig;  ", "a  \xc3\xa4\n\xc3\x84\xc3\x9f  ");
         row("numbers as entities", "&#65;&#x42;&#X63;&#8364;&#128;&#x1F600;",
             "ABc\xe2\x82\xac\xe2\x82\xac\xf0\x9f\x98\x80");
         row("numbers that are no characters", "&#0;&#xD800;&#x110000;&#99999999999999999999;",
@@ -126,23 +96,17 @@ private Q_SLOTS:
     void contrivedTextTakesLinearTime_data()
     {
         QTest::addColumn<QString>("unit");
-        QTest::addColumn<QString>("end");
-        const char* const units[] = {"<",   "<a ",       "</",      "</a",      "<!--",
-                                     "<!a", "<a =\"'='", "<title>", "<ol><li>", "<pre>",
-                                     "&#1", "&a",        "<td>",    "<br>",     "<script></scripted>",
-                                     "<x",  "<a b='"};
-        for (const char* unit : units) {
-            QTest::addRow("%s", unit) << QString::fromLatin1(unit) << QString();
-            QTest::addRow("%s and an end", unit) << QString::fromLatin1(unit) << QStringLiteral("' <' >-->");
-        }
+        const char* const units[] = {
+            "<a ", "</a", "<!--", "<a =\"'='", "<ol><li>", "&#1", "<script></scripted>"};
+        for (const char* unit : units)
+            QTest::addRow("%s", unit) << QString::fromLatin1(unit);
     }
 
     // Quadratic time would run into the limit of the test.
     void contrivedTextTakesLinearTime()
     {
         QFETCH(QString, unit);
-        QFETCH(QString, end);
-        const QString html = unit.repeated(60000) + end;
+        const QString html = unit.repeated(60000) + QStringLiteral("' <' >-->");
         QVERIFY(toPlainText(html).size() <= html.size() + 16 * 60000);
     }
 };
