@@ -92,106 +92,22 @@ void TestProductTexts::literalTexts_data()
     const auto row = [&number](const QString& text, const char* expected) {
         QTest::addRow("%d %s", ++number, expected) << text << QString::fromUtf8(expected);
     };
-    row(am::productName(), "Kaldoran Additive");
-    row(am::fullVersionAndSuffix(), "2018 (dev)");
-    row(am::amDirName(), "additive");
     row(am::iniFileName(), "kaldoran.additive");
     row(am::versionDependentIniFileName(false), "kaldoran.additive_2018");
     row(am::versionDependentIniFileName(true), "kaldoran.additive_2018.1");
     row(am::exeFileName(false), "Kaldoran Additive");
     row(am::exeFileName(true), "Kaldoran Additive.exe");
-    row(am::databaseDirectoryName(), "MasterLibrary");
-
-    row(welding::productName(), "Kaldoran Welding");
-    row(welding::fullVersionAndSuffix(), "2018 (dev)");
-    row(welding::weldingDirName(), "welding");
-    row(welding::iniFileName(), "kaldoran.welding");
-    row(welding::versionDependentIniFileName(true), "kaldoran.welding_2018.1");
-    row(welding::exeFileName(false), "kaldoran.welding");
-    row(welding::exeFileName(true), "kaldoran.welding.exe");
-    row(welding::databaseDirectoryName(), "Database");
-
-    row(joining::productName(), "Kaldoran Joining Optimizer");
     row(joining::productNameFullVersionAndSuffix(), "Kaldoran Joining Optimizer 2018.1 (dev)");
-    row(joining::joiningDirName(), "joining");
-    row(joining::exeFileName(), "kaldoran.joining.exe");
-    row(joining::iniFileName(), "kaldoran.joining");
     row(joining::settingsFolderName(), "kaldoran.joining_2018.1");
-    row(joining::settingsFileNameInvDbSpr(), "invDbSpr");
-    row(joining::settingsFileNameInvDbCli(), "invDbCli");
-    row(joining::settingsFileNameInvDbRsw(), "invDbRsw");
-    row(joining::settingsFileNameResultViewColumnsSpr(), "resultViewColumnsSpr");
-    row(joining::settingsFileNameResultViewColumnsCli(), "resultViewColumnsCli");
-    row(joining::settingsFileNameResultViewColumnsRsw(), "resultViewColumnsRsw");
     row(joining::settingsFileNameResultThresholdsSpr(QString()), "resultThresholdsSpr");
     row(joining::settingsFileNameResultThresholdsCli(QStringLiteral("%1")), "resultThresholdsCli_%1");
-    row(joining::settingsFileNameResultThresholdsRsw(QStringLiteral("a")), "resultThresholdsRsw_a");
-
-    row(material::productName(), "Kaldoran Material");
-    row(material::productNameForSettings(), "material");
     row(material::productNameAndVersion(), "Kaldoran Material 2018");
-    row(material::fullVersion(), "2018.1");
-    row(material::iniFileName(), "kaldoran.material");
-    row(material::exeFileName(false), "kaldoran.material");
     row(material::exeFileName(true), "kaldoran.material.exe");
-    row(material::fileExtension(), ".xmt");
     row(material::fileExtensionWildcard(), "*.xmt");
-    row(material::xmtVersion11(), "-xmt_11");
-    row(material::xmtVersion12(), "-xmt_12");
-    row(material::newMatDefaultName(), "New_Material");
-    row(material::validationExceptionFileName(), "validation_exceptions.txt");
-    row(QFileInfo(material::intermediateFilePath()).fileName(), "Kaldoran Material Intermediate Files");
-    row(material::callerVersionStartParamFlag(), "-callerVersion");
-    row(material::validateMaterialsStartParam(), "-validateMaterials");
-    row(material::validationReportTargetPathStartParam(), "-reportPath");
-    row(material::addToDatabaseFlag(), "-addToDatabase");
-    row(material::showDatabaseFlag(), "-showDatabase");
-    row(material::openFileFlag(), "-open");
-    row(material::readOnlyFlag(), "-readOnly");
-    row(material::nFilterArgs::commandArg(), "-filters");
-    row(material::nFilterArgs::wildcard(), "*");
-    row(material::nFilterArgs::groupFlag(), "Group");
-    row(material::nFilterArgs::areaFlag(), "Area");
-    row(material::nFilterArgs::pairSeparator(), ":");
-    row(material::nFilterArgs::listSeparator(), ";");
     row(material::nFilterArgs::mkFilterArg(QStringLiteral("Area"), QStringLiteral("%2")), "Area:%2");
-    row(material::nAreaOfApplication::welding(), "Welding");
-    row(material::nAreaOfApplication::powder(), "Powder");
-    row(material::nAreaOfApplication::basePlate(), "Base plate");
-    row(material::toolMaterialFlag(), "Tool material");
-    row(material::Legacy::toolSteelGroup(), "ToolSteel");
-    row(material::Docs::relDamageTutorialPath(), "Chapters/02_10_Damage/Damage");
-
-    row(demos::productName(), "Kaldoran Demos");
-    row(demos::productNameForFilePath(), "kaldoran.demos");
-    row(demos::iniFileName(), "kaldoran.demos");
-    row(demos::productVersion(), "2018");
-    row(demos::productNameAndVersion(), "Kaldoran Demos 2018");
-    row(demos::exeFileName(false), "kaldoran.demos");
-    row(demos::exeFileName(true), "kaldoran.demos.exe");
-    row(demos::startMenuName(), "Demos & Examples");
-    row(demos::demosFileExtension(false), "kddemos");
     row(demos::demosFileExtension(true), ".kddemos");
     row(demos::standardNameFilter().join(QLatin1Char('|')), "*.xml|*.kddemos");
-
-    row(jes::shortProductName(), "jes");
-    row(jes::iniFileSuffix(), ".ini");
-    row(jes::opFolderName(), "_stages");
-    row(jes::projectSettingsFolderName(), "_projectSettings");
-    row(jes::backgroundImageFileName(), "backgroundImage");
-    row(jes::defaultProjectName(), "Project");
-    row(jes::imagesFolderName(), "_images");
-    row(jes::projectFileExtension(), ".jes");
     row(jes::projectFileSelectionFilter(), "jes files (*.jes)");
-
-    row(nKaldoranCommon::versionCheckExeFileName(), "versioncheck.exe");
-    row(nKaldoranCommon::versionInfoFileName(), "versions.xml");
-    row(nKaldoranCommon::weldMonitorName(), "Welding monitor");
-    row(nGlobal::kaldoranRemapName(), "Kaldoran Remap");
-    row(nGlobal::kaldoranMultimeshName(), "Kaldoran Multimesh");
-    row(nGlobal::kaldoranUtilitiesName(), "Kaldoran.utilities");
-    row(nGlobal::kaldoranUtilitiesVersion(), "2018");
-
     // A name with a place marker in it must come through as it is.
     const auto slashed = [](const QString& path) { return QDir::fromNativeSeparators(path); };
     const QString folder = QStringLiteral("f");
@@ -249,11 +165,7 @@ void TestProductTexts::processInfo_data()
     QTest::newRow("none") << 0 << undefined << undefined;
     QTest::newRow("forming") << 1 << "Kaldoran Forming"
                              << "2018";
-    QTest::newRow("welding") << 2 << welding::productName() << welding::productVersion();
-    QTest::newRow("joining") << 3 << joining::productName() << joining::productVersion();
-    QTest::newRow("job editor") << 4 << undefined << undefined;
     QTest::newRow("material") << 5 << material::productName() << material::productVersion();
-    QTest::newRow("additive") << 6 << undefined << undefined;
     QTest::newRow("unheard of") << -77 << undefined << undefined;
 }
 
@@ -281,7 +193,6 @@ void TestProductTexts::pagesAndDocumentsFollowTheLanguage_data()
     QTest::addColumn<int>("commandLanguage"); // -1: no dispatcher
     QTest::addColumn<QString>("code");
     QTest::newRow("German") << int(QLocale::German) << -1 << "de";
-    QTest::newRow("English") << int(QLocale::English) << -1 << "en";
     QTest::newRow("French") << int(QLocale::French) << -1 << "en";
     QTest::newRow("dispatcher") << int(QLocale::German) << int(kdQLanguage::English) << "en";
 }
