@@ -626,6 +626,117 @@ gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war.</
     </message>
 </context>
 <context>
+    <name>coExpressionOrder</name>
+    <message>
+        <source>&apos;%1&apos; cannot be the name of a formula.</source>
+        <translation>„%1“ kann nicht der Name einer Formel sein.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is defined twice.</source>
+        <translation>„%1“ ist zweimal definiert.</translation>
+    </message>
+    <message>
+        <source>The formula of &apos;%1&apos; cannot be read: %2 %3</source>
+        <translation>Die Formel von „%1“ ist nicht lesbar: %2 %3</translation>
+    </message>
+    <message>
+        <source>The formula of &apos;%1&apos; uses &apos;%2&apos;, which is not defined.</source>
+        <translation>Die Formel von „%1“ benutzt „%2“, das nicht definiert ist.</translation>
+    </message>
+    <message>
+        <source>The formulas use each other in a circle: %1.</source>
+        <translation>Die Formeln benutzen einander im Kreis: %1.</translation>
+    </message>
+    <message>
+        <source>The formula of &apos;%1&apos; failed: %2 %3</source>
+        <translation>Die Formel von „%1“ ist gescheitert: %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>coExpressionPrivate</name>
+    <message>
+        <source>Syntax error.</source>
+        <translation>Syntaxfehler.</translation>
+    </message>
+    <message>
+        <source>Undefined variable(s): %1.</source>
+        <translation>Undefinierte Variable(n): %1.</translation>
+    </message>
+    <message>
+        <source>Undefined function(s): %1.</source>
+        <translation>Undefinierte Funktion(en): %1.</translation>
+    </message>
+    <message>
+        <source>Evaluation error.</source>
+        <translation>Fehler bei der Auswertung.</translation>
+    </message>
+    <message>
+        <source>Division by zero.</source>
+        <translation>Division durch null.</translation>
+    </message>
+    <message>
+        <source>Domain error.</source>
+        <translation>Fehler im Definitionsbereich.</translation>
+    </message>
+    <message>
+        <source>Range error.</source>
+        <translation>Fehler im Wertebereich.</translation>
+    </message>
+    <message>
+        <source>In expression:
+ %1
+which evaluates to:
+ %2</source>
+        <translation>Im Ausdruck:
+ %1
+der ausgewertet lautet:
+ %2</translation>
+    </message>
+    <message>
+        <source>a number, a name, a function, a sign, &quot;not&quot;, &quot;if&quot;</source>
+        <translation>eine Zahl, ein Name, eine Funktion, ein Vorzeichen, „not“, „if“</translation>
+    </message>
+    <message>
+        <source>an operator</source>
+        <translation>ein Operator</translation>
+    </message>
+    <message>
+        <source>an operator other than a comparison (comparisons do not chain)</source>
+        <translation>ein Operator außer einem Vergleich (Vergleiche lassen sich nicht verketten)</translation>
+    </message>
+    <message>
+        <source>the end of the formula</source>
+        <translation>das Ende der Formel</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: the formula is nested too deeply.</source>
+        <translation>Zeile %1, Spalte %2: Die Formel ist zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: found %3, expected %4.</source>
+        <translation>Zeile %1, Spalte %2: gefunden: %3, erwartet: %4.</translation>
+    </message>
+</context>
+<context>
+    <name>coExpressionSyntaxChecker</name>
+    <message>
+        <source>Math expression syntax is valid.</source>
+        <translation>Die Syntax des mathematischen Ausdrucks ist gültig.</translation>
+    </message>
+    <message>
+        <source>Math expression syntax is not valid: %1, %2</source>
+        <translation>Die Syntax des mathematischen Ausdrucks ist nicht gültig: %1, %2</translation>
+    </message>
+    <message>
+        <source>Math expression &apos;%0&apos;: %1, %2</source>
+        <translation>Mathematischer Ausdruck „%0“: %1, %2</translation>
+    </message>
+</context>
+<context>
     <name>coFeDataTableCard</name>
     <message>
         <source>Table &apos;%1&apos; does not fit the card: %2</source>
@@ -1563,6 +1674,30 @@ gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war.</
     <message>
         <source>File &apos;%1&apos; is not a valid Windows executable.</source>
         <translation>Die Datei „%1“ ist keine gültige ausführbare Windows-Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>ncoExpressionValidator</name>
+    <message>
+        <source>, </source>
+        <comment>Separator for a list of function names.</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The formula contains unknown functions: %1</source>
+        <translation>Die Formel enthält unbekannte Funktionen: %1</translation>
+    </message>
+    <message>
+        <source>The formula contains more than one function across the entire space domain but only one function is supported to be used in the formula.</source>
+        <translation>Die Formel enthält mehr als eine Funktion über das gesamte Raumgebiet, es ist aber nur eine in der Formel möglich.</translation>
+    </message>
+    <message>
+        <source>If a function across the entire space domain like %1 is used, then only one variable is supported to be used in the formula.</source>
+        <translation>Wird eine Funktion über das gesamte Raumgebiet wie %1 benutzt, so ist nur eine Variable in der Formel möglich.</translation>
+    </message>
+    <message>
+        <source>If a function across the entire space domain like %1 is used, then no other operations are supported to be used in the formula.</source>
+        <translation>Wird eine Funktion über das gesamte Raumgebiet wie %1 benutzt, so sind keine weiteren Operationen in der Formel möglich.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,482 @@
+#include "kdqtest.h"
+
+#include <kdQCore/coExpression>
+#include <kdQCore/coExpressionSyntaxChecker>
+
+#include <cerrno>
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+// Binds x, y, z to 2, 3, 5 and f to a function that doubles.
+coExpression bound(const QString& text)
+{
+    coExpression expression(text);
+    expression.setVariable(QStringLiteral("x"), 2.0);
+    expression.setVariable(QStringLiteral("y"), 3.0);
+    expression.setVariable(QStringLiteral("z"), 5.0);
+    expression.setFunction(QStringLiteral("f"), [](double value) { return 2.0 * value; });
+    return expression;
+}
+
+QString repeated(const char* text, int count)
+{
+    return QString::fromUtf8(text).repeated(count);
+}
+
+} // namespace
+
+class TestExpression : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void evaluatesAndPrints_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("printed");
+        QTest::addColumn<double>("value");
+        const auto row = [](const char* text, const char* printed, double value) {
+            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(printed) << value;
+        };
+        row("1.", "1", 1);
+        row(".5", "0.5", .5);
+        row("1e-3", "0.001", 1e-3);
+        row("1E+3", "1000", 1e3);
+        row("0.1", "0.1", 0.1);
+        row("1e-400", "0", 0);
+        row("x\n\t+ y", "(x + y)", 5);
+        row("x\302\240*\342\200\257y", "(x * y)", 6); // no-break spaces
+        row("x-y-z", "((x - y) - z)", -6);
+        row("x/y/z", "((x / y) / z)", 2.0 / 3.0 / 5.0);
+        row("x+y*z", "(x + (y * z))", 17);
+        row("x^y^x", "(x^(y^x))", 512);
+        row("x**y", "(x^y)", 8);
+        row("-x^2", "-(x^2)", -4);
+        row("x^-2", "(x^-2)", .25);
+        row("x^-y^0", "(x^-(y^0))", .5);
+        row("-x*y", "(-x * y)", -6);
+        row("--x", "--x", 2);
+        row("+x-+y", "(x - y)", -1);
+        row("x<y", "(x < y)", 1);
+        row("x<=2", "(x <= 2)", 1);
+        row("x>y", "(x > y)", 0);
+        row("x>=3", "(x >= 3)", 0);
+        row("x==2", "(x == 2)", 1);
+        row("x!=2", "(x != 2)", 0);
+        row("x+1<y+1", "((x + 1) < (y + 1))", 1);
+        row("(x<y)<z", "((x < y) < z)", 1);
+        row("x and 0 or z", "(x and 0) or z", 1);
+        row("x && 0 || 0", "(x and 0) or 0", 0);
+        row("0 or x and z", "0 or (x and z)", 1);
+        row("not x == y", "not (x == y)", 1);
+        row("!x == y", "(not x == y)", 0);
+        row("!0 + 1", "(not 0 + 1)", 2);
+        row("not not x", "not not x", 1);
+        row("not x and 0", "(not x and 0)", 0);
+        row("1 + not 0", "(1 + not 0)", 2);
+        row("if(x>y) x else y", "if((x > y)) x else y", 3);
+        row("if (x<y) x+1 else y+1", "if((x < y)) (x + 1) else (y + 1)", 3);
+        row("x<y ? x : y", "if((x < y)) x else y", 2);
+        row("0 ? 1 : 0 ? 2 : 3", "if(0) 1 else if(0) 2 else 3", 3);
+        row("1 ? 0 ? 1 : 2 : 3", "if(1) if(0) 1 else 2 else 3", 2);
+        row("1 + if(0) 1 else 2 + 3", "(1 + if(0) 1 else (2 + 3))", 6);
+        row("if(0) 1 else 0 or z", "if(0) 1 else 0 or z", 1);
+        row("f(x)", "f(x)", 4);
+        row("f(\"x\")", "f(x)", 4);
+        row("f ( x + y )", "f((x + y))", 10);
+        row("1 or 1/0", "1 or (1 / 0)", 1);
+        row("0 and 1/0", "(0 and (1 / 0))", 0);
+        row("if(1) x else 1/0", "if(1) x else (1 / 0)", 2);
+        row("sin(90)", "sin(90)", 1);
+        row("deg(pi)", "deg(pi)", 180);
+        row("rad(180)", "rad(180)", 3.141592653589793);
+        row("asin(1)", "asin(1)", 90);
+        row("acos(-1)", "acos(-1)", 180);
+        row("atan(1)", "atan(1)", 45);
+        row("cos(180)", "cos(180)", -1);
+        row("ln(e)", "ln(e)", 1);
+        row("lg(1000)", "lg(1000)", 3);
+        row("sinh(0)+cosh(0)+tanh(0)+tan(0)", "(((sinh(0) + cosh(0)) + tanh(0)) + tan(0))", 1);
+        row("round(-2.5)", "round(-2.5)", -3);
+        row("round(0.49999999999999994)", "round(0.49999999999999994)", 0);
+        row("floor(-0.5)+ceil(1.5)", "(floor(-0.5) + ceil(1.5))", 1);
+        row("sqrt(abs(-4))", "sqrt(abs(-4))", 2);
+        row("\303\244*y", "(\303\244 * y)", 21); // a letter beyond ASCII
+        row("_x1", "_x1", 11);
+    }
+
+    void evaluatesAndPrints()
+    {
+        QFETCH(QString, text);
+        coExpression expression = bound(text);
+        expression.setVariable(QString::fromUtf8("\303\244"), 7.0);
+        expression.setVariable(QStringLiteral("_x1"), 11.0);
+        QVERIFY2(expression.isValid(), qPrintable(expression.errorDetails()));
+        double value = 0.0;
+        QVERIFY2(expression.evaluate(&value), qPrintable(expression.errorDetails()));
+        QTEST(value, "value");
+        QTEST(expression.toString(), "printed");
+        QCOMPARE(expression.errorString() + expression.errorDetails(), QString());
+        QCOMPARE(expression.text(), text);
+    }
+
+    void syntaxErrors_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<QString>("found");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* text, const char* where, const char* found, const char* expected) {
+            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(where)
+                                << QString::fromUtf8(found) << QString::fromUtf8(expected);
+        };
+        const char* const operand = "a number, a name, a function, a sign, \"not\", \"if\" or \"(\"";
+        const char* const after = "an operator or the end of the formula";
+        const char* const inside = "an operator or \")\"";
+        row("", "Line 1, column 1", "the end of the formula", operand);
+        row(" \n", "Line 2, column 1", "the end of the formula", operand);
+        row("1 +", "Line 1, column 4", "the end of the formula", operand);
+        row("1 + * 2", "Line 1, column 5", "'*'", operand);
+        row("x\n + 2 y", "Line 2, column 6", "'y'", after);
+        row("1,5", "Line 1, column 2", "','", after);
+        row("1.2.3", "Line 1, column 4", "'.3'", after);
+        row("2e", "Line 1, column 2", "'e'", after);
+        row("0x10", "Line 1, column 2", "'x10'", after);
+        row("(1", "Line 1, column 3", "the end of the formula", inside);
+        row("1)", "Line 1, column 2", "')'", after);
+        row("f()", "Line 1, column 3", "')'", operand);
+        row("f(1, 2)", "Line 1, column 4", "','", inside);
+        row("f(\"x\"+1)", "Line 1, column 6", "'+'", "\")\"");
+        row("\"x\"", "Line 1, column 1", "'\"x\"'", operand);
+        row("f(\"if\")", "Line 1, column 3", "'\"if\"'", operand);
+        row("f(\"1\")", "Line 1, column 3", "'\"'", operand);
+        row("if(1) 2", "Line 1, column 8", "the end of the formula", "an operator or \"else\"");
+        row("if 1 2 else 3", "Line 1, column 4", "'1'", "\"(\"");
+        row("1 ? 2", "Line 1, column 6", "the end of the formula", "an operator or \":\"");
+        row("a = b", "Line 1, column 3", "'='", after);
+        row("a & b", "Line 1, column 3", "'&'", after);
+        row("\303\244\303\266 $", "Line 1, column 4", "'$'", after); // columns are characters
+        row("x\302\262", "Line 1, column 2", "'\302\262'", after);   // superscript two
+        row("a < b < c", "Line 1, column 7", "'<'",
+            "an operator other than a comparison (comparisons do not chain) or the end of the formula");
+        row("a == b != c", "Line 1, column 8", "'!='",
+            "an operator other than a comparison (comparisons do not chain) or the end of the formula");
+        row("1 \x07", "Line 1, column 3", "'U+0007'", after);
+    }
+
+    void syntaxErrors()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, where);
+        QFETCH(QString, found);
+        QFETCH(QString, expected);
+        coExpression expression(text);
+        QVERIFY(!expression.isValid());
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(expression.errorString(), QStringLiteral("Syntax error."));
+            QCOMPARE(expression.errorDetails(),
+                     QStringLiteral("%1: found %2, expected %3.").arg(where, found, expected));
+            double value = 17.0;
+            QVERIFY(!expression.evaluate(&value)); // keeps the texts
+            QCOMPARE(value, 17.0);
+        }
+        QCOMPARE(expression.nbVariables() + expression.nbFunctions(), 0);
+        QCOMPARE(expression.toString() + expression.getExpressionWithReplacedVariables(text), QString());
+    }
+
+    void textsThatAreNoTexts()
+    {
+        QString loneSurrogate = QStringLiteral("1 ? 2 : 3");
+        loneSurrogate[2] = QChar(0xd800);
+        QVERIFY(!coExpression(loneSurrogate).isValid());
+        QVERIFY(!coExpression(QString(QLatin1String("1\0+1", 4))).isValid());
+        QVERIFY(coExpression(QString::fromUtf8("\360\235\221\245 + 1")).isValid()); // a mathematical x
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("error");
+        QTest::addColumn<QString>("node");
+        QTest::addColumn<QString>("values");
+        const auto row = [](const char* text, const char* error, const char* node, const char* values) {
+            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(error)
+                                << QString::fromUtf8(node) << QString::fromUtf8(values);
+        };
+        row("1/0", "Division by zero.", "(1 / 0)", "(1 / 0)");
+        row("0/0", "Division by zero.", "(0 / 0)", "(0 / 0)");
+        row("1e300/1e-300", "Division by zero.", "(1e+300 / 1e-300)", "(1e+300 / 1e-300)");
+        row("nan/x", "Division by zero.", "(nan / x)", "(nan / 2)");
+        row("1 + x / (y - 3) * z", "Division by zero.", "(x / (y - 3))", "(2 / (3 - 3))");
+        row("sqrt(-1)", "Domain error.", "sqrt(-1)", "sqrt(-1)");
+        row("sqrt(x - y) + 1/0", "Domain error.", "sqrt((x - y))", "sqrt((2 - 3))");
+        row("asin(x)", "Domain error.", "asin(x)", "asin(2)");
+        row("ln(-x)", "Domain error.", "ln(-x)", "ln(-2)");
+        row("(-x)^0.5", "Domain error.", "(-x^0.5)", "(-2^0.5)");
+        row("lg(0)", "Range error.", "lg(0)", "lg(0)");
+        row("(x-x)^-1", "Range error.", "((x - x)^-1)", "((2 - 2)^-1)");
+        row("10^400", "Range error.", "(10^400)", "(10^400)");
+        row("10^-400", "Range error.", "(10^-400)", "(10^-400)");
+        row("1e308*10", "Range error.", "(1e+308 * 10)", "(1e+308 * 10)");
+        row("1e308*10-1e308*10", "Range error.", "(1e+308 * 10)", "(1e+308 * 10)");
+        row("0*(1e308+1e308)", "Range error.", "(1e+308 + 1e+308)", "(1e+308 + 1e+308)");
+        row("cosh(1000)", "Range error.", "cosh(1000)", "cosh(1000)");
+        row("1e999", "Range error.", "1e999", "1e999");
+        row("atan(inf)", "Range error.", "inf", "inf");
+        row("if(y > x) 1/(x-2) else 0", "Division by zero.", "(1 / (x - 2))", "(1 / (2 - 2))");
+        row("0 or not (1/0)", "Division by zero.", "(1 / 0)", "(1 / 0)");
+        row("pi/(x-2)", "Division by zero.", "(pi / (x - 2))", "(3.141592653589793 / (2 - 2))");
+        row("g(1)", "Evaluation error.", "g(1)", "g(1)");
+        row("h(1)", "Evaluation error.", "h(1)", "h(1)");
+        row("tooLarge(x)", "Range error.", "tooLarge(x)", "tooLarge(2)");
+        row("outside(x)", "Domain error.", "outside(x)", "outside(2)");
+    }
+
+    void failures()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, error);
+        QFETCH(QString, node);
+        QFETCH(QString, values);
+        coExpression expression = bound(text);
+        expression.setVariable(QStringLiteral("inf"), infinity);
+        expression.setVariable(QStringLiteral("nan"), std::nan(""));
+        expression.setFunction(QStringLiteral("g"), [](double) -> double { throw std::runtime_error("g"); });
+        expression.setFunction(QStringLiteral("h"), [](double x) { return errno = EINTR, x; });
+        expression.setFunction(QStringLiteral("tooLarge"), [](double x) { return errno = ERANGE, x; });
+        expression.setFunction(QStringLiteral("outside"), [](double x) { return errno = EDOM, x; });
+        double value = 17.0;
+        errno = EDOM; // must not matter
+        QVERIFY(!expression.evaluate(&value));
+        QCOMPARE(value, 17.0);
+        expression.setVariable(QStringLiteral("x"), 100.0); // the texts tell of the evaluation
+        QCOMPARE(expression.errorString(), error);
+        QCOMPARE(expression.errorDetails(),
+                 QStringLiteral("In expression:\n %1\nwhich evaluates to:\n %2").arg(node, values));
+        const coExpression copy(expression);
+        QCOMPARE(copy.errorDetails(), expression.errorDetails());
+    }
+
+    void unresolvedNames()
+    {
+        coExpression expression(QStringLiteral("b + f(a) + sin(b) * pi - g(e)"));
+        QCOMPARE(expression.findUnresolvedVariables(),
+                 (QStringList{QStringLiteral("b"), QStringLiteral("a")}));
+        QCOMPARE(expression.findUnresolvedFunctions(),
+                 (QStringList{QStringLiteral("f"), QStringLiteral("g")}));
+        QVERIFY(!expression.evaluate(nullptr));
+        QCOMPARE(expression.errorString(), QStringLiteral("Undefined variable(s): b, a."));
+        QCOMPARE(expression.errorDetails(), QString());
+        expression.setVariable(QStringLiteral("b"), std::nan(""));
+        expression.setVariable(QStringLiteral("a"), 1.0);
+        QVERIFY(!expression.evaluate(nullptr));
+        QCOMPARE(expression.errorString(), QStringLiteral("Undefined function(s): f, g."));
+        expression.setFunction(QStringLiteral("f"), [](double x) { return x; });
+        expression.setFunction(QStringLiteral("g"), [](double x) { return x; });
+        double value = 0.0;
+        QVERIFY(expression.evaluate(&value));
+        QVERIFY(std::isnan(value));
+        QCOMPARE(expression.errorString(), QString());
+        expression.setFunction(QStringLiteral("sin"), nullptr);
+        QCOMPARE(expression.findUnresolvedFunctions(), QStringList{QStringLiteral("sin")});
+    }
+
+    void tablesOfNames()
+    {
+        coExpression expression(QStringLiteral("g(f(pi)) + x * g(x) + e"));
+        QStringList variables;
+        QStringList functions;
+        for (int i = 0; i < expression.nbVariables(); ++i)
+            variables << expression.variableName(i);
+        for (int i = 0; i < expression.nbFunctions(); ++i)
+            functions << expression.functionName(i);
+        QCOMPARE(variables, (QStringList{QStringLiteral("pi"), QStringLiteral("x"), QStringLiteral("e")}));
+        QCOMPARE(functions, (QStringList{QStringLiteral("g"), QStringLiteral("f")}));
+        QVERIFY(expression.isVariableBuiltIn(0) && !expression.isVariableBuiltIn(1));
+        QVERIFY(!expression.isFunctionBuiltIn(0));
+        for (const int outside : {-1, 3}) {
+            expression.setVariable(outside, 1.0);
+            expression.setFunction(outside, [](double x) { return x; });
+            QCOMPARE(expression.variableName(outside) + expression.functionName(outside), QString());
+            QVERIFY(!expression.isVariableBuiltIn(outside) && !expression.isFunctionBuiltIn(outside));
+        }
+        QCOMPARE(expression.findUnresolvedVariables(), QStringList{QStringLiteral("x")});
+    }
+
+    void builtInsMayBeReplaced()
+    {
+        coExpression expression(QStringLiteral("sqrt(e)"));
+        expression.setVariable(QStringLiteral("e"), 7.0);
+        expression.setFunction(QStringLiteral("sqrt"), [](double x) { return -x; });
+        double value = 0.0;
+        QVERIFY(expression.evaluate(&value));
+        QCOMPARE(value, -7.0);
+        QVERIFY(expression.isVariableBuiltIn(0) && expression.isFunctionBuiltIn(0));
+    }
+
+    void nanCountsAsTrue_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::newRow("n and 1") << 1.0;
+        QTest::newRow("1 and n") << 1.0;
+        QTest::newRow("n or 1/0") << 1.0;
+        QTest::newRow("0 or n") << 1.0;
+        QTest::newRow("not n") << 0.0;
+        QTest::newRow("if(n) 1 else 2") << 1.0;
+        QTest::newRow("n != n") << 1.0;
+        QTest::newRow("n == n") << 0.0;
+        QTest::newRow("n <= n") << 0.0;
+        QTest::newRow("if(n < 1) 1 else 2") << 2.0;
+        QTest::newRow("n^0") << 1.0;
+    }
+
+    void nanCountsAsTrue()
+    {
+        coExpression expression(QString::fromLatin1(QTest::currentDataTag()));
+        expression.setVariable(0, std::nan(""));
+        double value = -1.0;
+        QVERIFY2(expression.evaluate(&value), qPrintable(expression.errorDetails()));
+        QTEST(value, "value");
+    }
+
+    // Whatever goes wrong around it, and however often the evaluation has to look again.
+    void callsTheCallersFunctionOnce_data()
+    {
+        QTest::addColumn<int>("calls");
+        QTest::addColumn<bool>("succeeds");
+        QTest::newRow("f(1) + f(2)") << 2 << true;
+        QTest::newRow("f(1) / 0") << 1 << false;
+        QTest::newRow("f(1) + n * f(2)") << 2 << true;
+        QTest::newRow("f(f(1)) + 10^400 + f(1)") << 2 << false;
+        QTest::newRow("10^-400 + f(1)") << 0 << false; // the earlier failure sets only errno
+        QTest::newRow("asin(2) + f(1)") << 0 << false;
+        QTest::newRow("0 and f(1) or n and f(1)") << 1 << true;
+        QTest::newRow("if(f(0)) f(1) else n + f(1)") << 2 << true;
+        QTest::newRow("f(1/0) + f(1)") << 0 << false;
+        QTest::newRow("1e999 + f(1)") << 0 << false;
+        QTest::newRow("dirty(1) + f(1)") << 1 << false;
+    }
+
+    void callsTheCallersFunctionOnce()
+    {
+        coExpression expression(QString::fromLatin1(QTest::currentDataTag()));
+        int calls = 0;
+        expression.setFunction(QStringLiteral("f"), [&calls](double x) { return ++calls, x; });
+        expression.setFunction(QStringLiteral("dirty"),
+                               [&calls](double x) { return ++calls, errno = EDOM, x; });
+        expression.setVariable(QStringLiteral("n"), std::nan(""));
+        QTEST(expression.evaluate(nullptr), "succeeds");
+        QTEST(calls, "calls");
+        calls = 0;
+        expression.evaluate(nullptr); // nothing is left of the first evaluation
+        QTEST(calls, "calls");
+    }
+
+    void replacedVariables()
+    {
+        const coExpression expression(QStringLiteral("if(x > 0 or y) sin(x * pi)^2 else x"));
+        QCOMPARE(expression.getExpressionWithReplacedVariables(QStringLiteral("%1%2")),
+                 QStringLiteral("if((%1%2 > 0) or %1%2) (sin((%1%2 * pi))^2) else %1%2"));
+    }
+
+    void copiesAreIndependent()
+    {
+        coExpression first = bound(QStringLiteral("f(x)"));
+        coExpression second;
+        QVERIFY(!second.isValid());
+        second = first;
+        second.setVariable(0, 10.0);
+        second.setFunction(0, [](double x) { return -x; });
+        double a = 0.0;
+        double b = 0.0;
+        QVERIFY(first.evaluate(&a) && second.evaluate(&b));
+        QCOMPARE(a, 4.0);
+        QCOMPARE(b, -10.0);
+        first = coExpression(QStringLiteral("1 +"));
+        QVERIFY(!first.isValid() && second.isValid());
+    }
+
+    void threadsEvaluateCopies()
+    {
+        const coExpression shared = bound(QStringLiteral("if(x > 50) 1/(x-75) else f(x)^2 + sin(x)"));
+        std::vector<std::thread> threads;
+        std::vector<int> failures(4, 0);
+        std::vector<double> sums(4, 0.0);
+        for (std::size_t t = 0; t < failures.size(); ++t)
+            threads.emplace_back([&, t] {
+                coExpression own(shared);
+                for (int i = 0; i < 2000; ++i) {
+                    double value = 0.0;
+                    own.setVariable(0, i % 100);
+                    if (own.evaluate(&value))
+                        sums[t] += value;
+                    else if (own.errorDetails().contains(QLatin1String("(75 - 75)")))
+                        ++failures[t];
+                }
+            });
+        for (std::thread& thread : threads)
+            thread.join();
+        QCOMPARE(failures, std::vector<int>(4, 20));
+        QCOMPARE(sums, std::vector<double>(4, sums.front()));
+    }
+
+    void largeTexts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isValid");
+        QTest::addColumn<double>("value");
+        QTest::newRow("100 000 terms") << QStringLiteral("1") + repeated("+x", 99999) << true << 199999.0;
+        QTest::newRow("10 000 parentheses")
+            << repeated("(", 10000) + QStringLiteral("x") + repeated(")", 10000) << true << 2.0;
+        QTest::newRow("sums nested to the right")
+            << repeated("(x*1+", 20000) + QStringLiteral("x") + repeated(")", 20000) << true << 40002.0;
+        QTest::newRow("100 000 signs") << repeated("-", 100000) + QStringLiteral("x") << true << 2.0;
+        QTest::newRow("powers") << repeated("x^", 30000) + QStringLiteral("0") << false << 0.0;
+        QTest::newRow("calls") << repeated("abs(", 20000) + QStringLiteral("x") + repeated(")", 20000) << true
+                               << 2.0;
+        QTest::newRow("conditions") << repeated("x<0?1:", 16000) + QStringLiteral("x") << true << 2.0;
+        QTest::newRow("100 000 open parentheses") << repeated("(", 100000) << false << 0.0;
+        QTest::newRow("more than the parser holds") << repeated("(", 1100000) << false << 0.0;
+        QTest::newRow("a long name") << repeated("x", 100000) << true << 7.0;
+        QTest::newRow("a long number") << repeated("0", 99999) + QStringLiteral("3") << true << 3.0;
+    }
+
+    void largeTexts()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, isValid);
+        coExpression expression = bound(text);
+        const bool isPower = text.contains(QLatin1Char('^'));
+        QCOMPARE(expression.isValid(), isValid || isPower);
+        double value = 0.0;
+        if (expression.nbVariables() == 1 && expression.variableName(0).size() > 1)
+            expression.setVariable(0, 7.0);
+        QCOMPARE(expression.evaluate(&value), isValid);
+        QTEST(value, "value");
+        const coExpression again(expression.toString());
+        QCOMPARE(again.toString(), expression.toString());
+        QVERIFY(isValid || !expression.errorDetails().isEmpty());
+    }
+
+    void manyNames()
+    {
+        QStringList terms;
+        for (int i = 0; i < 20000; ++i)
+            terms << QStringLiteral("v%1").arg(i);
+        coExpression expression(terms.join(QLatin1Char('+')));
+        QCOMPARE(expression.nbVariables(), 20000);
+        for (int i = 0; i < 20000; ++i)
+            expression.setVariable(i, 1.0);
+        double value = 0.0;
+        QVERIFY(expression.evaluate(&value));
+        QCOMPARE(value, 20000.0);
+    }
+};
+
+KDQ_TEST_MAIN(TestExpression)
+#include "tst_coexpression.moc"

@@ -1,0 +1,225 @@
+#include "kdqtest.h"
+
+#include <kdQCore/coExpressionOrder>
+#include <kdQCore/coExpressionSyntaxChecker>
+#include <kdQCore/ncoExpressionValidator>
+
+using Pairs = QVector<QPair<QString, QString>>;
+
+namespace {
+
+// "a=b+1; b=2" as pairs.
+Pairs pairsOf(const QString& text)
+{
+    Pairs pairs;
+    const QStringList parts = text.split(QStringLiteral("; "), Qt::SkipEmptyParts);
+    for (const QString& part : parts)
+        pairs.append({part.section(QLatin1Char('='), 0, 0), part.section(QLatin1Char('='), 1)});
+    return pairs;
+}
+
+coExpressionOrder orderOf(const Pairs& pairs)
+{
+    coExpressionOrder order;
+    for (const auto& pair : pairs)
+        order.add(pair.first, pair.second);
+    return order;
+}
+
+} // namespace
+
+/// Everything about formulas that is not their evaluation: messages, rules of usage, order of definition.
+class TestExpressionChecks : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void syntaxChecker()
+    {
+        const coExpressionSyntaxChecker valid(QStringLiteral("x + 1"));
+        QCOMPARE(valid.getXmlComment(), QStringLiteral("Math expression syntax is valid."));
+        const coExpressionSyntaxChecker copy(valid);
+        QCOMPARE(copy.expression().toString(), QStringLiteral("(x + 1)"));
+
+        const coExpressionSyntaxChecker wrong(QStringLiteral("%1 --"));
+        const QString details = QStringLiteral("Line 1, column 1: found '%', expected a number, a name, a "
+                                               "function, a sign, \"not\", \"if\" or \"(\".");
+        QCOMPARE(wrong.getXmlComment(),
+                 QStringLiteral("Math expression syntax is not valid: Syntax error., ") + details);
+        QCOMPARE(wrong.getErrorMessage(),
+                 QStringLiteral("Math expression '%1 --': Syntax error., ") + details);
+    }
+
+    // A comment must not hold two hyphens.
+    void commentsFitIntoXml()
+    {
+        for (const char* text : {"1 -- * 2", "a --", "1 $-- 2", "--", "\"--\""}) {
+            const coExpressionSyntaxChecker checker(QString::fromLatin1(text));
+            QVERIFY(!checker.expression().isValid());
+            QVERIFY2(!checker.getXmlComment().contains(QLatin1String("--")), text);
+        }
+    }
+
+    void unresolvedFunctions()
+    {
+        coExpression expression(QStringLiteral("f(g(sin(x))) + h(x)"));
+        QStringList messages{QStringLiteral("before")};
+        expression.setFunction(QStringLiteral("g"), [](double x) { return x; });
+        QVERIFY(!ncoExpressionValidator::checkForUnresolvedFunctions(expression, &messages));
+        QCOMPARE(messages.mid(1),
+                 QStringList{QStringLiteral("The formula contains unknown functions: f, h")});
+        QVERIFY(!ncoExpressionValidator::checkForUnresolvedFunctions(expression, nullptr));
+        expression.setFunction(QStringLiteral("f"), [](double x) { return x; });
+        expression.setFunction(QStringLiteral("h"), [](double x) { return x; });
+        QVERIFY(ncoExpressionValidator::checkForUnresolvedFunctions(expression, &messages));
+        QCOMPARE(messages.size(), 2);
+    }
+
+    void spaceDomainFunctions_data()
+    {
+        QTest::addColumn<bool>("moreFunctions");
+        QTest::addColumn<bool>("moreVariables");
+        QTest::addColumn<bool>("otherOperations");
+        QTest::newRow("max(x)") << false << false << false;
+        QTest::newRow("max(\"x\")") << false << false << false;
+        QTest::newRow(" max\n( x ) ") << false << false << false;
+        QTest::newRow("sin(x) + point(x) * y") << false << false << false; // none across the domain
+        QTest::newRow("max((x))") << false << false << true;
+        QTest::newRow("max(1)") << false << false << true;
+        QTest::newRow("max(x) + 1") << false << false << true;
+        QTest::newRow("max(sin(x))") << false << false << true;
+        QTest::newRow("max(x) + max(x)") << false << false << true;
+        QTest::newRow("max(x * y)") << false << true << true;
+        QTest::newRow("max(x) + min(x)") << true << false << true;
+        QTest::newRow("max(x) + min(y)") << true << true << true;
+    }
+
+    void spaceDomainFunctions()
+    {
+        QFETCH(bool, moreFunctions);
+        QFETCH(bool, moreVariables);
+        QFETCH(bool, otherOperations);
+        const QString text = QString::fromLatin1(QTest::currentDataTag());
+        coExpression expression(text);
+        QVERIFY(expression.isValid());
+        const auto same = [](double x) { return x; };
+        expression.setFunction(QStringLiteral("max"), same);
+        expression.setFunction(QStringLiteral("min"), same, coExpression::SpaceDomain);
+        expression.setFunction(QStringLiteral("point"), same, coExpression::Pointwise);
+        QStringList expected;
+        if (moreFunctions)
+            expected << QStringLiteral(
+                "The formula contains more than one function across the entire space domain "
+                "but only one function is supported to be used in the formula.");
+        if (moreVariables)
+            expected << QStringLiteral(
+                "If a function across the entire space domain like max is used, then only "
+                "one variable is supported to be used in the formula.");
+        if (otherOperations)
+            expected << QStringLiteral(
+                "If a function across the entire space domain like max is used, then no "
+                "other operations are supported to be used in the formula.");
+        QStringList messages;
+        QCOMPARE(ncoExpressionValidator::checkForValidSpaceDomainFctUsage(text, expression, &messages),
+                 expected.isEmpty());
+        QCOMPARE(messages, expected);
+    }
+
+    void orders_data()
+    {
+        QTest::addColumn<QString>("formulas");
+        QTest::addColumn<QString>("names");
+        QTest::addColumn<int>("failure");
+        QTest::addColumn<QString>("error");
+        const auto row = [](const char* formulas, const char* names, int failure = 0,
+                            const char* error = "") {
+            QTest::newRow(formulas) << QString::fromLatin1(formulas) << QString::fromLatin1(names) << failure
+                                    << QString::fromLatin1(error);
+        };
+        row("", "");
+        row("a=1; b=2; c=3", "a b c");
+        row("a=b+c; b=c*2; c=known", "c b a");
+        row("a=1; d=b+c; b=a; c=a; f=d", "a b c d f"); // a diamond
+        row("p=pi+sin(e); pie=p", "p pie");
+        row("x=known; y=x^2; z=x+y", "x y z");
+        row("a=a+1", "", coExpressionOrder::Circle, "The formulas use each other in a circle: a -> a.");
+        row("z=1; s=a; a=b+z; b=c; c=a", "", coExpressionOrder::Circle,
+            "The formulas use each other in a circle: a -> b -> c -> a.");
+        row("area=width*height; width=2", "", coExpressionOrder::UndefinedName,
+            "The formula of 'area' uses 'height', which is not defined.");
+        row("a=1; b=2; a=3", "", coExpressionOrder::DuplicateName, "'a' is defined twice.");
+        row("known=3", "", coExpressionOrder::DuplicateName, "'known' is defined twice.");
+        row("2a=3", "", coExpressionOrder::InvalidName, "'2a' cannot be the name of a formula.");
+        row(" a=3", "", coExpressionOrder::InvalidName, "' a' cannot be the name of a formula.");
+        row("pi=3", "", coExpressionOrder::InvalidName, "'pi' cannot be the name of a formula.");
+        row("if=3", "", coExpressionOrder::InvalidName, "'if' cannot be the name of a formula.");
+        row("a=1+", "", coExpressionOrder::InvalidFormula,
+            "The formula of 'a' cannot be read: Syntax error. Line 1, column 3: found the end of the "
+            "formula, "
+            "expected a number, a name, a function, a sign, \"not\", \"if\" or \"(\".");
+    }
+
+    void orders()
+    {
+        QFETCH(QString, formulas);
+        coExpressionOrder order = orderOf(pairsOf(formulas));
+        order.addKnownName(QStringLiteral("known"));
+        QFETCH(int, failure);
+        QCOMPARE(order.sort(), failure == coExpressionOrder::NoFailure);
+        QCOMPARE(int(order.failure()), failure);
+        QTEST(order.names().join(QLatin1Char(' ')), "names");
+        QTEST(order.errorString(), "error");
+        QVERIFY(order.names().isEmpty() || order.expression(0).isValid());
+        QVERIFY(!order.expression(order.size()).isValid());
+    }
+
+    void tellsPartsOfFailures()
+    {
+        coExpressionOrder circle = orderOf(pairsOf(QStringLiteral("s=a; a=b; b=c; c=a")));
+        QVERIFY(!circle.sort());
+        QCOMPARE(circle.circle(),
+                 (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+        coExpressionOrder undefined = orderOf(pairsOf(QStringLiteral("s=a; a=b")));
+        QVERIFY(!undefined.sort());
+        QCOMPARE(undefined.failedName() + undefined.undefinedName(), QStringLiteral("ab"));
+        undefined.add(QStringLiteral("b"), QStringLiteral("1"));
+        QVERIFY(undefined.sort());
+        QCOMPARE(undefined.failedName() + undefined.undefinedName() + undefined.errorString(), QString());
+    }
+
+    void evaluatesInOrder()
+    {
+        coExpressionOrder order = orderOf(pairsOf(QStringLiteral("power=voltage*current; voltage=24+t/10; "
+                                                                 "current=180; heat=power/(t-7)")));
+        order.addKnownName(QStringLiteral("t"));
+        QHash<QString, double> values{{QStringLiteral("t"), 5.0}};
+        QVERIFY2(order.evaluate(&values), qPrintable(order.errorString()));
+        QCOMPARE(values.value(QStringLiteral("power")), 24.5 * 180);
+        QCOMPARE(values.value(QStringLiteral("heat")), 24.5 * 180 / -2);
+        values[QStringLiteral("t")] = 7.0;
+        QVERIFY(!order.evaluate(&values));
+        QCOMPARE(order.failedName(), QStringLiteral("heat"));
+        QVERIFY(order.errorString().contains(QLatin1String("Division by zero.")));
+        QCOMPARE(values.value(QStringLiteral("power")), 24.7 * 180);
+        values.clear();
+        QVERIFY(!order.evaluate(&values));
+        QVERIFY(order.errorString().contains(QLatin1String("Undefined variable(s): t.")));
+    }
+
+    void longChains()
+    {
+        constexpr int length = 20000;
+        coExpressionOrder order;
+        for (int i = 0; i < length; ++i)
+            order.add(QStringLiteral("v%1").arg(i), QStringLiteral("v%1 + 1").arg(i + 1));
+        QVERIFY(!order.sort());
+        QCOMPARE(order.undefinedName(), QStringLiteral("v%1").arg(length));
+        order.add(QStringLiteral("v%1").arg(length), QStringLiteral("0"));
+        QHash<QString, double> values;
+        QVERIFY(order.evaluate(&values));
+        QCOMPARE(order.names().first(), QStringLiteral("v%1").arg(length));
+        QCOMPARE(values.value(QStringLiteral("v0")), double(length));
+    }
+};
+
+KDQ_TEST_MAIN(TestExpressionChecks)
+#include "tst_coexpression_checks.moc"
