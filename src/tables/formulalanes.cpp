@@ -1,3 +1,4 @@
+#include "formulapower.h"
 #include "formularun.h"
 
 #include <algorithm>
@@ -108,6 +109,11 @@ void step(const FormulaInstruction& c, double* slots, Lanes& lanes)
         });
     case FormulaOp::Power:
         return lanes.raise(r, a);
+    case FormulaOp::Square:
+        return lanes.call([=](int i) {
+            const double value = nFormula::squareAsPow(r[i], a[i]);
+            return value == 0.0 ? std::numeric_limits<double>::quiet_NaN() : value;
+        });
     case FormulaOp::Raise:
         return lanes.raise(a, r);
     case FormulaOp::PowerSlots:

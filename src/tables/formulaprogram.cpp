@@ -185,6 +185,12 @@ private:
 
     void enterBinary(const FormulaNode& node, const BinaryOps& ops)
     {
+        const FormulaNode& second = m_tree.nodes[node.b];
+        if (node.kind == FormulaKind::Power && second.kind == FormulaKind::Number && second.number == 2.0) {
+            later(Action::Emit, {FormulaOp::Square, slotOf(node.b)});
+            visit(node.a);
+            return;
+        }
         if (m_tree.isLeaf(node.b)) {
             const bool areSlots = m_tree.isLeaf(node.a) && ops.slots != FormulaOp::Halt;
             if (areSlots) {

@@ -11,19 +11,20 @@
 //   Add ... Power     r = r op a       From, Into, Raise: subtract, divide and power with the slot first
 //   AddSlots ...      r = a op b       MultiplyAdd      r = b + a * r
 //   Horner            "to" times MultiplyAdd with b, b - 1, ...
+//   Square            pow(r, a), where the slot is the literal 2
 //   Truth             r = r != 0       Equal ...        r = r op a
 //   CallSlot          r = f(a)         CallBound        a function of the caller's, number a
 //   IfNot, If         jump where r is 0, or is not      IfNotLess ...    jump where a < b is false, and so on
-#define FORMULA_OPS(X)                                                                                     \
-    X(Halt)                                                                                                \
-    X(Load)                                                                                                \
-    X(Store)                                                                                               \
-    X(Negate)                                                                                              \
-    X(Not) X(Truth) X(Add) X(Subtract) X(From) X(Multiply) X(Divide) X(Into) X(Power) X(Raise) X(AddSlots) \
-        X(SubtractSlots) X(MultiplySlots) X(DivideSlots) X(PowerSlots) X(MultiplyAdd) X(Horner) X(Equal)   \
-            X(NotEqual) X(Less) X(LessEqual) X(Greater) X(GreaterEqual) X(Root) X(Call) X(CallSlot)        \
-                X(CallBound) X(Jump) X(IfNot) X(If) X(IfNotLess) X(IfNotLessEqual) X(IfNotGreater)         \
-                    X(IfNotGreaterEqual)
+// clang-format off
+#define FORMULA_OPS(X)                                                                            \
+    X(Halt) X(Load) X(Store) X(Negate) X(Not) X(Truth)                                            \
+    X(Add) X(Subtract) X(From) X(Multiply) X(Divide) X(Into) X(Power) X(Square) X(Raise)          \
+    X(AddSlots) X(SubtractSlots) X(MultiplySlots) X(DivideSlots) X(PowerSlots)                    \
+    X(MultiplyAdd) X(Horner)                                                                      \
+    X(Equal) X(NotEqual) X(Less) X(LessEqual) X(Greater) X(GreaterEqual)                          \
+    X(Root) X(Call) X(CallSlot) X(CallBound)                                                      \
+    X(Jump) X(IfNot) X(If) X(IfNotLess) X(IfNotLessEqual) X(IfNotGreater) X(IfNotGreaterEqual)
+// clang-format on
 
 #define FORMULA_ENUMERATOR(name) name,
 enum class FormulaOp : quint8 { FORMULA_OPS(FORMULA_ENUMERATOR) };

@@ -1,5 +1,7 @@
 #include "formularun.h"
 
+#include "formulapower.h"
+
 #include <cmath>
 #include <limits>
 
@@ -108,6 +110,9 @@ bool nFormula::run(const FormulaProgram& program, double* slots, const FormulaBo
     OP(Power):
         r = std::pow(r, s[c->a]);
         NEXT_IF(isUsualPower(r));
+    OP(Square):
+        r = squareAsPow(r, s[c->a]);
+        NEXT_IF(isUsualPower(r));
     OP(Raise):
         r = std::pow(s[c->a], r);
         NEXT_IF(isUsualPower(r));
@@ -130,11 +135,14 @@ bool nFormula::run(const FormulaProgram& program, double* slots, const FormulaBo
         r = s[c->a] * r; // an infinite product leaves no finite sum
         r = s[c->b] + r;
         NEXT_IF(isFinite(r));
-    OP(Horner):
-        for (quint32 k = 0; k < c->to; ++k) {
-            r = s[c->a] * r;
-            r = s[c->b - k] + r;
+    OP(Horner): {
+        const double x = s[c->a];
+        const double* sum = s + c->b;
+        for (quint32 k = c->to; k > 0; --k, --sum) {
+            r = x * r;
+            r = *sum + r;
         }
+    }
         NEXT_IF(isFinite(r));
     OP(Equal):
         r = r == s[c->a];

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cmath>
 #include <limits>
+#include <random>
 #include <stdexcept>
 #include <thread>
 
@@ -375,6 +376,26 @@ private Q_SLOTS:
         calls = 0;
         expression.evaluate(nullptr); // nothing is left of the first evaluation
         QTEST(calls, "calls");
+    }
+
+    // The evaluation may take short cuts, but its results are those of the power function to the last bit.
+    void squaresAreThoseOfPow()
+    {
+        coExpression expression(QStringLiteral("x^2"));
+        const volatile double two = 2.0; // for a literal the compiler would take the product itself
+        std::mt19937_64 random(20260801);
+        for (int i = 0; i < 300000; ++i) {
+            const double mantissa =
+                i % 3 == 0 ? double(random() % 100000) / 1000 : 1.0 + double(random() >> 12) * 0x1p-52;
+            const double x =
+                std::ldexp(i % 2 == 0 ? mantissa : -mantissa, i % 5 == 0 ? int(random() % 1000) - 500 : 0);
+            double value = -1.0;
+            expression.setVariable(0, x);
+            const double expected = std::pow(x, two);
+            QCOMPARE(expression.evaluate(&value), expected != 0.0 || x == 0.0);
+            QVERIFY2(value == (expected != 0.0 || x == 0.0 ? expected : -1.0),
+                     qPrintable(QString::number(x, 'g', 17)));
+        }
     }
 
     void replacedVariables()
