@@ -42,20 +42,11 @@ private Q_SLOTS:
         QCOMPARE(systemErrorText(99999), QString());
     }
 
-    void noSuchProcess_data()
-    {
-        QTest::addColumn<qint64>("id");
-        QTest::newRow("group of the caller") << qint64(0);
-        QTest::newRow("everyone") << qint64(-1);
-        QTest::newRow("largest") << qint64(INT_MAX);
-        QTest::newRow("own id after a cut to 32 bits")
-            << ((qint64(1) << 32) | QCoreApplication::applicationPid());
-    }
-
     void noSuchProcess()
     {
-        QFETCH(qint64, id);
-        QVERIFY(!processFacts(id).alive);
+        const qint64 ownBeyond32Bits = (qint64(1) << 32) | QCoreApplication::applicationPid();
+        for (const qint64 id : {qint64(0), qint64(-1), qint64(INT_MAX), ownBeyond32Bits})
+            QVERIFY(!processFacts(id).alive);
     }
 
     void otherProcessUntilItEnds()
@@ -135,16 +126,9 @@ private Q_SLOTS:
         QCOMPARE(wins.load(), 200);
     }
 
-    void mapping_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("one byte") << QByteArray("x");
-        QTest::newRow("whole pages and a rest") << QByteArray(3 * 4096 + 17, 'p');
-    }
-
     void mapping()
     {
-        QFETCH(QByteArray, content);
+        const QByteArray content(3 * 4096 + 17, 'p');
         QTemporaryDir folder;
         QFile file(folder.filePath(QStringLiteral("Zwölf.bin")));
         QVERIFY(file.open(QIODevice::WriteOnly));
