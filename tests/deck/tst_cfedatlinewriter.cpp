@@ -2,7 +2,6 @@
 #include "kdqtest.h"
 #include "logcapture.h"
 
-#include <kdQCore/cFeAbstractDatCard>
 #include <kdQCore/CFEDatLineWriter>
 
 #include <QTextCodec>
@@ -49,15 +48,6 @@ QByteArray listItemwise(DeckBuffer& deck, const QList<Value>& values, int perLin
     return deck.bytes();
 }
 
-class TwoLineCard : public cFeAbstractDatCard {
-public:
-    bool write(CFEDatLineWriter& writer) const override
-    {
-        const bool ok = writer.writeKeywordLine("two lines");
-        return writer.writeString("longer than its field", 5) && writer.writeInt(1) && ok;
-    }
-};
-
 } // namespace
 
 class TestDatLineWriter : public QObject {
@@ -87,9 +77,6 @@ private Q_SLOTS:
         row(
             "int", [](W& w) { return w.writeInt(7); }, "    7", "         7", "7,", "7,");
         row(
-            "longest int", [](W& w) { return w.writeInt(std::numeric_limits<int>::min()); }, "-2147483648",
-            "-2147483648", "-2147483648,", "-2147483648,");
-        row(
             "int 3 times", [](W& w) { return w.writeIntNTimes(-4, 3); }, "   -4   -4   -4",
             "        -4        -4        -4", "-4,-4,-4,", "-4,-4,-4,");
         same("nothing", "",
@@ -103,8 +90,9 @@ private Q_SLOTS:
             "real", [](W& w) { return w.writeDouble(1.5, false); }, "1.50000E+0", "1.500000000000000E+0",
             "1.50000E+0,", "1.50000000000000E+0,");
         row(
-            "negative", [](W& w) { return w.writeDoubleValue(-1.5); }, "-1.5000E+0", "-1.50000000000000E+0",
-            "-1.5000E+0,", "-1.5000000000000E+0,");
+            "negative, twice", [](W& w) { return w.writeDoubleNTimes(-1.5, 2); }, "-1.5000E+0-1.5000E+0",
+            "-1.50000000000000E+0-1.50000000000000E+0", "-1.5000E+0,-1.5000E+0,",
+            "-1.5000000000000E+0,-1.5000000000000E+0,");
         row(
             "blank first", [](W& w) { return w.writeDouble(1.5, true); }, " 1.5000E+0",
             " 1.50000000000000E+0", "1.50000E+0,", "1.50000000000000E+0,");
@@ -116,13 +104,6 @@ private Q_SLOTS:
             "0.00000E+0-0.0000E+0", "0.000000000000000E+0-0.00000000000000E+0", "0.00000E+0,-0.0000E+0,",
             "0.00000000000000E+0,-0.0000000000000E+0,");
         row(
-            "three tenths", [](W& w) { return w.writeDoubleValue(0.3); }, "2.99999E-1",
-            "2.999999999999999E-1", "2.99999E-1,", "2.99999999999999E-1,");
-        row(
-            "long exponents", [](W& w) { return w.writeDoubleNTimes(-1.25e123, 2); }, "-1.24E+123-1.24E+123",
-            "-1.249999999999E+123-1.249999999999E+123", "-1.24E+123,-1.24E+123,",
-            "-1.24999999999E+123,-1.24999999999E+123,");
-        row(
             "not finite", [](W& w) { return w.writeDouble(infinity, true) && w.writeDoubleValue(-infinity); },
             "       inf      -inf", QByteArray(17, ' ') + "inf" + QByteArray(16, ' ') + "-inf",
             "       inf,      -inf,", QByteArray(16, ' ') + "inf," + QByteArray(15, ' ') + "-inf,");
@@ -131,9 +112,6 @@ private Q_SLOTS:
             QByteArray(17, ' ') + "nan", "       nan,", QByteArray(16, ' ') + "nan,");
         row(
             "string", [](W& w) { return w.writeString("AB", 5); }, "   AB", "   AB", "AB,", "AB,");
-        row(
-            "string of any width", [](W& w) { return w.writeString(std::string("AB"), 0); }, "AB", "AB",
-            "AB,", "AB,");
         row(
             "empty string", [](W& w) { return w.writeString(QString(), 3); }, "   ", "   ", ",", ",");
         row(
@@ -156,12 +134,10 @@ private Q_SLOTS:
             "2.00000E+0 c\n2.00000E+0,\n2.00000E+0,",
             "2.00000000000000E+0 c\n2.00000000000000E+0,\n2.00000000000000E+0,");
         row(
-            "element", [](W& w) { return w.writeElement(7); }, "element    7\n", "element         7\n",
-            "element,7,\n", "element,7,\n");
-        row(
-            "feature, nodal", [](W& w) { return w.writeFeature(12) && w.writeNodal(-3); },
-            "feature   12\nnodal   -3\n", "feature        12\nnodal        -3\n", "feature,12,\nnodal,-3,\n",
-            "feature,12,\nnodal,-3,\n");
+            "entities", [](W& w) { return w.writeElement(7) && w.writeFeature(12) && w.writeNodal(-3); },
+            "element    7\nfeature   12\nnodal   -3\n",
+            "element         7\nfeature        12\nnodal        -3\n", "element,7,\nfeature,12,\nnodal,-3,\n",
+            "element,7,\nfeature,12,\nnodal,-3,\n");
         row(
             "title", [](W& w) { return w.writeTitle(QStringLiteral("Prüfung\r\n1\n\n2")); },
             "titlePrüfung 1  2\n", "titlePrüfung 1  2\n", "title,Prüfung 1  2\n", "title,Prüfung 1  2\n");
@@ -222,12 +198,10 @@ private Q_SLOTS:
     void listGroups_data()
     {
         QTest::addColumn<int>("perLine");
-        QTest::newRow("full lines") << 100;
         QTest::newRow("tens") << 10;
         QTest::newRow("single") << 1;
         QTest::newRow("groups that lines break") << 20;
         QTest::newRow("backwards") << -7;
-        QTest::newRow("huge") << std::numeric_limits<int>::min();
     }
 
     void listGroups()
@@ -268,20 +242,13 @@ private Q_SLOTS:
         const QByteArray full(158, 'x');
         const auto bytes = [](const char* unit, int count) { return QByteArray(unit).repeated(count); };
         QTest::newRow("empty") << QByteArray() << QByteArray("$ \n");
-        QTest::newRow("one less") << full.left(157) << "$ " + full.left(157) + "\n";
         QTest::newRow("one line") << full << "$ " + full + "\n$ \n";
-        QTest::newRow("one more") << full + "y"
-                                  << "$ " + full + "\n$ y\n";
         QTest::newRow("two lines") << full + full << "$ " + full + "\n$ " + full + "\n$ \n";
         QTest::newRow("line break") << QByteArray("a\r\nb\rc") << QByteArray("$ a b c\n");
         QTest::newRow("two bytes across the cut") << full.left(157) + "ö"
                                                   << "$ " + full.left(157) + "\n$ ö\n";
-        QTest::newRow("two bytes before the cut") << full.left(156) + "öy"
-                                                  << "$ " + full.left(156) + "ö\n$ y\n";
         QTest::newRow("three bytes") << bytes("€", 60)
                                      << "$ " + bytes("€", 52) + "\n$ " + bytes("€", 8) + "\n";
-        QTest::newRow("four bytes") << "ab" + bytes("𝄞", 40) << "$ ab" + bytes("𝄞", 39) + "\n$ 𝄞\n";
-        QTest::newRow("no local text") << bytes("\xff", 160) << "$ " + bytes("\xff", 158) + "\n$ \xff\xff\n";
     }
 
     void comments()
@@ -291,11 +258,6 @@ private Q_SLOTS:
         DeckBuffer fromChars;
         QVERIFY(fromChars.writer().writeCommentLine(text.constData()));
         QCOMPARE(fromChars.bytes(), deck);
-        DeckBuffer fromString;
-        QVERIFY(fromString.writer().writeCommentLine(text.toStdString()));
-        QCOMPARE(fromString.bytes(), deck);
-        if (QString::fromLocal8Bit(text).toLocal8Bit() != text)
-            return;
         DeckBuffer fromQString;
         QVERIFY(fromQString.writer().writeCommentLine(QString::fromLocal8Bit(text)));
         QCOMPARE(fromQString.bytes(), deck);
@@ -305,18 +267,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("codec");
         QTest::addColumn<QString>("unit");
-        QTest::addColumn<int>("firstLine");
-        QTest::newRow("one byte") << QByteArray("ISO-8859-1") << QStringLiteral("ö") << 158;
         QTest::newRow("two bytes, the second may be ASCII")
-            << QByteArray("Shift_JIS") << QStringLiteral("ソ") << 157;
-        QTest::newRow("four bytes") << QByteArray("GB18030") << QStringLiteral("𝄞") << 157;
+            << QByteArray("Shift_JIS") << QStringLiteral("ソ");
+        QTest::newRow("four bytes") << QByteArray("GB18030") << QStringLiteral("𝄞");
     }
 
     void commentsInOtherLocalEncodings()
     {
         QFETCH(QByteArray, codec);
         QFETCH(QString, unit);
-        QFETCH(int, firstLine);
         QTextCodec* const local = QTextCodec::codecForName(codec);
         if (!local)
             QSKIP("This system does not know the encoding.");
@@ -326,7 +285,7 @@ private Q_SLOTS:
         QVERIFY(deck.writer().writeCommentLine(text));
         QList<QByteArray> lines = deck.bytes().split('\n');
         QVERIFY(lines.takeLast().isEmpty());
-        QCOMPARE(lines.constFirst().size(), 2 + firstLine);
+        QCOMPARE(lines.constFirst().size(), 159);
         QString read;
         for (const QByteArray& line : qAsConst(lines)) {
             QVERIFY(line.size() <= 160);
@@ -351,10 +310,6 @@ private Q_SLOTS:
         row("longest text", false, false, [](W& w) { return w.writeString(std::string(127, 'a'), 0); });
         row("text too long", true, true,
             [](W& w) { return w.writeString(QString(128, QLatin1Char('a')), 0); });
-        row("key too long", true, true,
-            [](W& w) { return w.writeParameterSectionKey(std::string(128, 'a')); });
-        row("longest joined", false, false,
-            [](W& w) { return w.writeStringCombiUnformatted(std::string(1022, 'a'), 1); });
         row("joined too long", true, true, [](W& w) {
             return w.writeStringCombiUnformatted(QString(1000, QLatin1Char('a')),
                                                  QString(24, QLatin1Char('b')));
@@ -379,22 +334,12 @@ private Q_SLOTS:
     void defaultsAndLimits()
     {
         CFEDatLineWriter writer;
-        QCOMPARE(int(writer.getFormat()), 1);
-        QCOMPARE(int(writer.getExtensionMode()), 1);
-        QVERIFY(writer.isInWriteMode());
         QCOMPARE(writer.getMaxWidthForInt(), 10);
-        QCOMPARE(writer.getMaxWidthForDouble(), 20);
-        QCOMPARE(writer.getMaxNumberOfItemsPerLine<int>(), 16);
         QCOMPARE(writer.getMaxNumberOfItemsPerLineForDouble(), 8);
-        const CFEDatLineWriter narrow(CFEDatLineWriter::standard, CFEDatLineWriter::fixed);
-        QCOMPARE(narrow.getMaxNumberOfItemsPerLineForInt(), 32);
-        QCOMPARE(narrow.getMaxNumberOfItemsPerLine<double>(), 16);
-        QCOMPARE(CFEDatLineWriter::getMaxNumberOfItemsPerLine(0), 0);
         char text[CFEDatLineWriter::doubleBufferSize];
         QCOMPARE(writer.formatDouble(1.5, false, text), 19);
         writer.setFormat(datFormat(2)); // any other code is free, but only code 1 narrows
         QCOMPARE(writer.formatDouble(1.5, false, text), 20);
-        QCOMPARE(CFEDatLineWriter::tr("deck"), QStringLiteral("deck"));
     }
 
     void formatsAreStacked()
@@ -414,26 +359,16 @@ private Q_SLOTS:
         QCOMPARE(log.records().constFirst().tag, kdLog::FailedAssert);
     }
 
-    void cardGoesOnAfterFailure()
-    {
-        DeckBuffer deck;
-        QVERIFY(!deck.writer().writeCard(TwoLineCard()));
-        QCOMPARE(deck.bytes(), QByteArray("two lines\n"));
-    }
-
     void crop_data()
     {
         QTest::addColumn<double>("value");
         QTest::addColumn<double>("cropped");
         QTest::newRow("too small") << 1e-120 << 0.0;
-        QTest::newRow("denormal") << -5e-324 << 0.0;
         QTest::newRow("least") << 1e-99 << 1e-99;
-        QTest::newRow("usual") << -12.5 << -12.5;
         QTest::newRow("just fits") << 9.99e99 << 9.99e99;
         QTest::newRow("limit") << 1e100 << 1e99;
         QTest::newRow("too large") << 5e105 << 5e99;
         QTest::newRow("negative") << -5e105 << -5e99;
-        QTest::newRow("largest") << std::numeric_limits<double>::max() << 1.7976931348623157e99;
         QTest::newRow("infinite") << -infinity << -infinity;
     }
 
