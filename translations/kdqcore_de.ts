@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>CsvCommands</name>
+    <message>
+        <source>Tables as commented CSV files for spreadsheets and scripts.</source>
+        <translation>Tabellen als kommentierte CSV-Dateien für Tabellenkalkulationen und Skripte.</translation>
+    </message>
+    <message>
+        <source>Writes a table as CSV; titles: one line of titles instead of comments; bare: rows alone; protect: no text runs as a formula; mark: byte order mark.</source>
+        <translation>Schreibt eine Tabelle als CSV; titles: eine Zeile mit Überschriften statt Kommentaren; bare: nur die Zeilen; protect: kein Text wird als Formel ausgeführt; mark: Bytereihenfolge-Marke.</translation>
+    </message>
+    <message>
+        <source>Shows the separators that CSV files get where nothing is said; stores others for this and later runs.</source>
+        <translation>Zeigt die Trennzeichen, die CSV-Dateien ohne Angabe erhalten; speichert andere für diesen und spätere Läufe.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos; written to &apos;%2&apos;.</source>
+        <translation>Tabelle „%1“ in „%2“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>&apos;titles&apos; and &apos;bare&apos; exclude each other.</source>
+        <translation>„titles“ und „bare“ schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>No column of table &apos;%1&apos; can be converted to &apos;%2&apos;.</source>
+        <translation>Keine Spalte der Tabelle „%1“ lässt sich in „%2“ umrechnen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no decimal mark; possible are point and comma.</source>
+        <translation>„%1“ ist kein Dezimalzeichen; möglich sind point und comma.</translation>
+    </message>
+    <message>
+        <source>The settings &apos;%1&apos; cannot be read or written.</source>
+        <translation>Die Einstellungen „%1“ lassen sich nicht lesen oder schreiben.</translation>
+    </message>
+</context>
+<context>
     <name>DeckCommands</name>
     <message>
         <source>The table needs an id above 0 (id ID).</source>
@@ -626,6 +665,21 @@ gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war.</
     </message>
 </context>
 <context>
+    <name>coCSVWriter</name>
+    <message>
+        <source>Units in this file</source>
+        <translation>Einheiten in dieser Datei</translation>
+    </message>
+    <message>
+        <source>CSV file produced by </source>
+        <translation>CSV-Datei erstellt von </translation>
+    </message>
+    <message>
+        <source>Date of creation: </source>
+        <translation>Erstellungsdatum: </translation>
+    </message>
+</context>
+<context>
     <name>coExpressionOrder</name>
     <message>
         <source>&apos;%1&apos; cannot be the name of a formula.</source>
@@ -831,6 +885,17 @@ der ausgewertet lautet:
     <message>
         <source>include script &apos;%1&apos; is one more than the %2 that are allowed</source>
         <translation>das eingebundene Skript „%1“ ist eines mehr als die erlaubten %2</translation>
+    </message>
+</context>
+<context>
+    <name>coTableCSVWriter</name>
+    <message>
+        <source>Table: </source>
+        <translation>Tabelle: </translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
     </message>
 </context>
 <context>

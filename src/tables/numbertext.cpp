@@ -113,6 +113,13 @@ char* nNumberText::writeShortest(char* out, double value)
     return std::to_chars(out, out + capacity, value).ptr;
 }
 
+char* nNumberText::writeShortest(char* out, float value)
+{
+    if (writeSpecial(out, double(value)))
+        return out;
+    return std::to_chars(out, out + capacity, value).ptr;
+}
+
 bool nNumberText::read(const char* first, const char* last, double& value)
 {
     while (first != last && isBlank(*first))

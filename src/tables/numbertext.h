@@ -21,6 +21,7 @@ char* writeRounded(char* out, double value);
 
 /// Writes the shortest text that reads back as the same double and returns its end.
 char* writeShortest(char* out, double value);
+char* writeShortest(char* out, float value);
 
 /// Reads the whole of [first, last), blanks around it and a plus sign allowed; "nan" and "inf" are numbers.
 /// False for anything else, and for a number too large for a double; one too small becomes zero.
