@@ -90,6 +90,7 @@ int runShell(const ShellOptions& options, const QString& dataFolder)
     console.setQuiet(options.isQuiet);
     kdCommandDispatcher::I().startReportingTo(console.reporter());
     ShellSession session;
+    session.setSettingsFile(QDir(dataFolder).filePath(QStringLiteral("kaldoran/kdqsh.ini")));
     QString error;
     const std::unique_ptr<LineSource> source = openSource(options, dataFolder, error);
     if (source == nullptr) {

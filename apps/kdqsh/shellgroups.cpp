@@ -1,5 +1,6 @@
 #include "shellgroups.h"
 
+#include "csvcommands.h"
 #include "deckcommands.h"
 #include "logcommands.h"
 #include "tablecommands.h"
@@ -18,8 +19,8 @@ QSharedPointer<kdCommand> create(const QString& parameters)
 
 const QVector<const ShellCommandGroup*>& nShellGroups::all()
 {
-    static const QVector<const ShellCommandGroup*> groups{&TableCommands::group(), &DeckCommands::group(),
-                                                          &LogCommands::group()};
+    static const QVector<const ShellCommandGroup*> groups{&TableCommands::group(), &CsvCommands::group(),
+                                                          &DeckCommands::group(), &LogCommands::group()};
     return groups;
 }
 
@@ -35,6 +36,7 @@ void nShellGroups::registerCommands()
 {
     kdCommandDispatcher& dispatcher = kdCommandDispatcher::I();
     dispatcher.registerCommand(create<TableCommands::group>);
+    dispatcher.registerCommand(create<CsvCommands::group>);
     dispatcher.registerCommand(create<DeckCommands::group>);
     dispatcher.registerCommand(create<LogCommands::group>);
 }

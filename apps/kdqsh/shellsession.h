@@ -21,6 +21,11 @@ public:
     /// A file to read is looked for in the working directory, then beside the script.
     QString inputPath(const QString& path) const;
 
+    void setSettingsFile(const QString& path) { m_settingsFile = path; }
+    /// Where the user's choices are kept from run to run.
+    QString settingsFile() const { return m_settingsFile; }
+
 private:
     QString m_scriptFolder;
+    QString m_settingsFile;
 };

@@ -16,6 +16,8 @@ public:
     /// Index of the column that \a word names: by its name or title, as x or y, or by its number from 1 on.
     /// Reports and returns -1 where there is none.
     static int columnIndex(const ShellCall& call, const kdDataTable& table, const QString& word);
+    /// The separator that a word names: tab, blank, or the word itself; a semicolon for an empty one.
+    static QString separator(const QString& word);
 
 private:
     static bool list(ShellCall& call);

@@ -25,7 +25,9 @@ bool openForReading(const ShellCall& call, QFile& file)
     return call.fail(TableCommands::tr("'%1' cannot be read: %2").arg(file.fileName(), file.errorString()));
 }
 
-QString separatorOf(const QString& word)
+} // namespace
+
+QString TableCommands::separator(const QString& word)
 {
     if (word.isEmpty())
         return QStringLiteral(";");
@@ -33,8 +35,6 @@ QString separatorOf(const QString& word)
         return QStringLiteral("\t");
     return word == QLatin1String("blank") ? QStringLiteral(" ") : word;
 }
-
-} // namespace
 
 bool TableCommands::import(ShellCall& call)
 {
@@ -94,8 +94,7 @@ bool TableCommands::exportTable(ShellCall& call)
     QFile file(call.text(2));
     if (!file.open(QIODevice::WriteOnly))
         return call.fail(tr("'%1' cannot be written: %2").arg(call.text(2), file.errorString()));
-    const bool isWritten =
-        isXml ? table->writeXML(file) : exportText(*table, file, separatorOf(call.text(3)));
+    const bool isWritten = isXml ? table->writeXML(file) : exportText(*table, file, separator(call.text(3)));
     if (!file.flush() || !isWritten)
         return call.fail(tr("'%1' cannot be written: %2").arg(call.text(2), file.errorString()));
     call.tell(tr("Table '%1' written to '%2'.").arg(call.text(1), call.text(2)));

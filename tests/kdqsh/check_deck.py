@@ -116,6 +116,7 @@ class Sources:
         self.stress_kelvin = [float(celsius) + ZERO_CELSIUS for celsius in header[1:]]
         _, fire = read_csv(folder / "iso834_fire_curve.csv")
         self.fire_seconds = [minutes * 60.0 for minutes in fire[0]]
+        self.fire_celsius = fire[1]
         self.fire_kelvin = [celsius + ZERO_CELSIUS for celsius in fire[1]]
 
 
@@ -192,14 +193,27 @@ def check_exports(folder, sources):
         rows = [[float(cell) for cell in row.text.split(";")] for row in root.iter("row")]
         for found, exact in zip(rows, zip(sources.kelvin, y), strict=True):
             assert all(math.isclose(a, b, rel_tol=1e-15) for a, b in zip(found, exact)), (name, found)
-    for name, columns in (("stress_strain", [sources.strain] + sources.stress),
-                          ("fire_curve", [sources.fire_seconds, sources.fire_kelvin])):
-        with open(folder / f"{name}.csv", newline="", encoding="utf-8") as file:
-            lines = [line for line in file if not line.startswith("#")]
-        rows = [[float(cell) for cell in row] for row in csv.reader(lines, delimiter=";")]
-        for found, exact in zip(rows, zip(*columns), strict=True):
-            assert len(found) == len(exact) and all(math.isclose(a, b, rel_tol=1e-14) for a, b in zip(found, exact)), (
-                name, found, exact)
+    check_rows(folder / "fire_curve.txt", [sources.fire_seconds, sources.fire_kelvin])
+    check_rows(folder / "stress_strain.csv", [sources.strain] + sources.stress)
+    check_rows(folder / "fire_curve.csv", [[s / 60.0 for s in sources.fire_seconds], sources.fire_celsius])
+    celsius = [kelvin - ZERO_CELSIUS for kelvin in sources.kelvin]
+    check_rows(folder / "yield_stress.csv", [celsius, sources.yield_stress], ["temperature [°C]", "yield_stress [MPa]"])
+    check_rows(folder / "youngs_modulus.csv", [celsius, [modulus / 1000.0 for modulus in sources.youngs_modulus]],
+               ["temperature [°C]", "youngs_modulus [GPa]"])
+
+
+def check_rows(path, columns, titles=None):
+    """A file of values, comments apart; one with a row of titles is made for a spreadsheet: mark, decimal comma."""
+    with open(path, newline="", encoding="utf-8-sig" if titles else "utf-8") as file:
+        rows = list(csv.reader((line for line in file if not line.startswith("#")), delimiter=";"))
+    assert path.read_bytes().startswith(b"\xef\xbb\xbf") == bool(titles), path
+    if titles:
+        assert rows.pop(0) == titles, path
+        assert not any("." in cell for row in rows for cell in row), path
+    for row, exact in zip(rows, zip(*columns), strict=True):
+        found = [float(cell.replace(",", ".")) for cell in row]
+        assert len(found) == len(exact) and all(
+            math.isclose(a, b, rel_tol=1e-14, abs_tol=1e-12) for a, b in zip(found, exact)), (path, found, exact)
 
 
 def run_example(kdqsh, example, layout, widths):

@@ -23,6 +23,9 @@ private Q_SLOTS:
     void fullDeviceIsReported();
     void exportIsReadBack_data();
     void exportIsReadBack();
+    void csv_data();
+    void csv();
+    void csvSettingsAreKept();
     void languageIsChosen_data();
     void languageIsChosen();
     void helpStandsInTheDocumentation();
@@ -177,6 +180,20 @@ void TestKdqsh::errors_data()
     row("own word with arguments", S("undo all"), S("undo: 'undo' takes no arguments."));
     row("unknown help", S("help me"), S("help: There is no command 'me'; 'help' shows them all."));
     row("wrong severity", S("log write 7 x"), S("log write: A severity is 0 to 6, not 7."));
+    row("csv of no table", curve + S("csv export d a.csv"), S("csv export: There is no table 'd', only c."));
+    row("csv into nowhere", curve + S("csv export c none/a.csv"),
+        S("csv export: 'none/a.csv' cannot be written: *"));
+    row("unknown word of csv", curve + S("csv export c a.csv semicolon"),
+        S("csv export: 'semicolon' is unknown here; possible are: separator, decimal, units, prefix, titles, "
+          "bare, protect, mark."));
+    row("csv with two headers", curve + S("csv export c a.csv bare titles"),
+        S("csv export: 'titles' and 'bare' exclude each other."));
+    row("wrong decimal mark", curve + S("csv export c a.csv decimal ,"),
+        S("csv export: ',' is no decimal mark; possible are point and comma."));
+    row("wrong unit of csv", curve + S("csv export c a.csv units s,MPa"),
+        S("csv export: No column of table 'c' can be converted to 'MPa'."));
+    row("wrong decimal mark of settings", S("csv settings separator | decimal dot"),
+        S("csv settings: 'dot' is no decimal mark; possible are point and comma."));
     row("no deck", S("deck title x"), S("deck title: No deck is open; see 'deck open'."));
     row("wrong layout", S("deck open a.dat wide"),
         S("deck open: 'wide' is no layout; possible are fixed, free, standard, extended."));
@@ -423,11 +440,11 @@ void TestKdqsh::fullDeviceIsReported()
              qPrintable(shell.errors));
     QCOMPARE(shell.status, 1);
 
-    for (const QString& form : {S("xml"), S("text")}) {
-        QVERIFY(shell.runCommands(S("table import curve.csv as c; table export %1 c /dev/full").arg(form)));
-        QVERIFY2(
-            shell.errors.startsWith(S("-c:1: table export: '/dev/full' cannot be written: No space left")),
-            qPrintable(shell.errors));
+    for (const QString& form : {S("table export xml"), S("table export text"), S("csv export")}) {
+        QVERIFY(shell.runCommands(S("table import curve.csv as c; %1 c /dev/full").arg(form)));
+        QVERIFY2(shell.errors.startsWith(S("-c:1: %1: '/dev/full' cannot be written: No space left")
+                                             .arg(form.section(QLatin1Char(' '), 0, 1))),
+                 qPrintable(shell.errors));
         QCOMPARE(shell.status, 1);
     }
 }
@@ -436,11 +453,15 @@ void TestKdqsh::exportIsReadBack_data()
 {
     QTest::addColumn<QString>("write");
     QTest::addColumn<QString>("read");
-    QTest::newRow("xml") << S("xml c 'my table.xml'") << S("load 'my table.xml' as d");
-    QTest::newRow("text") << S("text c t.csv") << S("import t.csv as d");
-    QTest::newRow("text with tabs") << S("text c t.csv tab") << S("import t.csv as d");
-    QTest::newRow("text with commas") << S("text c t.csv ','") << S("import t.csv as d");
-    QTest::newRow("text with blanks") << S("text c t.csv blank") << S("import t.csv as d");
+    QTest::newRow("xml") << S("table export xml c 'my table.xml'") << S("table load 'my table.xml' as d");
+    QTest::newRow("text") << S("table export text c t.csv") << S("table import t.csv as d");
+    QTest::newRow("text with tabs") << S("table export text c t.csv tab") << S("table import t.csv as d");
+    QTest::newRow("text with commas") << S("table export text c t.csv ','") << S("table import t.csv as d");
+    QTest::newRow("csv") << S("csv export c t.csv separator ';' titles") << S("table import t.csv as d");
+    QTest::newRow("csv with every word")
+        << S("csv export c t.csv separator tab decimal comma titles mark protect")
+        << S("table import t.csv as d");
+    QTest::newRow("text with blanks") << S("table export text c t.csv blank") << S("table import t.csv as d");
 }
 
 void TestKdqsh::exportIsReadBack()
@@ -452,11 +473,65 @@ void TestKdqsh::exportIsReadBack()
     QVERIFY(shell.runCommands(S("table import curve.csv as c; table show c"), {S("-q")}));
     const QString expected = shell.output;
     QVERIFY(shell.runCommands(
-        S("table import curve.csv as c; table export %1; table remove c; table %2; table show d")
-            .arg(write, read),
-        {S("-q")}));
+        S("table import curve.csv as c; %1; table remove c; %2; table show d").arg(write, read), {S("-q")}));
     QCOMPARE(shell.errors, QString());
     QCOMPARE(shell.output, expected);
+}
+
+void TestKdqsh::csv_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QByteArray>("file"); // without the lines that begin with "# CSV" and "# Date"
+    const QByteArray name("#\n# Table: c\n#\n");
+    QTest::newRow("nothing said") << QString()
+                                  << name
+            + "# time [min];temperature [\xC2\xB0"
+              "C]\n0;20\n1;120\n3;420\n";
+    QTest::newRow("all separators") << S("decimal comma separator ',' units h prefix %")
+                                    << QByteArray("%\n% Units in this file\n% Time: hour [h]\n% Table: c\n%\n"
+                                                  "% time [h],temperature [\xC2\xB0"
+                                                  "C]\n0,20\n"
+                                                  "\"0,016666666666666666\",120\n\"0,05\",420\n");
+    QTest::newRow("titles alone, units of both") << S("titles units s,K separator tab mark")
+                                                 << QByteArray("\xEF\xBB\xBFtime [s]\ttemperature [K]\n"
+                                                               "0\t293.15\n60\t393.15\n180\t693.15\n");
+    QTest::newRow("bare") << S("bare separator blank") << QByteArray("0 20\n1 120\n3 420\n");
+}
+
+void TestKdqsh::csv()
+{
+    QFETCH(QString, words);
+    KdqshRun shell;
+    prepare(shell);
+    QVERIFY(shell.runCommands(S("table import curve.csv as c; csv export c a.csv ") + words));
+    QCOMPARE(shell.errors, QString());
+    QString text = QString::fromUtf8(shell.read(S("a.csv")));
+    text.remove(QLatin1Char('\r'));
+    text.remove(
+        QRegularExpression(S("^. (CSV file produced by kdqsh " KDQSH_VERSION "|Date of creation: .*)\n"),
+                           QRegularExpression::MultilineOption));
+    QFETCH(QByteArray, file);
+    QCOMPARE(text, QString::fromUtf8(file));
+}
+
+void TestKdqsh::csvSettingsAreKept()
+{
+    KdqshRun shell;
+    prepare(shell);
+    const QString exported = S("table import curve.csv as c; table convert c x h; csv export c a.csv bare");
+    QVERIFY(shell.runCommands(S("csv settings"), {S("-q")}));
+    QCOMPARE(shell.output, S("separator ';' decimal point\n"));
+    QVERIFY(shell.runCommands(S("csv settings decimal comma separator tab"), {S("-q")}));
+    QVERIFY(shell.runCommands(
+        S("csv settings separator | ; csv settings decimal point; csv settings decimal comma"), {S("-q")}));
+    QCOMPARE(shell.output,
+             S("separator '|' decimal comma\nseparator '|' decimal point\n"
+               "separator '|' decimal comma\n"));
+    QVERIFY(shell.runCommands(exported));
+    QVERIFY(shell.read(S("a.csv")).contains("\n0,05|420"));
+    QVERIFY(shell.runCommands(exported + S(" decimal point")));
+    QVERIFY(shell.read(S("a.csv")).contains("\n0.05|420"));
+    QVERIFY(QFile::exists(shell.path(S("data/kaldoran/kdqsh.ini"))));
 }
 
 void TestKdqsh::languageIsChosen_data()
@@ -492,7 +567,7 @@ void TestKdqsh::helpStandsInTheDocumentation()
     QVERIFY(page.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(page.readAll());
     KdqshRun shell;
-    for (const QString& topic : {S(""), S("table"), S("deck"), S("log")}) {
+    for (const QString& topic : {S(""), S("table"), S("csv"), S("deck"), S("log")}) {
         QVERIFY(shell.runCommands(S("help ") + topic));
         QVERIFY2(text.contains(S("```\n%1```\n").arg(shell.output)), qPrintable(topic));
     }

@@ -50,7 +50,7 @@ void TestShellCompletion::candidates_data()
         QTest::newRow(typed) << QString::fromLatin1(typed) << expected;
     };
     row("",
-        {QStringLiteral("deck"), QStringLiteral("help"), QStringLiteral("history"),
+        {QStringLiteral("csv"), QStringLiteral("deck"), QStringLiteral("help"), QStringLiteral("history"),
          QStringLiteral("language"), QStringLiteral("list"), QStringLiteral("log"), QStringLiteral("quit"),
          QStringLiteral("redo"), QStringLiteral("table"), QStringLiteral("undo")});
     row("h", {QStringLiteral("help"), QStringLiteral("history")});
