@@ -29,7 +29,8 @@ public:
     bool execute() override
     {
         events.append(QStringLiteral("do ") + parameter());
-        errorMessage(QStringLiteral("reported by ") + parameter());
+        if (parameter() == QStringLiteral("loud"))
+            errorMessage(parameter());
         if (parameter() == QStringLiteral("throw"))
             throw std::runtime_error("out of steam");
         if (parameter() == QStringLiteral("odd"))
@@ -86,7 +87,6 @@ class TestKdCommandDispatcher : public QObject {
 private:
     QScopedPointer<kdReporter> m_reporter;
     QStringList m_errors;
-    bool m_redoLeftAtExecution = false;
 
     static kdCommandDispatcher& dispatcher() { return kdCommandDispatcher::I(); }
 
@@ -94,9 +94,8 @@ private:
     void follow()
     {
         connect(&dispatcher(), &kdCommandDispatcher::signalCommandExecuted,
-                [this](const QSharedPointer<kdCommand>& c) {
+                [](const QSharedPointer<kdCommand>& c) {
                     events.append(QStringLiteral("executed ") + c->parameter());
-                    m_redoLeftAtExecution = dispatcher().redoAvailable();
                 });
         connect(&dispatcher(), &kdCommandDispatcher::signalCommandReverted,
                 [](const QSharedPointer<kdCommand>& c) {
@@ -108,11 +107,6 @@ private:
                 [](bool on) { events.append(on ? QStringLiteral("redo on") : QStringLiteral("redo off")); });
     }
 
-    static QStringList split(const char* text)
-    {
-        return QString::fromUtf8(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-    }
-
 private Q_SLOTS:
     void init()
     {
@@ -121,11 +115,12 @@ private Q_SLOTS:
         QVERIFY(dispatcher().registerCommand(createSet));
         QVERIFY(dispatcher().registerCommand(createLateSet));
         m_errors.clear();
-        m_redoLeftAtExecution = false;
         events.clear();
         m_reporter.reset(new kdReporter);
-        connect(m_reporter.data(), &kdReporter::signalErrorMessage,
-                [this](const QString& t) { m_errors.append(t); });
+        connect(m_reporter.data(), &kdReporter::signalErrorMessage, [this](const QString& t) {
+            m_errors.append(t);
+            events.append(QStringLiteral("error ") + t);
+        });
         dispatcher().startReportingTo(*m_reporter);
         follow();
     }
@@ -165,97 +160,58 @@ private Q_SLOTS:
         }
     }
 
-    void lines_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<bool>("succeeds");
-        QTest::addColumn<QStringList>("expectedEvents");
-        QTest::addColumn<QStringList>("errors");
-        const auto row = [](const char* name, const char* line, bool succeeds, const char* done,
-                            const char* errors) {
-            QTest::newRow(name) << QString::fromUtf8(line) << succeeds << split(done) << split(errors);
-        };
-        row("empty", "", true, "", "");
-        row("semicolons only", " ;; ;", true, "", "");
-        row("one command", "set a", true, "do a|executed a|undo on", "reported by a");
-        row("parameters keep their blanks", "set  a  b\tc ", true, "do a  b\tc|executed a  b\tc|undo on",
-            "reported by a  b\tc");
-        row("blanks around", " ; set a ;\n set b; ", true, "do a|executed a|undo on|do b|executed b",
-            "reported by a|reported by b");
-        row("stops at the first failure", "set a;set fail;set b", false, "do a|executed a|undo on|do fail",
-            "reported by a|reported by fail");
-        row("unknown with parameters", "paint it  %1 %2", false, "", "Unknown command: >paint it  %1 %2<!");
-        row("it closes the way back", "set a;set fixed", true,
-            "do a|executed a|undo on|do fixed|executed fixed|undo off", "reported by a|reported by fixed");
-        row("nested", "set nested", true, "do nested|do x|executed x|undo on|do y|executed y|executed nested",
-            "reported by nested|reported by x|reported by y");
-        row("exception", "set throw;set a", false, "do throw",
-            "reported by throw|The command 'set throw' failed: out of steam");
-        row("within itself", "set again", false, "do again", "reported by again");
-        row("removes the dispatcher", "set quit; set a", false, "do quit", "reported by quit");
-    }
-
-    void lines()
-    {
-        QFETCH(QString, line);
-        QFETCH(bool, succeeds);
-        QFETCH(QStringList, expectedEvents);
-        QFETCH(QStringList, errors);
-        QCOMPARE(dispatcher().execute(line), succeeds);
-        QCOMPARE(events, expectedEvents);
-        QCOMPARE(m_errors, errors);
-    }
-
     void aVeryLongLineNeedsNoDeepStack()
     {
         QVERIFY(dispatcher().execute(QStringLiteral("set a;").repeated(20000)));
         QCOMPARE(livingCommands, 20000);
     }
 
-    /// Steps: "u" undo, "r" redo, anything else is a command line. Then what the lists offer.
-    void undoAndRedo_data()
+    /// Steps: "u" undo, "r" redo, anything else is a command line.
+    void sequences_data()
     {
         QTest::addColumn<QStringList>("steps");
         QTest::addColumn<QStringList>("expectedEvents");
-        QTest::addColumn<bool>("undoLeft");
-        QTest::addColumn<bool>("redoLeft");
-        const auto row = [](const char* name, const char* steps, const char* done, bool undoLeft,
-                            bool redoLeft) {
-            QTest::newRow(name) << split(steps) << split(done) << undoLeft << redoLeft;
+        const auto row = [](const char* name, const char* steps, const char* expected) {
+            QTest::newRow(name) << QString::fromUtf8(steps).split(QLatin1Char('|'))
+                                << QString::fromUtf8(expected).split(QLatin1Char('|'), Qt::SkipEmptyParts);
         };
+        row("empty", "", "");
+        row("semicolons only", " ;; ;", "");
+        row("parameters keep their blanks", "set  a  b\tc ", "do a  b\tc|executed a  b\tc|undo on");
+        row("blanks around", " ; set a ;\n set b; ", "do a|executed a|undo on|do b|executed b");
+        row("stops at the first failure", "set a;set fail;set b", "do a|executed a|undo on|do fail|failed");
+        row("unknown", "paint it  %1 %2", "error Unknown command: >paint it  %1 %2<!|failed");
+        row("closes the way back", "set a;set fixed|u",
+            "do a|executed a|undo on|do fixed|executed fixed|undo off|failed");
+        row("nested", "set nested", "do nested|do x|executed x|undo on|do y|executed y|executed nested");
+        row("exception", "set throw;set a",
+            "do throw|error The command 'set throw' failed: out of steam|failed");
+        row("within itself", "set again", "do again|failed");
+        row("removes the dispatcher", "set quit; set a", "do quit|failed");
         row("there and back twice", "set a|u|r|u|r",
             "do a|executed a|undo on|undo a|reverted a|undo off|redo on|do a|executed a|undo on|"
-            "undo a|reverted a|undo off|redo on|do a|executed a|undo on",
-            true, false);
+            "undo a|reverted a|undo off|redo on|do a|executed a|undo on");
         row("redo takes the one undone last", "set a;set b|u|u|r",
             "do a|executed a|undo on|do b|executed b|undo b|reverted b|undo on|redo on|"
-            "undo a|reverted a|undo off|redo on|do a|executed a|undo on",
-            true, true);
-        row("not allowed", "set fixed|u", "do fixed|executed fixed", false, false);
-        row("fails", "set stuck|u|u", "do stuck|executed stuck|undo on|undo stuck|undo stuck", true, false);
-        row("new command keeps the redo list", "set a|u|set b",
-            "do a|executed a|undo on|undo a|reverted a|undo off|redo on|do b|executed b|undo on", true, true);
+            "undo a|reverted a|undo off|redo on|do a|executed a|undo on");
+        row("undo fails", "set stuck|u|u",
+            "do stuck|executed stuck|undo on|undo stuck|failed|undo stuck|failed");
+        row("new command keeps the redo list", "set a|u|set b|r",
+            "do a|executed a|undo on|undo a|reverted a|undo off|redo on|do b|executed b|undo on|do a|"
+            "executed a");
     }
 
-    void undoAndRedo()
+    void sequences()
     {
         QFETCH(QStringList, steps);
-        QFETCH(QStringList, expectedEvents);
-        QFETCH(bool, undoLeft);
-        QFETCH(bool, redoLeft);
         for (const QString& step : qAsConst(steps)) {
-            if (step == QStringLiteral("u"))
-                dispatcher().slotUndo();
-            else if (step == QStringLiteral("r"))
-                dispatcher().slotRedo();
-            else
-                dispatcher().execute(step);
+            const bool succeeded = step == QStringLiteral("u") ? dispatcher().slotUndo()
+                : step == QStringLiteral("r")                  ? dispatcher().slotRedo()
+                                                               : dispatcher().execute(step);
+            if (!succeeded)
+                events.append(QStringLiteral("failed"));
         }
-        QCOMPARE(events, expectedEvents);
-        QCOMPARE(dispatcher().undoAvailable(), undoLeft);
-        QCOMPARE(dispatcher().redoAvailable(), redoLeft);
-        if (steps.constLast() == QStringLiteral("r"))
-            QCOMPARE(m_redoLeftAtExecution, redoLeft);
+        QTEST(events, "expectedEvents");
     }
 
     void redoRunsTheSameObject()
@@ -263,7 +219,9 @@ private Q_SLOTS:
         QSignalSpy executed(&dispatcher(), &kdCommandDispatcher::signalCommandExecuted);
         QVERIFY(dispatcher().execute(QStringLiteral("set a")));
         QVERIFY(dispatcher().slotUndo());
+        QVERIFY(dispatcher().redoAvailable() && !dispatcher().undoAvailable());
         QVERIFY(dispatcher().slotRedo());
+        QVERIFY(!dispatcher().redoAvailable() && dispatcher().undoAvailable());
         QCOMPARE(executed.size(), 2);
         QCOMPARE(executed.at(0).at(0).value<QSharedPointer<kdCommand>>(),
                  executed.at(1).at(0).value<QSharedPointer<kdCommand>>());
@@ -332,7 +290,7 @@ private Q_SLOTS:
 
     void aCommandsOwnReportersStay()
     {
-        const QSharedPointer<kdCommand> command = createSet(QStringLiteral("a"));
+        const QSharedPointer<kdCommand> command = createSet(QStringLiteral("loud"));
         command->startReportingTo(*m_reporter);
         QVERIFY(dispatcher().execute(command));
         QCOMPARE(m_errors.size(), 1);
