@@ -131,13 +131,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("points");
         QTest::addColumn<QStringList>("log");
         const QString three = QStringLiteral("Number of y values of table yield stress (Id=3) should be 3.");
-        const QString none = QStringLiteral("Number of y values of table yield stress (Id=3) should be 0.");
         const QString descends =
             QStringLiteral("The x values of table yield stress (Id=3) descend after value 2.");
         QTest::newRow("equal neighbours") << Values{0, 1, 1, 2} << Values{1, 2, 3, 4} << 4 << QStringList();
         QTest::newRow("descending") << Values{0, 2, 1} << Values{1, 2, 3} << 3 << QStringList{descends};
         QTest::newRow("y too many") << Values{0, 1, 2} << Values{1, 2, 3, 4} << 3 << QStringList{three};
-        QTest::newRow("no x") << Values() << Values{1} << 0 << QStringList{none};
         QTest::newRow("both") << Values{0, 2, 1} << Values{1, 2} << 2 << QStringList{three, descends};
     }
 
@@ -165,7 +163,6 @@ private Q_SLOTS:
         QTest::newRow("one missing") << grid1 << grid2 << 5 << 6;
         QTest::newRow("equal values count once") << Values{0, 0, 1, 1} << Values{5, 5} << 8 << 2;
         QTest::newRow("what descends is dropped") << Values{0, 1, 0.5, 2} << Values{3} << 4 << 2;
-        QTest::newRow("no second values") << grid1 << Values() << 3 << 0;
     }
 
     void gridsThatDoNotFit()

@@ -3,9 +3,7 @@
 
 #include <kdQCore/kdCommandDispatcher>
 #include <kdQCore/nCompanyInfo>
-#include <kdQCore/nGlobal>
 #include <kdQCore/nKaldoranAm>
-#include <kdQCore/nKaldoranCommon>
 #include <kdQCore/nKaldoranDemos>
 #include <kdQCore/nKaldoranJes>
 #include <kdQCore/nKaldoranJoining>
@@ -22,34 +20,8 @@ namespace demos = nKaldoranDemos;
 namespace jes = nKaldoranJes;
 namespace joining = nKaldoranJoining;
 namespace material = nKaldoranMaterial;
-namespace welding = nKaldoranWelding;
 
 namespace {
-
-// The version functions that all members of the family have.
-struct Family {
-    const char* name;
-    QString (*productName)();
-    QString (*productVersion)();
-    QString (*fullVersion)(bool);
-    QString (*fullRevisionVersion)();
-    QString (*fullRevisionOSVersion)();
-    QString (*fullRevisionOSVersionDate)();
-    QString (*nameAndFull)();
-    QString (*nameAndRevision)();
-    QString (*nameAndOS)();
-    QString (*nameAndTime)();
-};
-
-#define FAMILY(ns)                                                                                   \
-    {                                                                                                \
-#ns, ns::productName, ns::productVersion, ns::fullVersion, ns::fullRevisionVersion,          \
-            ns::fullRevisionOSVersion, ns::fullRevisionOSVersionDate, ns::productNameAndFullVersion, \
-            ns::productNameAndFullRevisionVersion, ns::productNameAndFullRevisionOSVersion,          \
-            ns::productNameAndFullRevisionOSVersionTime                                              \
-    }
-
-const Family families[] = {FAMILY(am), FAMILY(welding), FAMILY(joining), FAMILY(jes)};
 
 bool matches(const QString& text, const QString& pattern)
 {
@@ -65,9 +37,7 @@ private Q_SLOTS:
     void cleanup();
     void literalTexts_data();
     void literalTexts();
-    void versionFamily_data();
     void versionFamily();
-    void processInfo_data();
     void processInfo();
     void commentOfJoiningFiles();
     void pagesAndDocumentsFollowTheLanguage_data();
@@ -121,59 +91,32 @@ void TestProductTexts::literalTexts()
     QTEST(text, "expected");
 }
 
-void TestProductTexts::versionFamily_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(families)); ++i)
-        QTest::newRow(families[i].name) << i;
-}
-
 void TestProductTexts::versionFamily()
 {
-    QFETCH(int, index);
-    const Family& family = families[index];
-    const QString name = family.productName();
-    const QString version = family.productVersion();
-    QCOMPARE(family.fullVersion(false), version);
-    QVERIFY(
-        matches(family.fullVersion(true), QRegularExpression::escape(version) + QStringLiteral("\\.\\d+")));
-
-    const QString withRevision = family.fullRevisionVersion();
-    const QString withSystem = family.fullRevisionOSVersion();
-    const QString full = QRegularExpression::escape(family.fullVersion(true));
-    QVERIFY(matches(withRevision, full + QStringLiteral("\\.\\d+")));
-    QVERIFY(
-        matches(withSystem, QRegularExpression::escape(withRevision) + QStringLiteral("\\.[a-z]+(32|64)")));
-    QVERIFY(
-        matches(family.fullRevisionOSVersionDate(),
-                QRegularExpression::escape(withSystem) + QStringLiteral(" [A-Z][a-z]{2} [0-9]{2} [0-9]{4}")));
-
-    QCOMPARE(family.nameAndFull(), name + QLatin1Char(' ') + family.fullVersion(true));
-    QCOMPARE(family.nameAndRevision(), name + QLatin1Char(' ') + withRevision);
-    QCOMPARE(family.nameAndOS(), name + QLatin1Char(' ') + withSystem);
-    QVERIFY(
-        matches(family.nameAndTime(),
-                QRegularExpression::escape(family.nameAndOS()) + QStringLiteral(" - \\d\\d:\\d\\d:\\d\\d")));
-}
-
-void TestProductTexts::processInfo_data()
-{
-    QTest::addColumn<int>("product");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("version");
-    const QString undefined = QStringLiteral("Undefined");
-    QTest::newRow("none") << 0 << undefined << undefined;
-    QTest::newRow("forming") << 1 << "Kaldoran Forming"
-                             << "2018";
-    QTest::newRow("material") << 5 << material::productName() << material::productVersion();
-    QTest::newRow("unheard of") << -77 << undefined << undefined;
+    using namespace nKaldoranWelding;
+    const auto escaped = [](const QString& text) { return QRegularExpression::escape(text); };
+    QCOMPARE(fullVersion(false), productVersion());
+    QVERIFY(matches(fullVersion(true), escaped(productVersion()) + QStringLiteral("\\.\\d+")));
+    QVERIFY(matches(fullRevisionVersion(), escaped(fullVersion(true)) + QStringLiteral("\\.\\d+")));
+    QVERIFY(matches(fullRevisionOSVersion(),
+                    escaped(fullRevisionVersion()) + QStringLiteral("\\.[a-z]+(32|64)")));
+    QVERIFY(matches(fullRevisionOSVersionDate(),
+                    escaped(fullRevisionOSVersion()) + QStringLiteral(" [A-Z][a-z]{2} [0-9]{2} [0-9]{4}")));
+    const QString name = productName() + QLatin1Char(' ');
+    QCOMPARE(productNameAndFullVersion(), name + fullVersion(true));
+    QCOMPARE(productNameAndFullRevisionVersion(), name + fullRevisionVersion());
+    QCOMPARE(productNameAndFullRevisionOSVersion(), name + fullRevisionOSVersion());
+    QVERIFY(matches(productNameAndFullRevisionOSVersionTime(),
+                    escaped(name + fullRevisionOSVersion()) + QStringLiteral(" - \\d\\d:\\d\\d:\\d\\d")));
 }
 
 void TestProductTexts::processInfo()
 {
-    QFETCH(int, product);
-    QTEST(nProcessInfo::productName(static_cast<nKaldoranProducts::e_Product>(product)), "name");
-    QTEST(nProcessInfo::productVersion(static_cast<nKaldoranProducts::e_Product>(product)), "version");
+    using nKaldoranProducts::e_Product;
+    QCOMPARE(nProcessInfo::productName(static_cast<e_Product>(1)), QStringLiteral("Kaldoran Forming"));
+    QCOMPARE(nProcessInfo::productName(static_cast<e_Product>(5)), material::productName());
+    QCOMPARE(nProcessInfo::productVersion(static_cast<e_Product>(4)), QStringLiteral("Undefined"));
+    QCOMPARE(nProcessInfo::productVersion(static_cast<e_Product>(-77)), QStringLiteral("Undefined"));
 }
 
 void TestProductTexts::commentOfJoiningFiles()
