@@ -2,6 +2,7 @@
 
 #include "kddatatable.h"
 #include "numbertext.h"
+#include "xmltext_p.h"
 
 #include <kdqcore_version.h>
 
@@ -10,24 +11,6 @@
 #include <vector>
 
 namespace {
-
-bool isAllowedInXml(ushort c)
-{
-    return c >= 0x20 ? c < 0xfffe : (c == '\t' || c == '\n' || c == '\r');
-}
-
-// XML has no form for control characters and halves of surrogate pairs, not even an escaped one.
-QString allowedInXml(QString text)
-{
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        if (c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate())
-            ++i;
-        else if (c.isSurrogate() || !isAllowedInXml(c.unicode()))
-            text[i] = QChar(QChar::ReplacementCharacter);
-    }
-    return text;
-}
 
 QString number(int value)
 {
@@ -103,7 +86,7 @@ void TableXmlWriter::writeHead()
     const QString type = QStringLiteral("type");
     const QString columns = QStringLiteral("columns");
     const QString rows = QStringLiteral("rows");
-    m_writer.writeAttribute(name, allowedInXml(m_table.name()));
+    m_writer.writeAttribute(name, textAllowedInXml(m_table.name()));
     m_writer.writeAttribute(type, number(m_table.type()));
     m_writer.writeAttribute(columns, number(m_table.columns()));
     m_writer.writeAttribute(rows, number(m_table.rows()));
@@ -121,7 +104,7 @@ void TableXmlWriter::writeColumn(int index)
     const kdDataColumn& column = m_table.columnRef(index);
     const kdUnitSystem unit = column.getUnitSystem();
     m_writer.writeStartElement(QStringLiteral("columndata"));
-    m_writer.writeAttribute(QStringLiteral("title"), allowedInXml(column.title()));
+    m_writer.writeAttribute(QStringLiteral("title"), textAllowedInXml(column.title()));
     m_writer.writeAttribute(QStringLiteral("type"), number(column.getType()));
     m_writer.writeAttribute(QStringLiteral("datatype"), QStringLiteral("1"));
     m_writer.writeAttribute(QStringLiteral("fffunit"), number(unit.unitIndex()));
@@ -177,7 +160,7 @@ bool TableXmlWriter::writeRowsToDevice(ValueEnd valueEnd)
 void TableXmlWriter::writeText(const QString& element, const QString& text)
 {
     m_writer.writeStartElement(element);
-    const QString allowed = allowedInXml(text);
+    const QString allowed = textAllowedInXml(text);
     int start = 0;
     for (int end; (end = allowed.indexOf(QLatin1Char('\r'), start)) >= 0; start = end + 1) {
         m_writer.writeCharacters(allowed.mid(start, end - start));
