@@ -680,6 +680,29 @@ gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war.</
     </message>
 </context>
 <context>
+    <name>coCheckAndCorrectName</name>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Der Name ist leer.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; is longer than %2 characters.</source>
+        <translation>Der Name „%1“ ist länger als %2 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; may hold only the letters A to Z and a to z, digits and, behind the first character, hyphens.</source>
+        <translation>Der Name „%1“ darf nur die Buchstaben A bis Z und a bis z, Ziffern und, nach dem ersten Zeichen, Bindestriche enthalten.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; holds control characters, or blanks at its ends.</source>
+        <translation>Der Name „%1“ enthält Steuerzeichen oder hat Leerzeichen am Rand.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; is already taken.</source>
+        <translation>Der Name „%1“ ist schon vergeben.</translation>
+    </message>
+</context>
+<context>
     <name>coExpressionOrder</name>
     <message>
         <source>&apos;%1&apos; cannot be the name of a formula.</source>
@@ -850,6 +873,17 @@ der ausgewertet lautet:
     <message>
         <source>Failed to read the value of the XML element: %1</source>
         <translation>Der Wert des XML-Elements ist nicht lesbar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>coObjectName</name>
+    <message>
+        <source>the element of an object&apos;s name is missing</source>
+        <translation>das Element eines Objektnamens fehlt</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos; has no attribute &apos;%2&apos;</source>
+        <translation>das Element „%1“ hat kein Attribut „%2“</translation>
     </message>
 </context>
 <context>
@@ -1564,6 +1598,17 @@ der ausgewertet lautet:
     <message>
         <source>Contains components of licensed partners. The rights in these components remain with their owners.</source>
         <translation>Enthält Komponenten lizenzierter Partner. Die Rechte an diesen Komponenten bleiben bei ihren Inhabern.</translation>
+    </message>
+</context>
+<context>
+    <name>nCreateObjectName</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>Objekt</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,467 @@
+#include "kdqtest.h"
+
+#include <kdQCore/coCheckAndCorrectName>
+#include <kdQCore/coUniqueNameGenerator>
+#include <kdQCore/nCreateObjectName>
+
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <random>
+
+using namespace nCreateObjectName;
+
+namespace {
+
+static_assert(!std::is_constructible<coDisplayName, coInternalName>::value, "kinds of name mix");
+static_assert(!std::is_constructible<coInternalName, coDisplayName>::value, "kinds of name mix");
+
+QStringList list(const QString& names)
+{
+    return names.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+QString repeated(char c, int count)
+{
+    return QString(count, QLatin1Char(c));
+}
+
+/// The counter rule, carried out candidate by candidate.
+QString uniqueOneByOne(const QString& name, const QStringList& taken, bool internal, bool force)
+{
+    if (!force && !taken.contains(name, Qt::CaseInsensitive))
+        return name;
+    QString base = name;
+    const int existing = chopCounter(base);
+    for (qint64 counter = existing >= 1 ? existing : (force ? 1 : 2);; ++counter) {
+        const QString suffix = QStringLiteral("-%1").arg(counter);
+        const QString candidate = base.left((internal ? 20 : 1000) - suffix.size()) + suffix;
+        if (!taken.contains(candidate, Qt::CaseInsensitive))
+            return candidate;
+    }
+}
+
+/// A name with a child element.
+class Tagged : public coObjectName {
+public:
+    using coObjectName::coObjectName;
+    QString tag;
+
+private:
+    void readXmlElements(QXmlStreamReader& reader) override
+    {
+        while (reader.readNextStartElement())
+            tag = reader.readElementText();
+    }
+    void writeXmlElements(QXmlStreamWriter& writer) const override
+    {
+        writer.writeTextElement(QStringLiteral("tag"), tag);
+    }
+};
+
+} // namespace
+
+class TestObjectNames : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void validity_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isValid");
+        QTest::newRow("hyphen inside") << "A-1" << true;
+        QTest::newRow("digit first, hyphen last") << "1-" << true;
+        QTest::newRow("hyphen first") << "-A" << false;
+        QTest::newRow("underscore") << "A_1" << false;
+        QTest::newRow("empty") << "" << false;
+        QTest::newRow("letter beyond ASCII") << QString::fromUtf8("Träger") << false;
+        QTest::newRow("digit beyond ASCII") << QString(QChar(0x0663)) << false;
+        QTest::newRow("line break last") << "A\n" << false;
+        QTest::newRow("longest") << repeated('a', 20) << true;
+    }
+
+    void validity()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, isValid);
+        QCOMPARE(coObjectName::isValidInternalName(text), isValid);
+        const QString pattern = QRegularExpression::anchoredPattern(coObjectName::regExpNamePattern());
+        QCOMPARE(QRegularExpression(pattern).match(text).hasMatch(), isValid);
+        coObjectName name(text, QStringLiteral("former"));
+        QCOMPARE(name.setInternalName(text, true), isValid);
+        QCOMPARE(name.internalName(), isValid ? text : QStringLiteral("former"));
+        QVERIFY(!name.setInternalName(repeated('a', 21), true));
+        QVERIFY(name.setInternalName(text, false));
+    }
+
+    void patterns()
+    {
+        QCOMPARE(coObjectName::negatedFirstCharNameRegExp().pattern(), QStringLiteral("[^a-zA-Z\\d]"));
+        QCOMPARE(coObjectName::negatedFollowUpCharsNameRegExp().pattern(), QStringLiteral("[^a-zA-Z\\d\\-]"));
+    }
+
+    void counters_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("rest");
+        QTest::addColumn<int>("counter");
+        const auto row = [](const char* name, const char* rest, int counter) {
+            QTest::newRow(name) << QString::fromUtf8(name) << QString::fromUtf8(rest) << counter;
+        };
+        row("Table-3", "Table", 3);
+        row("Table-007", "Table", 7);
+        row("A-1-2", "A-1", 2);
+        row("-5", "", 5);
+        row("X-2147483647", "X", 2147483647);
+        row("X-2147483648", "X-2147483648", -1);
+        row("Table-3a", "Table-3a", -1);
+        row("Table- 3", "Table- 3", -1);
+        row("Table-\xd9\xa3", "Table-\xd9\xa3", -1);
+        row("", "", -1);
+    }
+
+    void counters()
+    {
+        QFETCH(QString, name);
+        QTEST(chopCounter(name), "counter");
+        QTEST(name, "rest");
+    }
+
+    void unique_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("taken");
+        QTest::addColumn<bool>("internal");
+        QTest::addColumn<bool>("force");
+        QTest::addColumn<QString>("result");
+        const auto row = [](const char* title, const QString& name, const QString& taken, bool internal,
+                            bool force, const QString& result) {
+            QTest::newRow(title) << name << list(taken) << internal << force << result;
+        };
+        const auto s = [](const char* text) { return QString::fromUtf8(text); };
+        row("free", s("A-7"), s("A"), false, false, s("A-7"));
+        row("case is ignored", s("part"), s("Part"), false, false, s("part-2"));
+        row("gap", s("A"), s("A-4 A-2 A"), false, false, s("A-3"));
+        row("own counter first", s("A-2"), s("A-2 A-3"), false, false, s("A-4"));
+        row("counter 0", s("A-0"), s("A-0"), false, false, s("A-2"));
+        row("forced", s("A"), QString(), false, true, s("A-1"));
+        row("forced, own counter is free", s("A-5"), s("A"), false, true, s("A-5"));
+        row("leading zeros are another name", s("A"), s("A A-02"), false, false, s("A-2"));
+        row("cut", repeated('a', 20), repeated('A', 20), true, false, repeated('a', 18) + s("-2"));
+        row("cut once more", s("abcdefghijklmnopqr-9"), s("abcdefghijklmnopqr-9 abcdefghijklmnopq-10"), true,
+            false, s("abcdefghijklmnopq-11"));
+        const QString pair = repeated('a', 17) + s("\xf0\x9f\x98\x80-");
+        row("no surrogate pair is split", pair, pair, true, false, repeated('a', 17) + s("-2"));
+        row("beyond an int", s("X-2147483647"), s("X-2147483647"), false, false, s("X-2147483648"));
+    }
+
+    void unique()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, taken);
+        QFETCH(bool, internal);
+        QFETCH(bool, force);
+        QTEST(ensureUniqueCounter(name, taken, internal, force), "result");
+    }
+
+    void uniqueAgainstTheRule()
+    {
+        std::mt19937 random(3);
+        const QString letters = QStringLiteral("aA-1209");
+        const auto text = [&](int longest) {
+            QString result;
+            for (auto left = 1 + random() % unsigned(longest); left > 0; --left)
+                result += letters.at(int(random() % unsigned(letters.size())));
+            return result;
+        };
+        for (int i = 0; i < 3000; ++i) {
+            QStringList taken;
+            for (auto left = random() % 40; left > 0; --left)
+                taken.append(i % 2 ? text(4) : repeated('a', 16) + text(4));
+            const QString name = taken.isEmpty() || i % 3 == 0 ? text(22) : taken.constFirst();
+            const bool internal = i % 5 != 0;
+            const bool force = i % 7 == 0;
+            QCOMPARE(ensureUniqueCounter(name, taken, internal, force),
+                     uniqueOneByOne(name, taken, internal, force));
+        }
+    }
+
+    void prefixes_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("prefix");
+        QTest::addColumn<QString>("result");
+        const auto row = [](const char* name, const char* prefix, const char* result) {
+            QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(prefix)
+                                << QString::fromLatin1(result);
+        };
+        row("Table 12 top-4", "Table", "Table 12");
+        row("Tablex3", "Table", "");
+        row("Table34", "Table", "");
+        row("Table-x", "Table", "");
+        row("Table", "Table", "");
+        row("Table-2147483648", "Table", "");
+        row("table-3", "Table", "");
+        row("_3", "", "_3");
+    }
+
+    void prefixes()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, prefix);
+        QFETCH(QString, result);
+        QCOMPARE(getNamePrefixWithCounter(name, prefix), result);
+        QCOMPARE(getNamePrefixesWithCounters(QStringList{QStringLiteral("?"), name}, prefix).join(QString()),
+                 result);
+    }
+
+    void display_data()
+    {
+        QTest::addColumn<QString>("display");
+        QTest::addColumn<QString>("internal");
+        QTest::addColumn<QStringList>("taken");
+        QTest::addColumn<QString>("result");
+        const auto row = [](const char* title, const QString& display, const char* internal,
+                            const QStringList& taken, const QString& result) {
+            QTest::newRow(title) << display << QString::fromLatin1(internal) << taken << result;
+        };
+        const auto s = [](const char* text) { return QString::fromLatin1(text); };
+        row("free", s("Table-3"), "Table", {s("Table")}, s("Table-3"));
+        row("empty", QString(), "x", {s("name")}, s("Name-2"));
+        row("too long", repeated('x', 1005), "", {}, repeated('x', 1000));
+        row("copy of a numbered one", s("Table-3"), "Table-3", list(s("Table-3 Table-4")), s("Table-5"));
+        row("copy, counter inside", s("Table-3 top"), "Table-3", {s("table-3 TOP"), s("Table-4 top")},
+            s("Table-5 top"));
+        row("copy, other separator", s("Table 3"), "Table", {s("Table 3")}, s("Table 4"));
+        row("copy, another internal name", s("Table-3 top"), "T", {s("Table-3 top")}, s("Table-3 top-2"));
+        row("copy, too long for its counter", s("-9 ") + repeated('x', 997), "-0",
+            {s("-9 ") + repeated('x', 997)}, s("-9 ") + repeated('x', 995) + s("-2"));
+    }
+
+    void display()
+    {
+        QFETCH(QString, display);
+        QFETCH(QString, internal);
+        QFETCH(QStringList, taken);
+        QTEST(QString(createUniqueDisplayName(display, internal, taken)), "result");
+    }
+
+    void internal_data()
+    {
+        QTest::addColumn<QString>("display");
+        QTest::addColumn<QString>("internal");
+        QTest::addColumn<QString>("taken");
+        QTest::addColumn<QString>("result");
+        QTest::addColumn<QString>("resultFromDisplay");
+        const auto row = [](const char* title, const char* display, const char* internal, const char* taken,
+                            const char* result, const char* fromDisplay) {
+            QTest::newRow(title) << QString::fromUtf8(display) << QString::fromUtf8(internal)
+                                 << QString::fromUtf8(taken) << QString::fromUtf8(result)
+                                 << QString::fromUtf8(fromDisplay);
+        };
+        row("both empty", "", "", "object obj", "Object-2", "Obj-2");
+        row("valid display", "Part-1", "P", "part-1 p", "P-2", "Part-2");
+        row("long display", "abcdefghijklmnopqrstuvwxy", "P", "", "P", "abcdefghijklmnopqrst");
+        row("25 characters", "ä", "abcdefghijklmnopqrstuvwxy", "ABCDEFGHIJKLMNOPQRST", "abcdefghijklmnopqr-2",
+            "abcdefghijklmnopqr-2");
+        row("invalid characters", "Träger (oben)", "_a_ü", "", "0a--", "0a---Trgeroben");
+        row("pair beyond 16 bits", "\xf0\x9f\x98\x80", "\xf0\x9f\x98\x80", "", "0-", "0-");
+        row("room for one", "ü12", "abcdefghijklmnopqr", "", "abcdefghijklmnopqr", "abcdefghijklmnopqr-1");
+    }
+
+    void internal()
+    {
+        QFETCH(QString, display);
+        QFETCH(QString, internal);
+        QFETCH(QString, taken);
+        QTEST(QString(createUniqueInternalName(internal, list(taken))), "result");
+        QTEST(QString(createUniqueInternalNameFromDisplayName(display, internal, list(taken))),
+              "resultFromDisplay");
+    }
+
+    void takenNames()
+    {
+        const coDisplayName display(QStringLiteral("Die.").constData(), 3);
+        const coInternalName internal("D", 1);
+        coObjectNameList names;
+        for (int i = 0; i < 3; ++i)
+            names.append(createUniqueName(display, internal, names));
+        QCOMPARE(coDisplayNameList(names).join(QStringLiteral(",")), QStringLiteral("Die,Die-2,Die-3"));
+        QCOMPARE(coInternalNameList(names),
+                 coInternalNameList({QStringLiteral("D"), QStringLiteral("D-2"), QStringLiteral("D-3")}));
+        QCOMPARE(createUniqueInternalName(display.left(3), names), QStringLiteral("Die"));
+        QCOMPARE(createUniqueInternalName(internal, coInternalNameList(names)), QStringLiteral("D-4"));
+        QCOMPARE(createUniqueName(display, internal, {}), coObjectName(display, internal));
+
+        coDisplayNameList sorted = coDisplayNameList{QStringLiteral("b")} + coDisplayNameList(names);
+        sorted << coDisplayName(QStringLiteral("C"));
+        sorted.sort(Qt::CaseInsensitive);
+        QCOMPARE(sorted.toStringList(), list(QStringLiteral("b C Die Die-2 Die-3")));
+    }
+
+    void generator()
+    {
+        coUniqueNameGenerator generator(QLatin1Char('_'));
+        generator.reserve({QStringLiteral("PART_2"), QString::fromUtf8("ß_1")});
+        QStringList made;
+        for (const char* base :
+             {"Part", "part", "Part_3", "", "ß", "ẞ", "\xf0\x90\x90\x80", "\xf0\x90\x90\xa8"})
+            made.append(generator.next(QString::fromUtf8(base)));
+        QCOMPARE(made.join(QLatin1Char(' ')),
+                 QString::fromUtf8("Part_1 part_3 Part_3_1 Name_1 ß_2 ẞ_3 "
+                                   "\xf0\x90\x90\x80_1 \xf0\x90\x90\xa8_2"));
+        coUniqueNameGenerator unseparated{QChar()};
+        for (const char* base : {"A", "A1", "A1"})
+            made.append(unseparated.next(QString::fromLatin1(base)));
+        for (int i = 0; i < 20; ++i)
+            made.append(unseparated.next(QStringLiteral("A")));
+        QVERIFY(made.contains(QStringLiteral("A13")));
+        QCOMPARE(made.removeDuplicates(), 0);
+    }
+
+    void correcting_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("result");
+        QTest::addColumn<int>("remarks");
+        const int display = coCheckAndCorrectName::eDisplayName;
+        const int internal = coCheckAndCorrectName::eInternalName;
+        QTest::newRow("nothing wrong") << "Upper die" << display << "Upper die" << 0;
+        QTest::newRow("blanks and a control character") << " a\tb\n" << display << "a b" << 1;
+        QTest::newRow("taken once corrected") << " die" << display << "die-2" << 1;
+        QTest::newRow("only blanks") << "  " << display << "Name" << 1;
+        QTest::newRow("internal, all wrong") << QStringLiteral("_") + repeated('x', 20) << internal
+                                             << QStringLiteral("0") + repeated('x', 19) << 2;
+        QTest::newRow("internal, taken") << "DIE" << internal << "DIE-2" << 1;
+    }
+
+    void correcting()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, mode);
+        QStringList remarks;
+        QTEST(coCheckAndCorrectName::checkAndCorrectName(name, {QStringLiteral("Die")},
+                                                         coCheckAndCorrectName::e_Mode(mode), &remarks),
+              "result");
+        QTEST(remarks.size(), "remarks");
+    }
+
+    void wrapping_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<QString>("result");
+        QTest::newRow("at blanks") << "one two three" << 8 << "one two \nthree";
+        QTest::newRow("blank behind the limit") << "one  two" << 3 << "one  \ntwo";
+        QTest::newRow("long word") << "a abcdefgh b" << 3 << "a \nabc\ndef\ngh \nb";
+        QTest::newRow("own breaks") << "ab\n\ncd ef\n" << 2 << "ab\n\ncd \nef\n";
+        QTest::newRow("pair stays whole")
+            << QString::fromUtf8("a\xf0\x9f\x98\x80") << 2 << QString::fromUtf8("a\n\xf0\x9f\x98\x80");
+        QTest::newRow("no length") << "one two" << 0 << "one two";
+    }
+
+    void wrapping()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, length);
+        QTEST(coCheckAndCorrectName::wrapTextForPreferredLength(text, length), "result");
+    }
+
+    void xmlRoundTrip_data()
+    {
+        QTest::addColumn<QString>("display");
+        QTest::addColumn<QString>("readBack");
+        const auto row = [](const char* title, const QString& display, const QString& readBack) {
+            QTest::newRow(title) << display << readBack;
+        };
+        const QString markup = QString::fromUtf8("<Träger & \"co\">\t\n\r \xf0\x9f\x98\x80");
+        row("markup and white space", markup, markup);
+        row("control characters", QStringLiteral("a\x01z"), QStringLiteral("a\xfffdz"));
+        row("half a pair", QString(QChar(0xd800)), QStringLiteral("\xfffd"));
+    }
+
+    void xmlRoundTrip()
+    {
+        QFETCH(QString, display);
+        Tagged name(display, QStringLiteral("I"));
+        name.tag = QStringLiteral("t");
+        QString xml;
+        QXmlStreamWriter writer(&xml);
+        name.writeXmlWithCustomTag(writer, QStringLiteral("part"));
+
+        QXmlStreamReader reader(QStringLiteral("<l>") + xml + xml + QStringLiteral("</l>"));
+        QVERIFY(reader.readNextStartElement());
+        reader.readNext();
+        QVERIFY(coObjectName::xmlHasNameAttribute(reader));
+        QVERIFY(!coObjectName::xmlHasNameAttribute(reader, QStringLiteral("x_")));
+        coObjectName plain;
+        QVERIFY(plain.readXmlWithCustomTag(reader));
+        Tagged read;
+        QVERIFY2(read.readXmlWithCustomTag(reader), qPrintable(reader.errorString()));
+        QTEST(QString(read.displayName()), "readBack");
+        QCOMPARE(plain, static_cast<coObjectName&>(read));
+        QCOMPARE(read.tag, name.tag);
+        QVERIFY(!read.readXmlWithCustomTag(reader)); // there is no third
+        QCOMPARE(reader.errorString(), QStringLiteral("the element of an object's name is missing"));
+    }
+
+    void prefixedAttributes()
+    {
+        const QString prefix = QStringLiteral("old_");
+        QString xml;
+        QXmlStreamWriter writer(&xml);
+        writer.writeEmptyElement(QStringLiteral("e"));
+        coObjectName(QStringLiteral("D"), QStringLiteral("I")).writeXmlAttributes(writer, prefix);
+        writer.writeEndDocument();
+        QCOMPARE(xml, QStringLiteral("<e old_display_name=\"D\" old_internal_name=\"I\"/>\n"));
+        QXmlStreamReader reader(xml);
+        QVERIFY(reader.readNextStartElement());
+        coObjectName name;
+        QVERIFY(name.readXmlAttributes(reader, coObjectName::xmlDisplayNameAttribute(prefix),
+                                       coObjectName::xmlInternalNameAttribute(prefix)));
+        QCOMPARE(name.internalName(), QStringLiteral("I"));
+    }
+
+    void xmlFaults_data()
+    {
+        QTest::addColumn<QString>("xml");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("half a name") << "<n display_name='D'/>"
+                                     << QStringLiteral("the element 'n' has no attribute 'internal_name'");
+        QTest::newRow("broken inside") << "<n display_name='D' internal_name='I'><a></n>" << QString();
+    }
+
+    void xmlFaults()
+    {
+        QFETCH(QString, xml);
+        QFETCH(QString, error);
+        const coObjectName former = coObjectName::fromSingleString(QStringLiteral("former"));
+        coObjectName name = former;
+        QXmlStreamReader reader(xml);
+        QVERIFY(!name.readXmlWithCustomTag(reader));
+        QVERIFY(reader.hasError());
+        if (!error.isEmpty())
+            QCOMPARE(reader.errorString(), error);
+        QCOMPARE(name, former);
+    }
+
+    void comparing()
+    {
+        const auto named = [](const char* display, const char* internal) {
+            return coObjectName(QString::fromLatin1(display), QString::fromLatin1(internal));
+        };
+        QVERIFY(named("a", "z") < named("b", "a"));
+        QVERIFY(named("a", "a") < named("a", "b"));
+        QVERIFY(!(named("b", "a") < named("a", "z")));
+        coObjectName name = named("a", "b");
+        name.setXmlReferenceName(QStringLiteral("ref-1"));
+        QVERIFY(name == named("a", "b"));
+        QCOMPARE(name.xmlReferenceName(), QStringLiteral("ref-1"));
+        name.setXmlReferenceName(QString());
+        QCOMPARE(name.xmlReferenceName(), QStringLiteral("b"));
+    }
+};
+
+KDQ_TEST_MAIN(TestObjectNames)
+#include "tst_objectnames.moc"
