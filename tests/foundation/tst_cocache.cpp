@@ -1,0 +1,295 @@
+#include "cocacheclock_p.h"
+#include "kdqtest.h"
+#include "logcapture.h"
+
+#include <kdQCore/coCache>
+#include <kdQCore/coCachedString>
+
+#include <limits>
+#include <numeric>
+#include <random>
+
+namespace {
+
+qint64 fakeTime = 0;
+
+class Query : public coCacheQuery {
+public:
+    explicit Query(const QString& key, bool wildcarded = false) : coCacheQuery(wildcarded), m_key(key) { }
+    QString key() const override { return m_key; }
+    bool match(const coCacheItem* item) const override { return item->key(false).startsWith(m_key); }
+
+private:
+    QString m_key;
+};
+
+class OtherQuery : public Query {
+public:
+    using Query::Query;
+};
+
+class Item : public coCacheItem {
+public:
+    Item(const QString& key, qint64 itemSize, bool isUsed = false)
+        : coCacheItem(Query(key)), bytes(itemSize), inUse(isUsed)
+    {
+        ++alive;
+    }
+    Item(const Item& other) : coCacheItem(other), bytes(other.bytes) { ++alive; }
+    ~Item() override { --alive; }
+    Item& operator=(const Item&) = default;
+    qint64 size() const override { return bytes; }
+    bool isInUse() const override { return inUse; }
+
+    static int alive;
+    qint64 bytes = 0;
+    bool inUse = false;
+};
+
+int Item::alive = 0;
+
+QString name(int number)
+{
+    return QString::number(number);
+}
+
+bool holds(const coCache& cache, const QString& key)
+{
+    const Query query(key);
+    return cache.contains(&query);
+}
+
+Item* get(coCache& cache, const QString& key)
+{
+    const Query query(key);
+    return static_cast<Item*>(cache.get(&query));
+}
+
+} // namespace
+
+class TestCoCache : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        fakeTime = 1000;
+        coCacheClock::setClock([] { return fakeTime; });
+    }
+
+    void cleanup()
+    {
+        coCacheClock::setClock(nullptr);
+        QCOMPARE(Item::alive, 0); // whatever a cache took over is gone with it
+    }
+
+    void keys()
+    {
+        const Query query(QStringLiteral("a$#$b%1"));
+        const Item item(query.key(), 1);
+        QCOMPARE(item.key(true), QString::fromLatin1(typeid(Query).name()) + QStringLiteral("$#$a$#$b%1"));
+        QCOMPARE(item.key(true), coCache::keyForQuery(&query));
+        QCOMPARE(item.key(false), query.key());
+        const OtherQuery other(query.key());
+        QVERIFY(coCache::keyForQuery(&other) != coCache::keyForQuery(&query));
+    }
+
+    void units_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("negative") << qint64(-2048) << "-2048 B";
+        QTest::newRow("KiB") << qint64(1024) << "1 KiB";
+        QTest::newRow("MiB") << qint64(coCache::maxCacheSize) << "25 MiB";
+        QTest::newRow("most GiB") << (qint64(1) << 62) << "4294967296 GiB";
+    }
+
+    void units()
+    {
+        QFETCH(qint64, bytes);
+        QTEST(coCache::findFittingUnit(bytes).toString(), "text");
+    }
+
+    void pruning_data()
+    {
+        QTest::addColumn<qint64>("maxSize");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("inUse");
+        QTest::addColumn<QString>("left");
+        const int used = coCache::eLeastRecentlyUsed;
+        const int loaded = coCache::eLeastRecentlyLoaded;
+        QTest::newRow("all fit") << qint64(40) << used << ""
+                                 << "abcd";
+        QTest::newRow("one too many, by use") << qint64(39) << used << ""
+                                              << "acd";
+        QTest::newRow("one too many, by load") << qint64(39) << loaded << ""
+                                               << "bcd";
+        QTest::newRow("unknown mode goes by use") << qint64(39) << 7 << ""
+                                                  << "acd";
+        QTest::newRow("two too many, by use") << qint64(20) << used << ""
+                                              << "ad";
+        QTest::newRow("first is in use") << qint64(20) << used << "b"
+                                         << "ab";
+        QTest::newRow("above the maximum") << qint64(5) << used << "bd"
+                                           << "bd";
+        QTest::newRow("nothing may stay") << qint64(0) << used << ""
+                                          << "";
+        QTest::newRow("negative maximum") << qint64(-1) << loaded << "c"
+                                          << "c";
+    }
+
+    // Loaded in the order a, b, c, d; a is used once more at the end.
+    void pruning()
+    {
+        QFETCH(qint64, maxSize);
+        QFETCH(int, mode);
+        QFETCH(QString, inUse);
+        coCache cache;
+        const QString letters = QStringLiteral("abcd");
+        for (const QChar letter : letters) {
+            ++fakeTime;
+            cache.put(new Item(letter, 10, inUse.contains(letter)));
+        }
+        ++fakeTime;
+        QCOMPARE(get(cache, QStringLiteral("a"))->lastUsed(), fakeTime);
+        cache.setPruningMode(static_cast<coCache::e_PruningModes>(mode));
+        cache.setMaxSize(maxSize);
+        QString left;
+        for (const QChar letter : letters)
+            if (holds(cache, letter))
+                left += letter;
+        QTEST(left, "left");
+        QCOMPARE(cache.size(), 10 * left.size());
+        QCOMPARE(Item::alive, left.size());
+    }
+
+    void newItemSurvives()
+    {
+        coCache cache(0);
+        cache.put(new Item(name(1), 10));
+        cache.put(new Item(name(2), 10, true));
+        cache.put(new Item(name(3), 100));
+        QVERIFY(!holds(cache, name(1)));
+        QVERIFY(holds(cache, name(2)));
+        QVERIFY(holds(cache, name(3)));
+        cache.put(new Item(name(2), 20)); // replaced although in use
+        QVERIFY(!holds(cache, name(3)));
+        QCOMPARE(cache.size(), 20);
+        cache.release();
+        QCOMPARE(cache.count(), 0);
+    }
+
+    void sameItemAndNone()
+    {
+        coCache cache(100);
+        auto* item = new Item(name(1), 10);
+        cache.put(item);
+        cache.put(new Item(name(2), 10));
+        ++fakeTime;
+        cache.put(item);
+        QCOMPARE(cache.count(), 2);
+        QCOMPARE(item->lastUsed(), fakeTime);
+        item->bytes = 1000; // an item may grow: the sum is taken anew
+        QCOMPARE(cache.size(), 1010);
+        cache.put(item);
+        QCOMPARE(cache.size(), 1000);
+
+        LogCapture log;
+        cache.put(nullptr);
+        QVERIFY(log.contains(kdLog::Fault, kdLog::FailedAssert,
+                             QStringLiteral("coCache::put: there is no item")));
+        QVERIFY(!cache.contains(nullptr));
+        QVERIFY(!cache.get(nullptr));
+    }
+
+    void impossibleSizes()
+    {
+        constexpr qint64 most = std::numeric_limits<qint64>::max();
+        coCache cache(most);
+        for (const qint64 size : {qint64(-5), most, most})
+            cache.put(new Item(name(cache.count()), size));
+        QCOMPARE(cache.size(), most);
+        QCOMPARE(cache.count(), 3);
+    }
+
+    void copiesBelongToNoCache()
+    {
+        coCache cache;
+        auto* item = new Item(name(1), 10);
+        cache.put(item);
+        cache.put(new Item(name(2), 10));
+        coCache second;
+        second.put(new Item(*item));
+        *get(second, name(1)) = *item;
+        QCOMPARE(second.size(), 10);
+        QCOMPARE(cache.size(), 20);
+    }
+
+    void wildcards()
+    {
+        coCache cache;
+        for (const char* key : {"x/1", "y/1", "y/12"})
+            cache.put(new Item(QString::fromLatin1(key), 1));
+        ++fakeTime;
+        const Query query(QStringLiteral("y/1"), true);
+        const coCacheItem* found = cache.get(&query);
+        QVERIFY(found);
+        QCOMPARE(found->key(false), QStringLiteral("y/1"));
+        QCOMPARE(found->lastUsed(), fakeTime);
+        QVERIFY(!cache.contains(&query));
+    }
+
+    // Random work against a plain list; equal ages are made impossible by the clock.
+    void model()
+    {
+        std::mt19937 random(11);
+        coCache cache(2000);
+        QVector<QPair<QString, qint64>> model; // least recently used first
+        const auto taken = [&model](const QString& key) {
+            const auto at = std::find_if(model.begin(), model.end(), [&](auto& e) { return e.first == key; });
+            return at == model.end() ? qint64(-1) : model.takeAt(int(at - model.begin())).second;
+        };
+        for (int step = 0; step < 5000; ++step) {
+            ++fakeTime;
+            const QString key = name(int(random() % 100));
+            const auto bytes = qint64(random() % 100);
+            if (random() % 2) {
+                const qint64 found = taken(key);
+                const Item* item = get(cache, key);
+                QCOMPARE(item ? item->size() : -1, found);
+                if (item)
+                    model.append({key, found});
+                continue;
+            }
+            cache.put(new Item(key, bytes));
+            taken(key);
+            model.append({key, bytes});
+            const auto total = [&model] {
+                return std::accumulate(model.begin(), model.end(), qint64(0),
+                                       [](qint64 sum, auto& e) { return sum + e.second; });
+            };
+            while (total() > 2000)
+                model.removeFirst();
+            QCOMPARE(cache.size(), total());
+            QCOMPARE(cache.count(), model.size());
+        }
+    }
+
+    void cachedString()
+    {
+        coCachedString text;
+        QVERIFY(!text.initialized());
+        text = QString();
+        QVERIFY(text.initialized());
+        text = QStringLiteral("path");
+        const coCachedString moved = std::move(text);
+        QCOMPARE(QString(moved), QStringLiteral("path"));
+        QVERIFY(moved.initialized());
+        text.setNull();
+        QVERIFY(!text.initialized());
+        QVERIFY(QString(text).isNull());
+    }
+};
+
+KDQ_TEST_MAIN(TestCoCache)
+#include "tst_cocache.moc"
