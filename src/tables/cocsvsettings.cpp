@@ -5,9 +5,9 @@
 
 namespace {
 
-constexpr QLatin1String typeKey("CSVExport/FieldSeparatorType");
-constexpr QLatin1String separatorKey("CSVExport/FieldSeparator");
-constexpr QLatin1String decimalKey("CSVExport/DecimalSeparator");
+const QLatin1String typeKey("CSVExport/FieldSeparatorType");
+const QLatin1String separatorKey("CSVExport/FieldSeparator");
+const QLatin1String decimalKey("CSVExport/DecimalSeparator");
 
 } // namespace
 
