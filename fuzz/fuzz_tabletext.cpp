@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         isImported = true;
     } catch (const kdTypedException<QPair<int, int>>& failure) {
         require(failure.payload().first > 0 && failure.payload().second > 0);
-        require(failure.payload().first <= bytes.count('\n') + 1);
+        require(failure.payload().first <= bytes.count('\n') + bytes.count('\r') + 1);
         require(table.columns() == 0);
     }
     if (isImported)
