@@ -99,7 +99,7 @@ void kdDebugLog::createInstance(int argc, char* const* argv, bool logInCurrentDi
         logInCurrentDirectory ? currentDirectory() + baseName : defaultLogPath(baseName);
     nLogBackEnd::Settings settings;
     settings.programName = program.toLocal8Bit().toStdString();
-    settings.destination = destination.toLocal8Bit().toStdString();
+    settings.destination = QDir::toNativeSeparators(destination).toLocal8Bit().toStdString();
     settings.echo = m_alsoLogToStdError;
     if (!nLogBackEnd::start(settings)) {
         KD_LOG(kdLog::Fault, kdLog::General, QStringLiteral("kdDebugLog creation failed!"));
