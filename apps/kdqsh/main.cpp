@@ -31,9 +31,16 @@ QString localDataFolder()
     return qEnvironmentVariable("LOCALAPPDATA");
 }
 
+/// The variable LANGUAGE overrides the system's choice, also on systems that do not know it.
+QStringList userLanguages()
+{
+    const QStringList chosen = qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    return chosen.isEmpty() ? QLocale::system().uiLanguages() : chosen;
+}
+
 void setUserLanguage()
 {
-    const QStringList wanted = QLocale::system().uiLanguages();
+    const QStringList wanted = userLanguages();
     kdQLanguage::KDLANGUAGE language = kdQLanguage::English;
     for (const QString& code : wanted)
         if (kdQLanguage::fromCode(code, language) && kdCommandDispatcher::I().setLanguage(language))
