@@ -269,7 +269,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("unit");
         QTest::newRow("two bytes, the second may be ASCII")
             << QByteArray("Shift_JIS") << QStringLiteral("ソ");
-        QTest::newRow("four bytes") << QByteArray("GB18030") << QStringLiteral("𝄞");
+        // Some builds of Qt cannot read characters beyond the 16-bit ones in this encoding.
+        QTest::newRow("four bytes") << QByteArray("GB18030") << QStringLiteral("Ä");
     }
 
     void commentsInOtherLocalEncodings()

@@ -99,7 +99,7 @@ void textsFromOutside(int argc, char** argv)
             "two\n6 20260101 00:00:00.000000 1 forged.cpp:1] Socket           lines\r\nand three"));
     log(2, QStringLiteral("bell \a escape \x1b[2J end"));
     log(2, QString::fromUtf8("Größe "));
-    log(2, QString(20000, QChar(0xE4)));
+    log(2, QString(40000, QChar(0xE4)));
     log(2, QString(40000, QLatin1Char('\n')));
     log(2, QString());
     kdDebugLog::removeInstance();

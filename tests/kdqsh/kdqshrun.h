@@ -1,13 +1,18 @@
 #pragma once
 
+#include "kdqtest.h"
+
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
 
 /// Runs kdqsh as a user does, in a folder of its own, with its own data folder, in English where the test
 /// does not say otherwise. The locale is that of the test: decimals with a comma.
 class KdqshRun {
 public:
+    KdqshRun() { m_folder.setAutoRemove(false); }
+    ~KdqshRun() { kdqRemoveFolder(folder()); }
+    Q_DISABLE_COPY(KdqshRun)
+
     QString folder() const { return m_folder.path(); }
     QString path(const QString& name) const { return m_folder.filePath(name); }
 
@@ -39,8 +44,8 @@ public:
         process.write(input);
         process.closeWriteChannel();
         const bool isFinished = process.waitForFinished(60000);
-        output = QString::fromLocal8Bit(process.readAllStandardOutput());
-        errors = QString::fromLocal8Bit(process.readAllStandardError());
+        output = QString::fromLocal8Bit(kdqWithPlainLineEnds(process.readAllStandardOutput()));
+        errors = QString::fromLocal8Bit(kdqWithPlainLineEnds(process.readAllStandardError()));
         status = process.exitCode();
         return isFinished && process.exitStatus() == QProcess::NormalExit;
     }

@@ -582,7 +582,7 @@ void TestKdqsh::logHoldsTheRun()
     QVERIFY2(path.startsWith(shell.path(S("data/kaldoran/log/kdqsh"))), qPrintable(path));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString log = QString::fromLocal8Bit(file.readAll());
+    const QString log = QString::fromLocal8Bit(kdqWithPlainLineEnds(file.readAll()));
     for (const QString& pattern :
          {S("^4.*Command          an error; told$"), S("^3.*Command          quiet$"),
           S("^0.*Command          kdCommandDispatcher created\\.$"), S("Working directory: ")})

@@ -14,3 +14,8 @@ void kdqPrepareTest(const char* testName)
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings);
 }
+
+void kdqRemoveFolder(const QString& path)
+{
+    QTRY_VERIFY(QDir(path).removeRecursively());
+}
