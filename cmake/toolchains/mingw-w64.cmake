@@ -20,6 +20,8 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(ECM_DIR /usr/share/ECM/cmake CACHE PATH "extra-cmake-modules of the host")
+# Tests may run as another user than the builder, who cannot run an interpreter from the builder's home.
+set(Python3_EXECUTABLE /usr/bin/python3 CACHE FILEPATH "Python of the host")
 
 # Programs of the build, the tests above all, run under wine.
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/run-wine)

@@ -1,10 +1,12 @@
 """Runs the fire example in all four layouts and checks decks and exported tables against the source data.
 
-usage: check_deck.py KDQSH EXAMPLE_FOLDER
+usage: check_deck.py EXAMPLE_FOLDER CHECKSUMS COMMAND...
 
-The deck is read by the rules of the layout alone, the data by Python's own csv and xml readers.
+COMMAND runs kdqsh. The deck is read by the rules of the layout alone, the data by Python's own csv and xml readers.
+CHECKSUMS holds the SHA-256 of the four decks: on every system they are the same bytes.
 """
 import csv
+import hashlib
 import math
 import os
 import pathlib
@@ -14,6 +16,8 @@ import tempfile
 import xml.etree.ElementTree
 
 ZERO_CELSIUS = 273.15
+FOLDER = "Ofen für Stähle"  # no ASCII in its path, as in many a user's home
+SCRIPT = "Prüfung.kdqsh"
 INT_WIDTH = {"standard": 5, "extended": 10}
 REAL_WIDTH = {"standard": 10, "extended": 20}
 
@@ -216,33 +220,41 @@ def check_rows(path, columns, titles=None):
             math.isclose(a, b, rel_tol=1e-14, abs_tol=1e-12) for a, b in zip(found, exact)), (path, found, exact)
 
 
-def run_example(kdqsh, example, layout, widths):
-    """The deck's text and the folder's name; the script is the checked-in one but for the layout."""
+def run_example(command, example, layout, widths):
+    """Runs the checked-in script, but for the layout, in a folder below the returned one."""
     folder = tempfile.TemporaryDirectory()
     script = (example / "fire.kdqsh").read_text(encoding="utf-8")
     wanted = script.replace("deck open fire.dat free extended", f"deck open fire.dat {layout} {widths}")
     assert wanted != script or (layout, widths) == ("free", "extended")
-    path = pathlib.Path(folder.name)
+    path = pathlib.Path(folder.name) / FOLDER
+    path.mkdir()
     for data in example.glob("*.csv"):
         (path / data.name).write_bytes(data.read_bytes())
-    (path / "fire.kdqsh").write_text(wanted, encoding="utf-8")
+    (path / SCRIPT).write_text(wanted, encoding="utf-8")
     environment = dict(os.environ, LANGUAGE="en", LOCALAPPDATA=str(path / "data"))
-    done = subprocess.run([kdqsh, "fire.kdqsh"], cwd=path, env=environment, capture_output=True, text=True,
-                          encoding="utf-8", timeout=100, check=False)
+    done = subprocess.run([*command, SCRIPT], cwd=path, env=environment, capture_output=True, text=True,
+                          encoding="utf-8", errors="replace", timeout=100, check=False)
     assert done.returncode == 0 and done.stderr == "", (done.returncode, done.stderr)
     assert "Warning" not in done.stdout, done.stdout
-    assert pathlib.Path(done.stdout.splitlines()[-1]).is_file()
+    log = done.stdout.splitlines()[-1]
+    assert log.endswith(".log"), log
+    if not command[-1].endswith(".exe"):  # wine sets LOCALAPPDATA itself
+        assert pathlib.Path(log).is_file(), log
     return folder
 
 
 def main():
-    kdqsh, example = sys.argv[1], pathlib.Path(sys.argv[2])
+    example, command = pathlib.Path(sys.argv[1]), sys.argv[3:]
+    checksums = dict(line.split()[::-1] for line in pathlib.Path(sys.argv[2]).read_text(encoding="utf-8").splitlines())
     sources = Sources(example)
     for layout in ("fixed", "free"):
         for widths in ("standard", "extended"):
-            with run_example(kdqsh, example, layout, widths) as folder:
-                path = pathlib.Path(folder)
-                check_deck((path / "fire.dat").read_bytes().decode("utf-8"), layout, widths, sources)
+            with run_example(command, example, layout, widths) as folder:
+                path = pathlib.Path(folder) / FOLDER
+                deck = (path / "fire.dat").read_bytes()
+                check_deck(deck.decode("ascii"), layout, widths, sources)
+                checksum = hashlib.sha256(deck).hexdigest()
+                assert checksum == checksums[f"{layout}-{widths}"], f"{layout}-{widths} changed: {checksum}"
                 check_exports(path, sources)
                 print(f"{layout} {widths}: deck and tables agree with their sources")
 
