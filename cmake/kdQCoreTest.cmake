@@ -29,6 +29,9 @@ function(kdqcore_test source)
         get_property(included GLOBAL PROPERTY kdqcore_includes_${layer})
         target_include_directories(${name} PRIVATE ${included})
     endforeach()
+    if(CMAKE_CROSSCOMPILING_EMULATOR)
+        set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR ${CMAKE_CROSSCOMPILING_EMULATOR}-test)
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${folder};${TEST_LABELS}" TIMEOUT ${TEST_TIMEOUT}
