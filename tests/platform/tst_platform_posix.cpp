@@ -1,6 +1,8 @@
 #include "kdqtest.h"
 #include "platform.h"
 
+#include <kdQCore/kdException>
+
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
@@ -196,6 +198,15 @@ private Q_SLOTS:
         QCOMPARE(view.failure(), failure);
         QVERIFY(view.errorCode() != 0);
         QCOMPARE(view.data(), nullptr);
+    }
+
+    void localTextIsUtf8()
+    {
+        const QByteArray utf8("Gr\xC3\xB6\xC3\x9F"
+                              "e");
+        const kdException exception(QString::fromUtf8(utf8));
+        QCOMPARE(QByteArray(exception.what()), utf8);
+        QCOMPARE(exception.getErrorMessage(), QString::fromUtf8(utf8));
     }
 };
 

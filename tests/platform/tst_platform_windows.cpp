@@ -2,6 +2,7 @@
 #include "platform.h"
 
 #include <kdQCore/coVersionNumber>
+#include <kdQCore/kdException>
 #include <kdQCore/nSystem>
 
 #include <windows.h>
@@ -121,8 +122,12 @@ private Q_SLOTS:
 
     void localTextIsTheAnsiCodePage()
     {
-        const QByteArray local = QStringLiteral("Gr\u00f6\u00dfe").toLocal8Bit();
-        QCOMPARE(local.size(), GetACP() == CP_UTF8 ? 7 : 5);
+        const QString text = QStringLiteral("Gr\u00f6\u00dfe");
+        char expected[32] = {};
+        QVERIFY(WideCharToMultiByte(CP_ACP, 0, wide(text), -1, expected, sizeof expected, nullptr, nullptr));
+        const kdException exception(text);
+        QCOMPARE(QByteArray(exception.what()), QByteArray(expected));
+        QCOMPARE(exception.getErrorMessage(), text);
     }
 };
 
