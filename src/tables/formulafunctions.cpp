@@ -6,6 +6,13 @@
 
 namespace {
 
+// Not every C library's round() is right just below one half, where adding one half rounds up to one.
+double roundHalfAway(double x)
+{
+    const double whole = std::trunc(x);
+    return std::abs(x - whole) >= 0.5 ? whole + std::copysign(1.0, x) : whole;
+}
+
 constexpr double pi = 3.141592653589793;
 constexpr double e = 2.718281828459045;
 
@@ -37,7 +44,7 @@ QHash<QString, FormulaFunction> createFunctions()
     functions[QStringLiteral("floor")] = [](double x) { return std::floor(x); };
     functions[QStringLiteral("ceil")] = [](double x) { return std::ceil(x); };
     functions[QStringLiteral("abs")] = [](double x) { return std::fabs(x); };
-    functions[QStringLiteral("round")] = [](double x) { return std::round(x); };
+    functions[QStringLiteral("round")] = roundHalfAway;
     functions[QStringLiteral("rad")] = toRadians;
     functions[QStringLiteral("deg")] = toDegrees;
     return functions;
