@@ -1,5 +1,6 @@
 #include "nkaldoranmaterial.h"
 
+#include "platform.h"
 #include "productversion.h"
 #include "uilanguage.h"
 
@@ -114,11 +115,7 @@ QString nKaldoranMaterial::tutorialFilePath()
 
 QString nKaldoranMaterial::executableFilePath()
 {
-#ifdef Q_OS_WIN
-    const bool withExtension = true;
-#else
-    const bool withExtension = false;
-#endif
+    const bool withExtension = nPlatform::executableExtension().size() > 0;
     return QStringLiteral("%1/bin/%2").arg(materialFolder(), exeFileName(withExtension));
 }
 

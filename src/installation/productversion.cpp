@@ -1,6 +1,7 @@
 #include "productversion.h"
 
 #include "kdbuildinfo_p.h"
+#include "platform.h"
 
 #include <QSysInfo>
 
@@ -31,14 +32,7 @@ static_assert(sizeof(rows) / sizeof(rows[0]) == coProductType::Remote + 1);
 
 QString platform()
 {
-#if defined(Q_OS_WIN)
-    const QString system = QStringLiteral("win");
-#elif defined(Q_OS_MACOS)
-    const QString system = QStringLiteral("macos");
-#else
-    const QString system = QStringLiteral("linux");
-#endif
-    return system + QString::number(int(QSysInfo::WordSize));
+    return nPlatform::systemName() + QString::number(int(QSysInfo::WordSize));
 }
 
 QString dotted(const QString& first, const QString& second)

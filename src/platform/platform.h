@@ -10,6 +10,12 @@
 /// otherwise; an object of one of the classes belongs to one thread at a time.
 namespace nPlatform {
 
+/// "win" or "linux", as version texts name the system.
+QLatin1String systemName();
+
+/// What ends the file name of a program: ".exe" or nothing.
+QLatin1String executableExtension();
+
 /// Milliseconds of a steady clock that never jumps or wraps; only differences mean something.
 qint64 monotonicMilliseconds();
 

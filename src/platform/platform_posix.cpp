@@ -110,6 +110,16 @@ QString executableNameOf(qint64 processId)
 
 } // namespace
 
+QLatin1String systemName()
+{
+    return QLatin1String("linux");
+}
+
+QLatin1String executableExtension()
+{
+    return QLatin1String();
+}
+
 qint64 monotonicMilliseconds()
 {
     timespec now{};

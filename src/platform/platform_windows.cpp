@@ -127,6 +127,16 @@ ExclusiveFile::Failure creationFailure(DWORD code, const QString& path)
 
 } // namespace
 
+QLatin1String systemName()
+{
+    return QLatin1String("win");
+}
+
+QLatin1String executableExtension()
+{
+    return QLatin1String(".exe");
+}
+
 qint64 monotonicMilliseconds()
 {
     // The tick count steps by some 16 ms; this one is finer and does not wrap either.
