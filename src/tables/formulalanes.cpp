@@ -55,6 +55,7 @@ struct Lanes {
     }
 };
 
+// NOLINTNEXTLINE(readability-function-size): one short case an instruction
 void step(const FormulaInstruction& c, double* slots, Lanes& lanes)
 {
     double* const a = slots + std::size_t(c.a) * nFormula::laneCount;

@@ -33,6 +33,7 @@ inline bool isUsualPower(double value)
 
 // The processor foresees the way through a program far better where each instruction jumps to the next by
 // itself; compilers without labels as values get a switch.
+// NOLINTBEGIN(bugprone-macro-parentheses): the macros are labels and jumps, no expressions
 #ifdef __GNUC__
 #pragma GCC diagnostic ignored "-Wpedantic"
 #define FORMULA_LABEL(name) &&name,
@@ -53,7 +54,9 @@ inline bool isUsualPower(double value)
     c = (condition) ? code + c->to : c + 1; \
     DISPATCH
 
+// NOLINTEND(bugprone-macro-parentheses)
 // clang-format off
+// NOLINTNEXTLINE(readability-function-size): one short case an instruction
 bool nFormula::run(const FormulaProgram& program, double* slots, const FormulaBoundFunctions& functions,
                    std::vector<FormulaBoundCall>& calls, double& result)
 {
