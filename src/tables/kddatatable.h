@@ -382,11 +382,11 @@ public:
 
     /// Reads a text of measured values: one line a row, one field a column.
     ///
-    /// Fields are separated by ";", else by tabs, else by ",", else by blanks, whichever the first line of
-    /// values holds; they may stand in quotation marks. With ";" or tabs a comma in a number is its decimal
-    /// mark. Empty lines, empty fields at the end of a line, lines that begin with # // % ! $ or * and a
-    /// first line such as "sep=;" are skipped. Lines end with LF, CRLF or CR. A line whose first
-    /// field holds a digit and no letter is one of values, however odd. Above the values may stand
+    /// Fields are separated by ";", else by tabs, else by "|", else by ",", else by blanks, whichever the
+    /// first line of values holds; they may stand in quotation marks. With ";", tabs or "|" a comma in a
+    /// number is its decimal mark. Empty lines, empty fields at the end of a line, lines that begin with # //
+    /// % ! $ or * and a first line such as "sep=;" are skipped. Lines end with LF, CRLF or CR. A line whose
+    /// first field holds a digit and no letter is one of values, however odd. Above the values may stand
     /// - a line of names, with units in brackets ("time [s]; force (kN)") or not, and a line of units;
     /// - or one line for each column as exportValuesToTextStream() writes it, with or without "#"; the
     ///   separator in these lines is then that of the file, and a comma beside it a decimal mark;

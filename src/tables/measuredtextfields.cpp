@@ -9,6 +9,9 @@ using namespace nMeasuredText;
 const QChar quote = QLatin1Char('"');
 constexpr int longestSymbol = 32;
 
+/// What separates fields other than blanks, in the order of preference.
+constexpr char separators[] = {';', '\t', '|', ','};
+
 bool isOpening(QChar c)
 {
     return c == QLatin1Char('[') || c == QLatin1Char('(');
@@ -158,7 +161,7 @@ bool splitUnit(const QString& field, int unitStart, int unitLength, int nameLeng
 
 nMeasuredText::Separator nMeasuredText::separatorOf(QStringView line)
 {
-    for (const char candidate : {';', '\t', ','})
+    for (const char candidate : separators)
         if (line.contains(QLatin1Char(candidate)))
             return {QString(QLatin1Char(candidate))};
     return {QString(blanks)};
@@ -167,7 +170,7 @@ nMeasuredText::Separator nMeasuredText::separatorOf(QStringView line)
 bool nMeasuredText::isEmptyLine(QStringView line)
 {
     return std::all_of(line.begin(), line.end(),
-                       [](QChar c) { return c.isSpace() || c == QLatin1Char(';') || c == QLatin1Char(','); });
+                       [](QChar c) { return c.isSpace() || QStringView(u";|,").contains(c); });
 }
 
 bool nMeasuredText::isComment(QStringView line)
@@ -194,7 +197,7 @@ QStringList nMeasuredText::headerFields(const QString& line, const Separator& se
     QStringList plain = plainHeaderFields(line, separator);
     if (plain.size() == columns)
         return plain;
-    for (const char candidate : {';', '\t', ','}) {
+    for (const char candidate : separators) {
         QStringList fields = splitHeaderAt(line, QString(QLatin1Char(candidate)));
         dropEmptyEnd(fields);
         if (fields.size() == columns)

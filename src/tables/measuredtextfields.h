@@ -27,7 +27,8 @@ struct Separator {
     bool leavesComma() const { return !text.contains(QLatin1Char(',')); }
 };
 
-/// Separator of a line of values: ';' where there is one, else the tab, else the comma, else blanks.
+/// Separator of a line of values: ';' where there is one, else the tab, else '|', else the comma, else
+/// blanks.
 Separator separatorOf(QStringView line);
 
 /// Whether nothing but separators and white space is on the line.

@@ -83,6 +83,7 @@ private Q_SLOTS:
         const Columns two{{1.5, -2.0}, {3.0, 4e3}};
         QTest::newRow("semicolons") << "1.5;3\n-2;4e3\n" << two;
         QTest::newRow("tabs") << "1.5\t3\n-2\t4e3\n" << two;
+        QTest::newRow("bars") << "1,5|3\n|\n-2|4e3|\n" << two;
         QTest::newRow("commas") << "1.5,3\n-2,4e3\n" << two;
         QTest::newRow("blanks") << "  1.5   3\n-2 4e3  \n" << two;
         QTest::newRow("decimal comma, semicolons") << "1,5;3,0\n-2;4e3\n" << two;
@@ -118,6 +119,7 @@ private Q_SLOTS:
         const QStringList usual{QStringLiteral("temperature:°C"), QStringLiteral("yield stress:MPa")};
         QTest::newRow("brackets") << "temperature [degC];yield stress [MPa]\n1;2" << usual;
         QTest::newRow("round brackets") << "temperature (°C);yield stress (MPa)\n1;2" << usual;
+        QTest::newRow("bars") << "temperature [degC] | yield stress [MPa]\n1|2" << usual;
         QTest::newRow("slash") << "temperature / °C;yield stress / MPa\n1;2" << usual;
         QTest::newRow("row of units") << "temperature;yield stress\ndegC;MPa\n1;2" << usual;
         QTest::newRow("row of units in brackets") << "temperature;yield stress\n[degC];[MPa]\n1;2" << usual;
