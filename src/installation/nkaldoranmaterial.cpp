@@ -1,5 +1,7 @@
 #include "nkaldoranmaterial.h"
 
+#include "copaths.h"
+#include "nfilesystem.h"
 #include "platform.h"
 #include "productversion.h"
 #include "uilanguage.h"
@@ -14,11 +16,12 @@ namespace {
 
 constexpr ProductVersion product(coProductType::Material);
 
-QString materialFolder()
+/// Of the installation that the running application belongs to.
+QString inMaterialFolder(const QString& path)
 {
     const QString binFolder =
         QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
-    return QDir::cleanPath(binFolder + QStringLiteral("/../../material"));
+    return nFileSystem::toCleanAndNativeFilePath(binFolder + QStringLiteral("/../../material/") + path);
 }
 
 } // namespace
@@ -105,18 +108,21 @@ QString nKaldoranMaterial::intermediateFilePath()
 
 QString nKaldoranMaterial::documentsFolder()
 {
-    return materialFolder() + QStringLiteral("/doc");
+    return coPaths::created() ? coPaths::I().getMaterialDocsPath() : inMaterialFolder(QStringLiteral("doc"));
 }
 
 QString nKaldoranMaterial::tutorialFilePath()
 {
-    return QStringLiteral("%1/Kaldoran_Material_Tutorial_%2.pdf").arg(documentsFolder(), uiLanguageCode());
+    return nFileSystem::toCleanAndNativeFilePath(
+        QStringLiteral("%1/Kaldoran_Material_Tutorial_%2.pdf").arg(documentsFolder(), uiLanguageCode()));
 }
 
 QString nKaldoranMaterial::executableFilePath()
 {
+    if (coPaths::created())
+        return coPaths::I().getMaterialApplicationFilePath();
     const bool withExtension = nPlatform::executableExtension().size() > 0;
-    return QStringLiteral("%1/bin/%2").arg(materialFolder(), exeFileName(withExtension));
+    return inMaterialFolder(QStringLiteral("bin/") + exeFileName(withExtension));
 }
 
 bool nKaldoranMaterial::execute(const QStringList& arguments)

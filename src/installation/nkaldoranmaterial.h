@@ -33,15 +33,15 @@ KDQCORE_EXPORT QString toolMaterialFlag();            ///< "Tool material"
 /// user's temporary folder. The folder is not made here.
 KDQCORE_EXPORT QString intermediateFilePath();
 
-/// The documents of the material application, in the installation that the running application belongs to:
-/// every application lies in "<root>/<product>/bin", the documents in "<root>/material/doc". The folder need
-/// not exist.
+/// The documents of the material application: coPaths' folder for them. In an application without coPaths,
+/// the one of the installation that it belongs to: every application lies in "<root>/<product>/bin", the
+/// documents in "<root>/material/doc". The folder need not exist.
 KDQCORE_EXPORT QString documentsFolder();
 /// The tutorial in the user's language, German or English: "Kaldoran_Material_Tutorial_de.pdf" in
 /// documentsFolder().
 KDQCORE_EXPORT QString tutorialFilePath();
 
-/// The material application of the installation that the running application belongs to.
+/// The material application of the same installation.
 KDQCORE_EXPORT QString executableFilePath();
 /// Starts the material application as a process of its own and logs whether that worked. Does not wait for
 /// it.

@@ -154,8 +154,8 @@ void TestProductTexts::pagesAndDocumentsFollowTheLanguage()
     QVERIFY2(page.endsWith(QLatin1Char('/') + code), qPrintable(page));
     QVERIFY(page.contains(nCompanyInfo::organisationDomainName()));
     QCOMPARE(material::tutorialFilePath(),
-             material::documentsFolder() + QStringLiteral("/Kaldoran_Material_Tutorial_") + code
-                 + QStringLiteral(".pdf"));
+             material::documentsFolder() + QDir::separator() + QStringLiteral("Kaldoran_Material_Tutorial_")
+                 + code + QStringLiteral(".pdf"));
 }
 
 void TestProductTexts::linkTextIsPlainText()
