@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+
+/// What the worker thread of a coTcpSocket answers to a request.
+struct SocketReply {
+    bool success = false;
+    int errorCode = -1; ///< a QAbstractSocket::SocketError
+    QString errorString;
+    QByteArray data;
+    QVariant result;
+};
+
+/// The hand-over of one request at a time from a caller to the worker thread and of the reply back.
+class SocketExchange {
+public:
+    static constexpr int defaultTimeout = 60000; // ms
+
+    /// Counts a caller in; false once close() was called.
+    bool enter();
+    void leave();
+    /// Ends the pending call, refuses later ones and returns when all callers have left.
+    void close();
+
+    /// Posts a request and sleeps until its reply is there; nothing where close() came first. The lock is
+    /// held from before the request is posted: the worker cannot answer a caller that does not yet listen.
+    template <typename Post>
+    std::optional<SocketReply> call(const Post& post)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_reply.reset();
+        post();
+        m_condition.wait(lock, [this] { return m_reply || m_isClosing; });
+        return std::exchange(m_reply, std::nullopt);
+    }
+
+    void reply(SocketReply&& reply);
+
+    int timeout() const;
+    void setTimeout(int milliseconds);
+
+private:
+    mutable std::mutex m_mutex;
+    std::condition_variable m_condition;
+    std::optional<SocketReply> m_reply;
+    int m_timeout = defaultTimeout;
+    int m_callers = 0;
+    bool m_isClosing = false;
+};
