@@ -1,4 +1,5 @@
 #include "deckcommands.h"
+#include "formulacommands.h"
 #include "shellsession.h"
 #include "tablecommands.h"
 
@@ -165,12 +166,18 @@ bool DeckCommands::formula(ShellCall& call)
 {
     TableParameters parameters;
     QString formula;
+    bool isUnchecked = false;
     ShellParameters reader(call, 1);
     parameters.addTo(reader).integer("variable2", parameters.code2).text("formula", formula);
-    if (!reader.read() || !parameters.check(call))
+    if (!reader.flag("unchecked", isUnchecked).read() || !parameters.check(call))
         return false;
     if (formula.trimmed().isEmpty())
         return call.fail(tr("The formula of table '%1' is empty.").arg(call.text(0)));
+    QStringList variables{QStringLiteral("v1")};
+    if (parameters.code2 > 0)
+        variables.append(QStringLiteral("v2"));
+    if (!isUnchecked && !FormulaCommands::prepareForSolver(call, variables, formula))
+        return false;
     coFeTableCardUsingFormula card(call.text(0), parameters.id, parameters.variable());
     if (parameters.code2 > 0)
         card.setIndependentVariable2(parameters.variable2());

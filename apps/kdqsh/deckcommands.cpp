@@ -63,9 +63,10 @@ QVector<ShellCommandEntry> DeckCommands::cardEntries()
          QT_TR_NOOP("Writes a table of two variables: the first in its first column, the second in the other "
                     "columns' names, converted where from and to say so; single: one value a line."),
          7, anyNumber, Entry::WritesDeck, grid},
-        {"formula", "NAME id ID variable CODE [variable2 CODE] formula TEXT",
-         QT_TR_NOOP("Writes a table that the solver evaluates from a formula."), 5, anyNumber,
-         Entry::WritesDeck, formula},
+        {"formula", "NAME id ID variable CODE [variable2 CODE] formula FORMULA [unchecked]",
+         QT_TR_NOOP("Writes a table that the solver evaluates from a formula of v1 and v2, checked and with "
+                    "the values of parameters put in; unchecked: as it is."),
+         5, anyNumber, Entry::WritesDeck, formula},
         {"solver",
          "TYPE [uppercase] [nonsymmetric] [fullk] [reproducible] [rigid FLAG] [iterations N] [tolerance T] "
          "[comment]",

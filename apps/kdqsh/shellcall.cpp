@@ -29,6 +29,12 @@ bool ShellCall::readReal(int index, const QString& what, double& value) const
     return true;
 }
 
+QString ShellCall::numberText(double value)
+{
+    constexpr int digits = 12;
+    return QString::number(value, 'g', digits);
+}
+
 void ShellCall::show(const QString& text) const
 {
     m_reporter.message(text, ShellConsole::Result);
@@ -37,6 +43,11 @@ void ShellCall::show(const QString& text) const
 void ShellCall::tell(const QString& text) const
 {
     m_reporter.message(text, ShellConsole::Account);
+}
+
+void ShellCall::warn(const QString& text) const
+{
+    show(tr("Warning: %1").arg(text));
 }
 
 bool ShellCall::fail(const QString& text) const

@@ -19,18 +19,24 @@ public:
     /// Empty beyond the last argument.
     QString text(int index) const { return m_arguments.value(index); }
     /// The arguments from \a first on, with a blank between.
-    QString textFrom(int first) const { return m_arguments.mid(first).join(QLatin1Char(' ')); }
+    QString textFrom(int first) const { return textsFrom(first).join(QLatin1Char(' ')); }
+    QStringList textsFrom(int first) const { return m_arguments.mid(first); }
     bool is(int index, const char* keyword) const { return text(index) == QLatin1String(keyword); }
 
     // These report and return false where the argument is no such number; \a what names it in the report.
     bool readInt(int index, const QString& what, int& value) const;
     bool readReal(int index, const QString& what, double& value) const;
 
+    /// A number as results show it.
+    static QString numberText(double value);
+
     const kdReporterInterface& reporter() const { return m_reporter; }
     /// What the user asked for.
     void show(const QString& text) const;
     /// What was done, left out in quiet runs.
     void tell(const QString& text) const;
+    /// What was done although something seems wrong.
+    void warn(const QString& text) const;
     /// Reports an error and returns false.
     bool fail(const QString& text) const;
     bool hasFailed() const { return m_hasFailed; }

@@ -117,6 +117,8 @@ bool ShellCommand::run(ShellCall& call)
     ShellSession& session = ShellSession::I();
     if (m_entry->effect == ShellCommandEntry::ChangesTables)
         m_tablesBefore = session.tables;
+    if (m_entry->effect == ShellCommandEntry::ChangesParameters)
+        m_parametersBefore = session.parameters;
     if (m_entry->effect == ShellCommandEntry::WritesDeck) {
         if (!session.deck.isOpen())
             return call.fail(tr("No deck is open; see 'deck open'."));
@@ -130,7 +132,7 @@ bool ShellCommand::run(ShellCall& call)
     if (!ok && !call.hasFailed())
         call.fail(complaints.text().isEmpty() ? tr("The command failed.") : complaints.text());
     else if (ok && !complaints.text().isEmpty())
-        call.show(tr("Warning: %1").arg(complaints.text()));
+        call.warn(complaints.text());
     return ok;
 }
 
@@ -139,6 +141,10 @@ bool ShellCommand::undo()
     ShellSession& session = ShellSession::I();
     if (m_entry->effect == ShellCommandEntry::ChangesTables) {
         session.tables = m_tablesBefore;
+        return true;
+    }
+    if (m_entry->effect == ShellCommandEntry::ChangesParameters) {
+        session.parameters = m_parametersBefore;
         return true;
     }
     return session.deck.isOpen() && session.deck.goBackTo(*m_deckBefore);

@@ -2,6 +2,7 @@
 
 #include "shellcall.h"
 #include "shelldeck.h"
+#include "shellformulas.h"
 #include "shelltables.h"
 
 #include <kdQCore/kdCommand>
@@ -16,6 +17,7 @@ struct ShellCommandEntry {
     enum Effect {
         Query, ///< nothing of the session; stays out of the undo list
         ChangesTables,
+        ChangesParameters,
         WritesDeck, ///< lines of the open deck
         CannotUndo
     };
@@ -70,5 +72,6 @@ private:
     QStringList m_arguments;
     QString m_wordsError;
     ShellTables m_tablesBefore;
+    ShellFormulas m_parametersBefore;
     std::optional<ShellDeck::Mark> m_deckBefore;
 };

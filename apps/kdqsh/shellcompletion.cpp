@@ -72,8 +72,13 @@ QStringList following(const QStringList& typed, const QString& prefix)
     const ShellCommandEntry* const entry = group->find(typed.at(1));
     if (entry == nullptr)
         return {};
-    QStringList words = ShellSession::I().tables.names() + keywords(QLatin1String(entry->usage));
-    if (QString::fromLatin1(entry->usage).contains(QLatin1String("FILE")))
+    const QString usage = group->usage(*entry);
+    const bool takesParameters =
+        usage.startsWith(QLatin1String("parameter")) || usage.contains(QLatin1String("FORMULA"));
+    const ShellSession& session = ShellSession::I();
+    QStringList words = takesParameters ? session.parameters.names() : session.tables.names();
+    words += keywords(QLatin1String(entry->usage));
+    if (usage.contains(QLatin1String("FILE")))
         words += files(prefix);
     return words;
 }

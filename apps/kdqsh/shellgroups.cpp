@@ -2,7 +2,9 @@
 
 #include "csvcommands.h"
 #include "deckcommands.h"
+#include "formulacommands.h"
 #include "logcommands.h"
+#include "parametercommands.h"
 #include "tablecommands.h"
 
 #include <kdQCore/kdCommandDispatcher>
@@ -19,8 +21,9 @@ QSharedPointer<kdCommand> create(const QString& parameters)
 
 const QVector<const ShellCommandGroup*>& nShellGroups::all()
 {
-    static const QVector<const ShellCommandGroup*> groups{&TableCommands::group(), &CsvCommands::group(),
-                                                          &DeckCommands::group(), &LogCommands::group()};
+    static const QVector<const ShellCommandGroup*> groups{
+        &TableCommands::group(), &ParameterCommands::group(), &FormulaCommands::group(),
+        &CsvCommands::group(),   &DeckCommands::group(),      &LogCommands::group()};
     return groups;
 }
 
@@ -36,6 +39,8 @@ void nShellGroups::registerCommands()
 {
     kdCommandDispatcher& dispatcher = kdCommandDispatcher::I();
     dispatcher.registerCommand(create<TableCommands::group>);
+    dispatcher.registerCommand(create<ParameterCommands::group>);
+    dispatcher.registerCommand(create<FormulaCommands::group>);
     dispatcher.registerCommand(create<CsvCommands::group>);
     dispatcher.registerCommand(create<DeckCommands::group>);
     dispatcher.registerCommand(create<LogCommands::group>);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shelldeck.h"
+#include "shellformulas.h"
 #include "shelltables.h"
 
 /// What the commands of one run work on. Made once, in main; commands reach it through I(), as the
@@ -15,6 +16,7 @@ public:
     static ShellSession& I();
 
     ShellTables tables;
+    ShellFormulas parameters;
     ShellDeck deck;
 
     void setScriptFolder(const QString& folder) { m_scriptFolder = folder; }

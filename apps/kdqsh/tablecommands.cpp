@@ -6,13 +6,6 @@
 
 namespace {
 
-constexpr int shownDigits = 12;
-
-QString numberText(double value)
-{
-    return QString::number(value, 'g', shownDigits);
-}
-
 /// Columns that a word addresses: "y" is every column but the first.
 QVector<int> columnIndices(const ShellCall& call, const kdDataTable& table, const QString& word)
 {
@@ -147,16 +140,22 @@ bool TableCommands::show(ShellCall& call)
     int rows = table.isNull() ? 0 : table->rows();
     if (table.isNull() || (call.count() > 1 && !call.readInt(1, QStringLiteral("ROWS"), rows)))
         return false;
+    showRows(call, *table, rows);
+    return true;
+}
+
+void TableCommands::showRows(const ShellCall& call, const kdDataTable& table, int rows)
+{
     QVector<QStringList> lines(1);
-    for (int column = 0; column < table->columns(); ++column)
-        lines[0].append(heading(*table, column));
-    for (int row = 0; row < qBound(0, rows, table->rows()); ++row) {
+    for (int column = 0; column < table.columns(); ++column)
+        lines[0].append(heading(table, column));
+    for (int row = 0; row < qBound(0, rows, table.rows()); ++row) {
         QStringList cells;
-        for (int column = 0; column < table->columns(); ++column)
-            cells.append(numberText(table->columnRef(column).value(row)));
+        for (int column = 0; column < table.columns(); ++column)
+            cells.append(ShellCall::numberText(table.columnRef(column).value(row)));
         lines.append(cells);
     }
-    for (int column = 0; column < table->columns(); ++column) {
+    for (int column = 0; column < table.columns(); ++column) {
         int width = 0;
         for (const QStringList& line : qAsConst(lines))
             width = qMax(width, line.at(column).size());
@@ -165,7 +164,6 @@ bool TableCommands::show(ShellCall& call)
     }
     for (const QStringList& line : qAsConst(lines))
         call.show(line.join(QLatin1String("  ")));
-    return true;
 }
 
 bool TableCommands::info(ShellCall& call)
@@ -181,7 +179,8 @@ bool TableCommands::info(ShellCall& call)
         const kdUnitSystem unit = column.getUnitSystem();
         call.show(tr("%1: %2 [%3], %4 to %5, %6")
                       .arg(columnName(*table, i), kdUnitSystem::translatedDimensionName(unit.dimension()),
-                           unit.symbol(), numberText(column.minimum()), numberText(column.maximum()),
+                           unit.symbol(), ShellCall::numberText(column.minimum()),
+                           ShellCall::numberText(column.maximum()),
                            directions.value(column.getMonotonicity())));
     }
     return true;
@@ -201,7 +200,7 @@ bool TableCommands::lookup(ShellCall& call)
     const double value = table->getInterpolDoubleValue(
         column, x, isZeroOutside ? kdDataTable::ZeroOutside : kdDataTable::HoldEndValues);
     const QString unit = table->columnRef(column).getUnitSystem().symbol();
-    call.show(QStringLiteral("%1 %2").arg(numberText(value), unit).trimmed());
+    call.show(QStringLiteral("%1 %2").arg(ShellCall::numberText(value), unit).trimmed());
     return true;
 }
 
@@ -244,19 +243,19 @@ bool convertColumn(const ShellCall& call, kdDataColumn& column, const QString& s
             .arg(column.name(), from.isValid() ? from.symbol() : TableCommands::tr("no unit"), symbol));
 }
 
-bool setColumnUnit(const ShellCall& call, kdDataColumn& column, const QString& symbol)
+} // namespace
+
+bool TableCommands::setColumnUnit(const ShellCall& call, kdDataColumn& column, const QString& symbol)
 {
     bool isKnown = false;
     kdUnitSystem unit = kdUnitSystem::fromSymbol(symbol, column.getUnitSystem().dimension(), &isKnown);
     if (!isKnown)
         unit = kdUnitSystem::fromSymbol(symbol, &isKnown);
     if (!isKnown)
-        return call.fail(TableCommands::tr("'%1' is no unit.").arg(symbol));
+        return call.fail(tr("'%1' is no unit.").arg(symbol));
     column.setUnit(unit);
     return true;
 }
-
-} // namespace
 
 bool TableCommands::convert(ShellCall& call)
 {

@@ -18,6 +18,11 @@ public:
     static int columnIndex(const ShellCall& call, const kdDataTable& table, const QString& word);
     /// The separator that a word names: tab, blank, or the word itself; a semicolon for an empty one.
     static QString separator(const QString& word);
+    /// States the unit of a column, one of its dimension where the symbol has several meanings. Reports a
+    /// symbol that is no unit.
+    static bool setColumnUnit(const ShellCall& call, kdDataColumn& column, const QString& symbol);
+    /// Shows names and units of the columns and the first \a rows.
+    static void showRows(const ShellCall& call, const kdDataTable& table, int rows);
 
 private:
     static bool list(ShellCall& call);

@@ -11,7 +11,11 @@
 /// writer.writeCard(card);
 /// \endcode
 ///
-/// The formula is written as it is, a line break as a blank; its syntax is the solver's.
+/// The formula is written as it is, a line break as a blank. Its language is the solver's, in which v1 and v2
+/// are the independent variables. That of coExpression is akin to it but not the same: conditions, angles in
+/// degrees and the names of some functions are coExpression's own. A formula of numbers, v1 and v2, + - * /,
+/// parentheses and abs() means the same in both; the larger of a and b is then (a + b + abs(a - b)) / 2.
+///
 /// Not thread-safe. Owns all its data.
 class KDQCORE_EXPORT coFeTableCardUsingFormula : public coFeTableCardBase {
 public:

@@ -147,7 +147,7 @@ def check_formula(deck, sources):
     assert deck.ints() == [12, 0, 2]
     formula = compile(deck.lines.pop(0), "formula", "eval")
     for celsius, conductivity in sources.conductivity:
-        found = eval(formula, {"max": max, "v1": celsius + ZERO_CELSIUS})  # our own deck
+        found = eval(formula, {"abs": abs, "v1": celsius + ZERO_CELSIUS})  # our own deck
         assert math.isclose(found, conductivity, abs_tol=0.0601), (celsius, found, conductivity)
 
 
@@ -204,6 +204,9 @@ def check_exports(folder, sources):
     check_rows(folder / "yield_stress.csv", [celsius, sources.yield_stress], ["temperature [°C]", "yield_stress [MPa]"])
     check_rows(folder / "youngs_modulus.csv", [celsius, [modulus / 1000.0 for modulus in sources.youngs_modulus]],
                ["temperature [°C]", "youngs_modulus [GPa]"])
+    tens = [float(celsius) for celsius in range(20, 1201, 10)]
+    check_rows(folder / "conductivity.csv", [tens, [max(27.3, 54.0 - 0.0333 * celsius) for celsius in tens]],
+               ["v1 [°C]", "conductivity [W/(m·K)]"])
 
 
 def check_rows(path, columns, titles=None):

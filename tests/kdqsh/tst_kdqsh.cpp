@@ -106,6 +106,32 @@ void TestKdqsh::commands_data()
     QTest::newRow("combine") << curve
             + S("table copy c d; table scale d y 2; table combine c average d as m; table lookup m 1")
                              << S("180 °C\n");
+    const QString parameters = S("parameter define power = u * i; parameter define u=24 + t/10; "
+                                 "parameter define i = 2e1; parameter define t = -5; ");
+    QTest::newRow("parameters in the order of their use")
+        << parameters + S("parameter list") << S("t = -5\nu = 24 + t/10\ni = 2e1\npower = u * i\n");
+    QTest::newRow("values of parameters") << parameters + S("parameter value; parameter value power")
+                                          << S("t = -5\nu = 23.5\ni = 20\npower = 470\n470\n");
+    QTest::newRow("value beside what is not defined")
+        << S("parameter define a = b; parameter define c = 2; parameter value c; parameter list")
+        << S("2\na = b\nc = 2\n");
+    QTest::newRow("undo of parameters") << parameters
+            + S("parameter define t = 5; undo; parameter remove i; undo; redo; undo; parameter value u")
+                                        << S("23.5\n");
+    QTest::newRow("formula as understood")
+        << S("formula check -x^2 + sin(30) or b") << S("(-(x^2) + sin(30)) or b\n");
+    QTest::newRow("variables") << parameters + S("parameter define w = y; formula variables 'y + u*pi + w'")
+                               << S("y\nu = 23.5\nw\n");
+    QTest::newRow("value of a formula")
+        << parameters + S("formula evaluate 'power > 400 ? u : 1/0'") << S("23.5\n");
+    QTest::newRow("formula over a variable, which hides a parameter and reaches those that use it")
+        << parameters + S("formula evaluate u over t from 0 to 5 points 3")
+        << S("t [-]  value [-]\n    0         24\n  2.5      24.25\n    5       24.5\n");
+    QTest::newRow("table of a formula")
+        << S("formula tabulate x^2 over x from 0 to 0.3 points 4 xunit mm yunit N as f; table info f; "
+             "table lookup f 0.3; undo; table list")
+        << S("Table 'f': 4 rows, 2 columns.\nx: Length [mm], 0 to 0.3, increasing\n"
+             "f: Force [N], 0 to 0.09, increasing\n0.09 N\n");
     QTest::newRow("history") << S("table  list;log flush ;history")
                              << S("   1  table list\n   2  log flush\n   3  history\n");
     QTest::newRow("quit ends") << curve + S("quit; table list") << QString();
@@ -132,6 +158,9 @@ void TestKdqsh::errors_data()
 
     const QString curve = S("table import curve.csv as c; ");
     const QString deck = S("deck open a.dat; ");
+    QString doublings;
+    for (int i = 2; i <= 20; ++i)
+        doublings += S("parameter define a%1 = a%2 + a%2;").arg(i).arg(i - 1);
     const auto row = [](const char* name, const QString& commands, const QString& error) {
         QTest::newRow(name) << commands << QStringLiteral("-c:1: %1\n").arg(error);
     };
@@ -194,6 +223,43 @@ void TestKdqsh::errors_data()
         S("csv export: No column of table 'c' can be converted to 'MPa'."));
     row("wrong decimal mark of settings", S("csv settings separator | decimal dot"),
         S("csv settings: 'dot' is no decimal mark; possible are point and comma."));
+    row("parameters in a circle",
+        S("parameter define a = b; parameter define b = 2*c; parameter define c = a+1"),
+        S("parameter define: The formulas use each other in a circle: a -> b -> c -> a."));
+    row("parameter that uses what is not defined", S("parameter define a = b; parameter value"),
+        S("parameter value: The formula of 'a' uses 'b', which is not defined."));
+    row("parameter that cannot be read", S("parameter define a = 2 +* 3"),
+        S("parameter define: The formula of 'a' cannot be read: Syntax error. Line 1, column 4: found '*', "
+          "expected a number, a name, a function, a sign, \"not\", \"if\" or \"(\"."));
+    row("no name of a parameter", S("parameter define e = 1"),
+        S("parameter define: 'e' cannot be the name of a formula."));
+    row("no formula of a parameter", S("parameter define a 1"),
+        S("parameter define: '=' is missing between name and formula."));
+    row("no such parameter", S("parameter define a = 1; parameter value b"),
+        S("parameter value: There is no parameter 'b', only a."));
+    row("formula that cannot be read", S("formula check 'max(1,x)'"),
+        S("formula check: Math expression 'max(1,x)': Syntax error., Line 1, column 6: found ',', expected "
+          "an "
+          "operator or \")\"."));
+    row("unknown function", S("formula check foo(x)"),
+        S("formula check: The formula contains unknown functions: foo"));
+    row("formula without a value", S("formula evaluate x/0"),
+        S("formula evaluate: Undefined variable(s): x."));
+    row("formula that fails on the way", S("formula tabulate 1/x over x from -2 to 2 points 5 as f"),
+        S("formula tabulate: x = 0: Division by zero. In expression: (1 / x) which evaluates to: (1 / 0)"));
+    row("table without a variable", S("formula tabulate x^2 from 0 to 1 as f"),
+        S("formula tabulate: The table needs a variable that runs (over NAME) and a name of its own (as "
+          "NEW)."));
+    row("range without length", S("formula evaluate x over x from 1 to 1"),
+        S("formula evaluate: 'x' needs two ends to run between (from A to B)."));
+    row("range of nothing", S("formula evaluate x from 1 to 2"),
+        S("formula evaluate: The variable that runs is missing (over NAME)."));
+    row("too few points", S("formula evaluate x over x from 0 to 1 points 1"),
+        S("formula evaluate: The number of points must be 2 to 10000000, not 1."));
+    row("formula that grows beyond measure",
+        S("parameter define a1 = x + x;") + doublings + S("formula evaluate a20 over x from 0 to 1"),
+        S("formula evaluate: With the parameters that it uses, the formula is longer than 100000 "
+          "characters."));
     row("no deck", S("deck title x"), S("deck title: No deck is open; see 'deck open'."));
     row("wrong layout", S("deck open a.dat wide"),
         S("deck open: 'wide' is no layout; possible are fixed, free, standard, extended."));
@@ -203,6 +269,12 @@ void TestKdqsh::errors_data()
         S("deck open: The deck 'a.dat' is still open; see 'deck close'."));
     row("empty formula", deck + S("deck formula k id 1 variable 1 formula ' '"),
         S("deck formula: The formula of table 'k' is empty."));
+    row("formula that the deck does not take", deck + S("deck formula k id 1 variable 1 formula 'v1 +'"),
+        S("deck formula: Math expression 'v1 +': Syntax error., Line 1, column 5: found the end of the "
+          "formula, "
+          "expected a number, a name, a function, a sign, \"not\", \"if\" or \"(\"."));
+    row("formula of an unknown name", deck + S("deck formula k id 1 variable 1 formula v2"),
+        S("deck formula: 'v2' in the formula is neither a variable of the table (v1) nor a parameter."));
     row("table without id", curve + deck + S("deck table c variable 1 hold name x"),
         S("deck table: The table needs an id above 0 (id ID)."));
     row("unknown parameter", deck + S("deck process 4d"),
@@ -280,8 +352,17 @@ void TestKdqsh::deck_data()
         << QByteArray("tables\n    4    2    0    0    0\n    7    3    2   12    2    2\n"
                       "0.00000E+01.00000E-12.00000E-1\n2.93149E+24.73149E+2\n"
                       "0.00000E+01.00000E+21.50000E+2 c\n0.00000E+05.05000E+17.50000E+1\n");
-    QTest::newRow("formula") << free + S("deck formula k id 4 variable 12 formula 'max(1; v1)'")
-                             << QByteArray("table,k\n4,1,0,0,3,\n12,0,2,\nmax(1; v1)\n");
+    QTest::newRow("formula") << free + S("deck formula k id 4 variable 12 formula ' 5.4e1-v1**2'")
+                             << QByteArray("table,k\n4,1,0,0,3,\n12,0,2,\n 5.4e1-v1**2\n");
+    QTest::newRow("formula of the solver's own language")
+        << free + S("deck formula k id 4 variable 12 unchecked formula 'max(1; v1)'")
+        << QByteArray("table,k\n4,1,0,0,3,\n12,0,2,\nmax(1; v1)\n");
+    QTest::newRow("formula with parameters")
+        << free
+            + S("parameter define k = -2; parameter define n=0.1+0.2; parameter define f = v1*k+v2; "
+                "deck formula k id 4 variable 12 variable2 1 formula '2e3*kk(n) - f**n/e'")
+        << QByteArray("table,k\n4,2,0,0,3,\n12,0,2,1,0,2,\n2e3*kk(0.30000000000000004) - "
+                      "(v1*(-2)+v2)**0.30000000000000004/2.718281828459045\n");
     QTest::newRow("solver") << free + S("deck solver mumps uppercase nonsymmetric")
                             << QByteArray("SOLVER\n12,1,0,0,0,0,0,0,\nOPTIMIZE,11,\n");
     QTest::newRow("solver with comment")
@@ -456,6 +537,8 @@ void TestKdqsh::exportIsReadBack_data()
     QTest::newRow("xml") << S("table export xml c 'my table.xml'") << S("table load 'my table.xml' as d");
     QTest::newRow("text") << S("table export text c t.csv") << S("table import t.csv as d");
     QTest::newRow("text with tabs") << S("table export text c t.csv tab") << S("table import t.csv as d");
+    QTest::newRow("csv with bars") << S("csv export c t.csv separator | decimal comma titles")
+                                   << S("table import t.csv as d");
     QTest::newRow("text with commas") << S("table export text c t.csv ','") << S("table import t.csv as d");
     QTest::newRow("csv") << S("csv export c t.csv separator ';' titles") << S("table import t.csv as d");
     QTest::newRow("csv with every word")
@@ -567,7 +650,8 @@ void TestKdqsh::helpStandsInTheDocumentation()
     QVERIFY(page.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(page.readAll());
     KdqshRun shell;
-    for (const QString& topic : {S(""), S("table"), S("csv"), S("deck"), S("log")}) {
+    for (const QString& topic :
+         {S(""), S("table"), S("parameter"), S("formula"), S("csv"), S("deck"), S("log")}) {
         QVERIFY(shell.runCommands(S("help ") + topic));
         QVERIFY2(text.contains(S("```\n%1```\n").arg(shell.output)), qPrintable(topic));
     }

@@ -27,6 +27,7 @@ void TestShellCompletion::initTestCase()
     nShellGroups::registerCommands();
     m_session.tables.put(QStringLiteral("fire"), kdDataTable());
     m_session.tables.put(QStringLiteral("two words"), kdDataTable());
+    m_session.parameters.put(QStringLiteral("firing"), coExpression(QStringLiteral("1")));
     QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("folder")));
     for (const char* name : {"curve.csv", "cut.csv", "my file.csv", "folder/inner.csv"}) {
         QFile file(m_folder.filePath(QLatin1String(name)));
@@ -50,9 +51,10 @@ void TestShellCompletion::candidates_data()
         QTest::newRow(typed) << QString::fromLatin1(typed) << expected;
     };
     row("",
-        {QStringLiteral("csv"), QStringLiteral("deck"), QStringLiteral("help"), QStringLiteral("history"),
-         QStringLiteral("language"), QStringLiteral("list"), QStringLiteral("log"), QStringLiteral("quit"),
-         QStringLiteral("redo"), QStringLiteral("table"), QStringLiteral("undo")});
+        {QStringLiteral("csv"), QStringLiteral("deck"), QStringLiteral("formula"), QStringLiteral("help"),
+         QStringLiteral("history"), QStringLiteral("language"), QStringLiteral("list"), QStringLiteral("log"),
+         QStringLiteral("parameter"), QStringLiteral("quit"), QStringLiteral("redo"), QStringLiteral("table"),
+         QStringLiteral("undo")});
     row("h", {QStringLiteral("help"), QStringLiteral("history")});
     row("undo; ta", {QStringLiteral("table")});
     row("table lo", {QStringLiteral("load"), QStringLiteral("lookup")});
@@ -60,6 +62,8 @@ void TestShellCompletion::candidates_data()
     row("help qu", {QStringLiteral("quit")});
     row("language ", {QStringLiteral("de"), QStringLiteral("en")});
     row("table show ", {QStringLiteral("fire")});
+    row("parameter value ", {QStringLiteral("firing")});
+    row("formula evaluate fi", {QStringLiteral("firing")});
     row("table lookup fire 5 ", {QStringLiteral("fire"), QStringLiteral("zero")});
     row("table import cu", {QStringLiteral("curve.csv"), QStringLiteral("cut.csv")});
     row("table import fo", {QStringLiteral("folder/")});
