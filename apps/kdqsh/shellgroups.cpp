@@ -4,6 +4,7 @@
 #include "deckcommands.h"
 #include "formulacommands.h"
 #include "logcommands.h"
+#include "namecommands.h"
 #include "parametercommands.h"
 #include "tablecommands.h"
 
@@ -23,7 +24,8 @@ const QVector<const ShellCommandGroup*>& nShellGroups::all()
 {
     static const QVector<const ShellCommandGroup*> groups{
         &TableCommands::group(), &ParameterCommands::group(), &FormulaCommands::group(),
-        &CsvCommands::group(),   &DeckCommands::group(),      &LogCommands::group()};
+        &CsvCommands::group(),   &DeckCommands::group(),      &NameCommands::group(),
+        &LogCommands::group()};
     return groups;
 }
 
@@ -43,5 +45,6 @@ void nShellGroups::registerCommands()
     dispatcher.registerCommand(create<FormulaCommands::group>);
     dispatcher.registerCommand(create<CsvCommands::group>);
     dispatcher.registerCommand(create<DeckCommands::group>);
+    dispatcher.registerCommand(create<NameCommands::group>);
     dispatcher.registerCommand(create<LogCommands::group>);
 }

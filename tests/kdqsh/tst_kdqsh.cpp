@@ -132,6 +132,12 @@ void TestKdqsh::commands_data()
              "table lookup f 0.3; undo; table list")
         << S("Table 'f': 4 rows, 2 columns.\nx: Length [mm], 0 to 0.3, increasing\n"
              "f: Force [N], 0 to 0.09, increasing\n0.09 N\n");
+    QTest::newRow("names") << S(
+        "name internal 'Platte (oben)' obj-platteoben; name unique display Table-3 table-3; "
+        "name unique internal Tür; name number Part 2 part-1; "
+        "name check display ' a ' b; name check internal ok")
+                           << S("Obj-Platteoben-2\nTable-4\nT-r\nPart-2\nPart-3\na\nThe name ' a ' holds "
+                                "control characters, or blanks at its ends.\nok\n");
     QTest::newRow("history") << S("table  list;log flush ;history")
                              << S("   1  table list\n   2  log flush\n   3  history\n");
     QTest::newRow("quit ends") << curve + S("quit; table list") << QString();
@@ -260,6 +266,8 @@ void TestKdqsh::errors_data()
         S("parameter define a1 = x + x;") + doublings + S("formula evaluate a20 over x from 0 to 1"),
         S("formula evaluate: With the parameters that it uses, the formula is longer than 100000 "
           "characters."));
+    row("kind of name", S("name unique file x"),
+        S("name unique: 'file' is no kind of name; possible are display and internal."));
     row("no deck", S("deck title x"), S("deck title: No deck is open; see 'deck open'."));
     row("wrong layout", S("deck open a.dat wide"),
         S("deck open: 'wide' is no layout; possible are fixed, free, standard, extended."));
@@ -651,7 +659,7 @@ void TestKdqsh::helpStandsInTheDocumentation()
     const QString text = QString::fromUtf8(page.readAll());
     KdqshRun shell;
     for (const QString& topic :
-         {S(""), S("table"), S("parameter"), S("formula"), S("csv"), S("deck"), S("log")}) {
+         {S(""), S("table"), S("parameter"), S("formula"), S("csv"), S("deck"), S("name"), S("log")}) {
         QVERIFY(shell.runCommands(S("help ") + topic));
         QVERIFY2(text.contains(S("```\n%1```\n").arg(shell.output)), qPrintable(topic));
     }

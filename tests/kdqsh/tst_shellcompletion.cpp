@@ -53,8 +53,8 @@ void TestShellCompletion::candidates_data()
     row("",
         {QStringLiteral("csv"), QStringLiteral("deck"), QStringLiteral("formula"), QStringLiteral("help"),
          QStringLiteral("history"), QStringLiteral("language"), QStringLiteral("list"), QStringLiteral("log"),
-         QStringLiteral("parameter"), QStringLiteral("quit"), QStringLiteral("redo"), QStringLiteral("table"),
-         QStringLiteral("undo")});
+         QStringLiteral("name"), QStringLiteral("parameter"), QStringLiteral("quit"), QStringLiteral("redo"),
+         QStringLiteral("table"), QStringLiteral("undo")});
     row("h", {QStringLiteral("help"), QStringLiteral("history")});
     row("undo; ta", {QStringLiteral("table")});
     row("table lo", {QStringLiteral("load"), QStringLiteral("lookup")});
