@@ -171,10 +171,6 @@
         <translation>Schreibt eine Tabelle zweier Variablen: die erste in ihrer ersten Spalte, die zweite in den Namen der anderen Spalten, umgerechnet, wo from und to es sagen; single: ein Wert je Zeile.</translation>
     </message>
     <message>
-        <source>Writes a table that the solver evaluates from a formula.</source>
-        <translation>Schreibt eine Tabelle, die der Solver aus einer Formel berechnet.</translation>
-    </message>
-    <message>
         <source>Writes the solver option: automatic, pardiso, multifrontal, mumps, iterative, sparse, casi, profile or mixed.</source>
         <translation>Schreibt die Option des Solvers: automatic, pardiso, multifrontal, mumps, iterative, sparse, casi, profile oder mixed.</translation>
     </message>
@@ -242,6 +238,57 @@
         <source>Number %1</source>
         <translation>Zahl %1</translation>
     </message>
+    <message>
+        <source>Writes a table that the solver evaluates from a formula of v1 and v2, checked and with the values of parameters put in; unchecked: as it is.</source>
+        <translation>Schreibt eine Tabelle, die der Solver aus einer Formel von v1 und v2 berechnet, geprüft und mit eingesetzten Parametern; unchecked: wie sie ist.</translation>
+    </message>
+</context>
+<context>
+    <name>FormulaCommands</name>
+    <message>
+        <source>Formulas of parameters and variables, checked and evaluated.</source>
+        <translation>Formeln aus Parametern und Variablen, geprüft und ausgewertet.</translation>
+    </message>
+    <message>
+        <source>Says what is wrong with a formula, or how it is understood.</source>
+        <translation>Sagt, was an einer Formel falsch ist oder wie sie verstanden wird.</translation>
+    </message>
+    <message>
+        <source>Lists the variables of a formula, with the values of parameters.</source>
+        <translation>Listet die Variablen einer Formel auf, mit den Werten der Parameter.</translation>
+    </message>
+    <message>
+        <source>Shows the value of a formula, or its values while one variable runs.</source>
+        <translation>Zeigt den Wert einer Formel oder ihre Werte, während eine Variable läuft.</translation>
+    </message>
+    <message>
+        <source>Makes a table of a formula&apos;s values while one variable runs.</source>
+        <translation>Macht aus den Werten einer Formel, während eine Variable läuft, eine Tabelle.</translation>
+    </message>
+    <message>
+        <source>The table needs a variable that runs (over NAME) and a name of its own (as NEW).</source>
+        <translation>Die Tabelle braucht eine Variable, die läuft (over NAME), und einen eigenen Namen (as NEW).</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; in the formula is neither a variable of the table (%2) nor a parameter.</source>
+        <translation>„%1“ in der Formel ist weder eine Variable der Tabelle (%2) noch ein Parameter.</translation>
+    </message>
+    <message>
+        <source>The number of points must be 2 to %1, not %2.</source>
+        <translation>Die Zahl der Punkte muss 2 bis %1 sein, nicht %2.</translation>
+    </message>
+    <message>
+        <source>The variable that runs is missing (over NAME).</source>
+        <translation>Die Variable, die läuft, fehlt (over NAME).</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; needs two ends to run between (from A to B).</source>
+        <translation>„%1“ braucht zwei Enden, zwischen denen es läuft (from A to B).</translation>
+    </message>
 </context>
 <context>
     <name>LogCommands</name>
@@ -268,6 +315,76 @@
     <message>
         <source>Hands all log lines to the system.</source>
         <translation>Übergibt alle Protokollzeilen dem System.</translation>
+    </message>
+</context>
+<context>
+    <name>NameCommands</name>
+    <message>
+        <source>Names of objects: what users see, and what is safe in decks and file names.</source>
+        <translation>Namen von Objekten: was Anwender sehen und was in Decks und Dateinamen sicher ist.</translation>
+    </message>
+    <message>
+        <source>Shows the internal name that an object of this display name gets.</source>
+        <translation>Zeigt den internen Namen, den ein Objekt mit diesem Anzeigenamen erhält.</translation>
+    </message>
+    <message>
+        <source>Shows the name, with a counter where it is taken.</source>
+        <translation>Zeigt den Namen, mit einem Zähler, wo er vergeben ist.</translation>
+    </message>
+    <message>
+        <source>Shows the name corrected by the rules, and what was wrong with it.</source>
+        <translation>Zeigt den nach den Regeln berichtigten Namen und was an ihm falsch war.</translation>
+    </message>
+    <message>
+        <source>Shows numbered names that are not taken.</source>
+        <translation>Zeigt nummerierte Namen, die nicht vergeben sind.</translation>
+    </message>
+    <message>
+        <source>COUNT must be at least 1, not %1.</source>
+        <translation>COUNT muss mindestens 1 sein, nicht %1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no kind of name; possible are display and internal.</source>
+        <translation>„%1“ ist keine Art von Namen; möglich sind display und internal.</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterCommands</name>
+    <message>
+        <source>Named formulas that use each other, for formulas and decks.</source>
+        <translation>Benannte Formeln, die einander benutzen, für Formeln und Decks.</translation>
+    </message>
+    <message>
+        <source>Defines a parameter, or defines it anew.</source>
+        <translation>Definiert einen Parameter, auch von neuem.</translation>
+    </message>
+    <message>
+        <source>Lists the parameters, each behind those that it uses.</source>
+        <translation>Listet die Parameter auf, jeden hinter denen, die er benutzt.</translation>
+    </message>
+    <message>
+        <source>Shows the value of one parameter, or of all.</source>
+        <translation>Zeigt den Wert eines Parameters oder aller.</translation>
+    </message>
+    <message>
+        <source>Removes a parameter from the session.</source>
+        <translation>Entfernt einen Parameter aus der Sitzung.</translation>
+    </message>
+    <message>
+        <source>&apos;=&apos; is missing between name and formula.</source>
+        <translation>Zwischen Name und Formel fehlt „=“.</translation>
+    </message>
+    <message>
+        <source>No parameters.</source>
+        <translation>Keine Parameter.</translation>
+    </message>
+    <message>
+        <source>There is no parameter &apos;%1&apos;; none has been defined yet.</source>
+        <translation>Es gibt keinen Parameter „%1“; es wurde noch keiner definiert.</translation>
+    </message>
+    <message>
+        <source>There is no parameter &apos;%1&apos;, only %2.</source>
+        <translation>Es gibt keinen Parameter „%1“, nur %2.</translation>
     </message>
 </context>
 <context>
@@ -315,6 +432,10 @@
         <source>%1 must be a number, not &apos;%2&apos;.</source>
         <translation>%1 muss eine Zahl sein, nicht „%2“.</translation>
     </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
 </context>
 <context>
     <name>ShellCommand</name>
@@ -338,10 +459,6 @@
         <source>The command failed.</source>
         <translation>Der Befehl ist gescheitert.</translation>
     </message>
-    <message>
-        <source>Warning: %1</source>
-        <translation>Warnung: %1</translation>
-    </message>
 </context>
 <context>
     <name>ShellConsole</name>
@@ -359,6 +476,13 @@
     <message>
         <source>The deck &apos;%1&apos; cannot be written: %2</source>
         <translation>Das Deck „%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ShellFormulas</name>
+    <message>
+        <source>With the parameters that it uses, the formula is longer than %1 characters.</source>
+        <translation>Mit den Parametern, die sie benutzt, ist die Formel länger als %1 Zeichen.</translation>
     </message>
 </context>
 <context>
