@@ -47,7 +47,7 @@ QString coExpression::variableName(int i) const
 
 void coExpression::setVariable(int i, double value)
 {
-    if (i >= 0 && std::size_t(i) < m_d->m_states.size())
+    if (std::size_t(i) < m_d->m_states.size())
         m_d->setVariable(std::size_t(i), value);
 }
 
@@ -110,6 +110,11 @@ QStringList coExpression::findUnresolvedFunctions() const
         if (!m_d->isResolved(std::size_t(i)))
             names << functionName(i);
     return names;
+}
+
+bool coExpression::evaluate(double* result)
+{
+    return m_d->evaluate(result);
 }
 
 bool coExpression::evaluateAll(int variable, const double* values, int count, double* results,

@@ -25,7 +25,7 @@ void coExpressionPrivate::resolveBuiltIns()
         m_builtIn.push_back(builtIn);
         m_unresolved += builtIn ? 0 : 1;
     }
-    m_bound.resize(m_functions.size());
+    m_bound.functions.resize(m_functions.size());
     m_program = std::make_shared<const FormulaProgram>(nFormula::compiled(*m_tree, m_builtIn));
     m_slots = m_program->slots;
     m_infinite = int(m_program->hasInfiniteLiteral);
@@ -50,7 +50,7 @@ void coExpressionPrivate::setFunction(std::size_t i, const coExpression::Functio
                                       coExpression::FunctionScope scope)
 {
     m_unresolved += isResolved(i) ? 1 : 0;
-    m_bound[i] = function;
+    m_bound.functions[i] = function;
     m_functions[i].scope = function && !m_functions[i].builtIn ? scope : coExpression::Pointwise;
     m_unresolved -= function ? 1 : 0;
     countObstacles();
@@ -61,13 +61,7 @@ void coExpressionPrivate::setFunction(std::size_t i, const coExpression::Functio
     }
 }
 
-bool coExpression::evaluate(double* result)
-{
-    double unwanted = 0.0;
-    return m_d->evaluate(result ? result : &unwanted);
-}
-
-bool coExpressionPrivate::evaluateCarefully(double& result)
+bool coExpressionPrivate::evaluateCarefully(double* result)
 {
     if (!m_tree)
         return false;
@@ -79,14 +73,15 @@ bool coExpressionPrivate::evaluateCarefully(double& result)
     if (m_unresolved > 0)
         return failUnresolved();
     if (!wasTried && m_obstacles == 0)
-        return evaluate(&result);
+        return evaluate(result);
     if (!wasTried)
-        m_calls.clear();
-    const FormulaBinding binding{m_slots.data(), m_builtIn, m_bound, m_calls};
+        m_bound.calls.clear();
+    const FormulaBinding binding{m_slots.data(), m_builtIn, m_bound};
     double value = 0.0;
     m_failure = nFormula::walk(*m_tree, binding, m_walkValues, value);
     if (m_failure.error == FormulaError::None) {
-        result = value;
+        if (result)
+            *result = value;
         return true;
     }
     m_hasFailed = true;

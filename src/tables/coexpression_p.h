@@ -33,12 +33,19 @@ public:
     }
     void setFunction(std::size_t i, const coExpression::Function& function,
                      coExpression::FunctionScope scope);
-    bool isResolved(std::size_t function) const { return m_builtIn[function] || m_bound[function]; }
+    bool isResolved(std::size_t function) const { return m_builtIn[function] || m_bound.functions[function]; }
 
     bool evaluate(double* result)
     {
-        return (m_obstacles == 0 && nFormula::run(*m_program, m_slots.data(), m_bound, m_calls, *result))
-            || evaluateCarefully(*result);
+        if (m_obstacles == 0) {
+            const double value = nFormula::run(*m_program, m_slots.data(), m_bound);
+            if (!std::isnan(value)) {
+                if (result)
+                    *result = value;
+                return true;
+            }
+        }
+        return evaluateCarefully(result);
     }
     bool evaluateAll(int variable, const double* values, int count, double* results, int* firstFailure);
 
@@ -50,7 +57,7 @@ public:
     std::vector<VariableState> m_states;    ///< for each variable
     std::vector<Function> m_functions;      ///< as the language has them
     std::vector<FormulaFunction> m_builtIn; ///< as they are now: null where the caller's counts
-    FormulaBoundFunctions m_bound;
+    FormulaBound m_bound;
 
 private:
     struct FirstFailure;
@@ -59,7 +66,7 @@ private:
 
     void resolveBuiltIns();
     bool failUnresolved();
-    bool evaluateCarefully(double& result);
+    bool evaluateCarefully(double* result);
     void changeVariable(std::size_t i, double value, VariableState state);
     void evaluateOne(int index, double* results, FirstFailure& first);
     int evaluateBlocks(std::size_t variable, const double* values, int count, double* results,
@@ -81,6 +88,5 @@ private:
     QString m_errorString;  ///< of any other failure
     QString m_errorDetails; ///< of a text that does not parse
 
-    std::vector<FormulaBoundCall> m_calls; ///< of the running evaluation
     std::vector<double> m_walkValues;
 };

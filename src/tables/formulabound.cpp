@@ -19,9 +19,8 @@ FormulaBoundCall nFormula::callBound(const std::function<double(double)>& functi
     }
 }
 
-bool nFormula::runBound(const FormulaInstruction& instruction, const FormulaBoundFunctions& functions,
-                        std::vector<FormulaBoundCall>& calls, double argument)
+bool nFormula::runBound(const FormulaInstruction& instruction, FormulaBound& bound, double argument)
 {
-    calls.push_back(callBound(functions[instruction.a], instruction.to, argument));
-    return calls.back().error == 0 && std::isfinite(calls.back().value);
+    bound.calls.push_back(callBound(bound.functions[instruction.a], instruction.to, argument));
+    return bound.calls.back().error == 0 && std::isfinite(bound.calls.back().value);
 }

@@ -17,10 +17,13 @@ public:
         m_program.slots.resize(std::size_t(tree.variables.size()));
         m_program.slots.reserve(m_program.slots.size() + std::size_t(literals));
         m_firstTemporary = quint32(tree.variables.size() + literals);
+        m_program.callsBound = std::count(functions.begin(), functions.end(), nullptr) > 0;
     }
 
     FormulaProgram run()
     {
+        if (m_program.callsBound)
+            emit({FormulaOp::ForgetCalls});
         visit(m_tree.root());
         while (!m_tasks.empty()) {
             const Task task = m_tasks.back();
@@ -110,7 +113,7 @@ private:
     void land(std::size_t jump)
     {
         m_lastTarget = m_program.code.size();
-        m_program.code[jump].to = quint32(m_lastTarget);
+        m_program.code[jump].to = quint32(m_lastTarget - jump);
     }
 
     void branch(const FormulaInstruction& instruction)
@@ -241,7 +244,6 @@ private:
         const FormulaFunction function = m_functions[node.reference];
         static const FormulaFunction root = nFormula::builtInFunction(QStringLiteral("sqrt"));
         if (!function) {
-            m_program.callsBound = true;
             later(Action::Emit, {FormulaOp::CallBound, node.reference, 0, index});
         } else if (function == root) {
             later(Action::Emit, {FormulaOp::Root});

@@ -14,6 +14,7 @@
 //   Square            pow(r, a), where the slot is the literal 2
 //   Truth             r = r != 0       Equal ...        r = r op a
 //   CallSlot          r = f(a)         CallBound        a function of the caller's, number a
+//   ForgetCalls       of the caller's functions, made in the evaluation before
 //   IfNot, If         jump where r is 0, or is not      IfNotLess ...    jump where a < b is false, and so on
 // clang-format off
 #define FORMULA_OPS(X)                                                                            \
@@ -22,7 +23,7 @@
     X(AddSlots) X(SubtractSlots) X(MultiplySlots) X(DivideSlots) X(PowerSlots)                    \
     X(MultiplyAdd) X(Horner)                                                                      \
     X(Equal) X(NotEqual) X(Less) X(LessEqual) X(Greater) X(GreaterEqual)                          \
-    X(Root) X(Call) X(CallSlot) X(CallBound)                                                      \
+    X(Root) X(Call) X(CallSlot) X(ForgetCalls) X(CallBound)                                       \
     X(Jump) X(IfNot) X(If) X(IfNotLess) X(IfNotLessEqual) X(IfNotGreater) X(IfNotGreaterEqual)
 // clang-format on
 
@@ -34,7 +35,7 @@ struct FormulaInstruction {
     FormulaOp op = FormulaOp::Halt;
     quint32 a = 0;
     quint32 b = 0;
-    quint32 to = 0; ///< of a jump; of a bound call: its node; of Horner: how many
+    quint32 to = 0; ///< of a jump: how far; of a bound call: its node; of Horner: how many
     FormulaFunction function = nullptr;
 };
 

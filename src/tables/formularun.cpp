@@ -8,6 +8,7 @@
 namespace {
 
 constexpr double largest = std::numeric_limits<double>::max();
+constexpr double unusual = std::numeric_limits<double>::quiet_NaN();
 
 // False for NaN too.
 inline bool isFinite(double value)
@@ -48,24 +49,20 @@ inline bool isUsualPower(double value)
     DISPATCH
 #define NEXT_IF(condition) \
     if (!(condition))      \
-        return false;      \
+        return unusual;    \
     NEXT
-#define JUMP_IF(condition)                  \
-    c = (condition) ? code + c->to : c + 1; \
+#define JUMP_IF(condition)         \
+    c += (condition) ? c->to : 1u; \
     DISPATCH
 
 // NOLINTEND(bugprone-macro-parentheses)
 // clang-format off
 // NOLINTNEXTLINE(readability-function-size): one short case an instruction
-bool nFormula::run(const FormulaProgram& program, double* slots, const FormulaBoundFunctions& functions,
-                   std::vector<FormulaBoundCall>& calls, double& result)
+double nFormula::run(const FormulaProgram& program, double* slots, FormulaBound& bound)
 {
-    const FormulaInstruction* const code = program.code.data();
-    const FormulaInstruction* c = code;
+    const FormulaInstruction* c = program.code.data();
     const double* const s = slots;
     double r = 0.0; // its address must not be taken: it would leave its register
-    if (program.callsBound)
-        calls.clear();
 #ifdef __GNUC__
     static const void* const labels[] = {FORMULA_OPS(FORMULA_LABEL)};
     DISPATCH;
@@ -75,8 +72,7 @@ bool nFormula::run(const FormulaProgram& program, double* slots, const FormulaBo
         switch (c->op) {
 #endif
     OP(Halt):
-        result = r;
-        return true;
+        return r;
     OP(Load):
         r = s[c->a];
         NEXT;
@@ -140,11 +136,12 @@ bool nFormula::run(const FormulaProgram& program, double* slots, const FormulaBo
         NEXT_IF(isFinite(r));
     OP(Horner): {
         const double x = s[c->a];
-        const double* sum = s + c->b;
-        for (quint32 k = c->to; k > 0; --k, --sum) {
+        std::size_t k = c->to;
+        const double* const sums = s + (c->b + 1 - k);
+        do {
             r = x * r;
-            r = *sum + r;
-        }
+            r = sums[--k] + r;
+        } while (k > 0);
     }
         NEXT_IF(isFinite(r));
     OP(Equal):
@@ -167,7 +164,7 @@ bool nFormula::run(const FormulaProgram& program, double* slots, const FormulaBo
         NEXT;
     OP(Root):
         if (!(r >= 0.0)) // a domain error goes the long way
-            return false;
+            return unusual;
         r = std::sqrt(r);
         NEXT;
     OP(Call):
@@ -176,10 +173,13 @@ bool nFormula::run(const FormulaProgram& program, double* slots, const FormulaBo
     OP(CallSlot):
         r = c->function(s[c->a]);
         NEXT_IF(isUsual(r));
+    OP(ForgetCalls):
+        bound.calls.clear();
+        NEXT;
     OP(CallBound):
-        if (!runBound(*c, functions, calls, r))
-            return false;
-        r = calls.back().value;
+        if (!runBound(*c, bound, r))
+            return unusual;
+        r = bound.calls.back().value;
         NEXT;
     OP(Jump):
         JUMP_IF(true);

@@ -13,18 +13,20 @@ struct FormulaBoundCall {
     int error; ///< errno after the call; -1 where it threw
 };
 
-using FormulaBoundFunctions = std::vector<std::function<double(double)>>;
+/// The caller's functions and what they returned.
+struct FormulaBound {
+    std::vector<std::function<double(double)>> functions; ///< empty ones are not bound
+    std::vector<FormulaBoundCall> calls;                  ///< of the running evaluation
+};
 
 namespace nFormula {
 
-/// One pass over the program. False where anything is unusual: a value that is not finite, or one after which
+/// One pass over the program. NaN where anything is unusual: a value that is not finite, or one after which
 /// errno might be set. The pass then says nothing about the formula: walk the tree.
-bool run(const FormulaProgram& program, double* slots, const FormulaBoundFunctions& functions,
-         std::vector<FormulaBoundCall>& calls, double& result);
+double run(const FormulaProgram& program, double* slots, FormulaBound& bound);
 
-/// For run(): appends to \a calls; false where the call failed.
-bool runBound(const FormulaInstruction& instruction, const FormulaBoundFunctions& functions,
-              std::vector<FormulaBoundCall>& calls, double argument);
+/// For run(): appends to the calls; false where the call failed.
+bool runBound(const FormulaInstruction& instruction, FormulaBound& bound, double argument);
 
 FormulaBoundCall callBound(const std::function<double(double)>& function, quint32 node, double argument);
 

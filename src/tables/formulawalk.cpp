@@ -115,11 +115,11 @@ private:
                 m_error = errno == 0 && std::isnan(value) ? EDOM : errno;
             return value;
         }
-        const bool wasCalled =
-            m_nextCall < m_binding.calls.size() && m_binding.calls[m_nextCall].node == index;
+        const FormulaBound& bound = m_binding.bound;
+        const bool wasCalled = m_nextCall < bound.calls.size() && bound.calls[m_nextCall].node == index;
         const FormulaBoundCall made = wasCalled
-            ? m_binding.calls[m_nextCall++]
-            : nFormula::callBound(m_binding.bound[reference], index, argument);
+            ? bound.calls[m_nextCall++]
+            : nFormula::callBound(bound.functions[reference], index, argument);
         m_error = made.error;
         return made.value;
     }

@@ -14,8 +14,7 @@ struct FormulaFailure {
 struct FormulaBinding {
     const double* variables;
     const std::vector<FormulaFunction>& builtIn; ///< null: a bound function counts
-    const FormulaBoundFunctions& bound;
-    const std::vector<FormulaBoundCall>& calls; ///< those already made in this evaluation
+    const FormulaBound& bound;                   ///< with the calls already made in this evaluation
 };
 
 namespace nFormula {
