@@ -5,6 +5,7 @@
 
 #include <kdQCore/coExpression>
 
+#include <array>
 #include <cerrno>
 #include <cmath>
 #include <memory>
@@ -33,7 +34,7 @@ struct Node {
 
     Kind kind = Number;
     double number = 0.0;
-    const double* variable = nullptr;
+    int variable = 0;
     double (*function)(double) = nullptr;
     std::unique_ptr<Node> a, b, c;
 };
@@ -45,7 +46,7 @@ struct Failure {
     const Node* node;
 };
 
-double walk(const Node& n)
+double walk(const Node& n, const double* variables)
 {
     errno = 0;
     double r = 0.0;
@@ -54,48 +55,48 @@ double walk(const Node& n)
         r = n.number;
         break;
     case Node::Variable:
-        r = *n.variable;
+        r = variables[n.variable];
         break;
     case Node::Negate:
-        r = -walk(*n.a);
+        r = -walk(*n.a, variables);
         break;
     case Node::Add:
-        r = walk(*n.a);
-        r = r + walk(*n.b);
+        r = walk(*n.a, variables);
+        r = r + walk(*n.b, variables);
         break;
     case Node::Subtract:
-        r = walk(*n.a);
-        r = r - walk(*n.b);
+        r = walk(*n.a, variables);
+        r = r - walk(*n.b, variables);
         break;
     case Node::Multiply:
-        r = walk(*n.a);
-        r = r * walk(*n.b);
+        r = walk(*n.a, variables);
+        r = r * walk(*n.b, variables);
         break;
     case Node::Divide:
-        r = walk(*n.a);
-        r = r / walk(*n.b);
+        r = walk(*n.a, variables);
+        r = r / walk(*n.b, variables);
         if (!std::isfinite(r))
             throw Failure{1, &n};
         break;
     case Node::Greater:
-        r = walk(*n.a);
-        r = r > walk(*n.b);
+        r = walk(*n.a, variables);
+        r = r > walk(*n.b, variables);
         break;
     case Node::Power: {
-        const double base = walk(*n.a);
-        const double exponent = walk(*n.b);
+        const double base = walk(*n.a, variables);
+        const double exponent = walk(*n.b, variables);
         errno = 0;
         r = std::pow(base, exponent);
         break;
     }
     case Node::Call: {
-        const double x = walk(*n.a);
+        const double x = walk(*n.a, variables);
         errno = 0;
         r = n.function(x);
         break;
     }
     case Node::If:
-        r = walk(*n.a) != 0.0 ? walk(*n.b) : walk(*n.c);
+        r = walk(*n.a, variables) != 0.0 ? walk(*n.b, variables) : walk(*n.c, variables);
         break;
     }
     if (errno == 0) {
@@ -131,68 +132,68 @@ NodePointer call(double (*function)(double), NodePointer argument)
     return node;
 }
 
-struct Values {
-    double x = 1.0;
-    double a = 2.5;
-    double b = 3.25;
-};
+enum Variable { X, A, B };
 
-NodePointer variable(const double& value)
+using Values = std::array<double, 3>;
+
+constexpr Values values = {1.0, 2.5, 3.25};
+
+NodePointer variable(Variable index)
 {
     auto node = std::make_unique<Node>();
     node->kind = Node::Variable;
-    node->variable = &value;
+    node->variable = index;
     return node;
 }
 
-NodePointer polynomial(const Values& v)
+NodePointer polynomial()
 {
     NodePointer node = number(8);
     for (int i = 7; i >= 1; --i)
-        node = make(Node::Add, number(i), make(Node::Multiply, variable(v.x), std::move(node)));
+        node = make(Node::Add, number(i), make(Node::Multiply, variable(X), std::move(node)));
     return node;
 }
 
-NodePointer powers(const Values& v)
+NodePointer powers()
 {
     using N = Node;
     return make(N::Add,
                 make(N::Subtract,
-                     make(N::Add, make(N::Multiply, variable(v.a), make(N::Power, variable(v.x), number(3))),
-                          make(N::Multiply, variable(v.b), make(N::Power, variable(v.x), number(2)))),
-                     make(N::Divide, variable(v.x), variable(v.a))),
-                variable(v.b));
+                     make(N::Add, make(N::Multiply, variable(A), make(N::Power, variable(X), number(3))),
+                          make(N::Multiply, variable(B), make(N::Power, variable(X), number(2)))),
+                     make(N::Divide, variable(X), variable(A))),
+                variable(B));
 }
 
-NodePointer decay(const Values& v)
+NodePointer decay()
 {
     using N = Node;
-    NodePointer exponent = make(N::Divide, make(N::Negate, variable(v.x)), variable(v.b));
+    NodePointer exponent = make(N::Divide, make(N::Negate, variable(X)), variable(B));
     NodePointer fall = make(N::Power, number(2.718281828459045), std::move(exponent));
-    return make(N::Add, make(N::Multiply, variable(v.a), make(N::Subtract, number(1), std::move(fall))),
-                call(squareRoot, variable(v.x)));
+    return make(N::Add, make(N::Multiply, variable(A), make(N::Subtract, number(1), std::move(fall))),
+                call(squareRoot, variable(X)));
 }
 
 struct Case {
     const char* name;
     const char* ours;
     const char* peer;
-    NodePointer (*tree)(const Values&);
+    NodePointer (*tree)();
     bool hasSmallPower;
     double barAgainstWalk;
 };
 
 const Case cases[] = {
     {"a*sin(x)+b", "a*sin(x)+b", "a*sin(x)+b",
-     [](const Values& v) {
-         return make(Node::Add, make(Node::Multiply, variable(v.a), call(sinDegrees, variable(v.x))),
-                     variable(v.b));
+     []() {
+         return make(Node::Add, make(Node::Multiply, variable(A), call(sinDegrees, variable(X))),
+                     variable(B));
      },
      false, 1.8},
     {"if(x>0) x^2 else 0", "if(x>0) x^2 else 0", "x>0 ? x^2 : 0",
-     [](const Values& v) {
-         return make(Node::If, make(Node::Greater, variable(v.x), number(0)),
-                     make(Node::Power, variable(v.x), number(2)), number(0));
+     []() {
+         return make(Node::If, make(Node::Greater, variable(X), number(0)),
+                     make(Node::Power, variable(X), number(2)), number(0));
      },
      true, 1.8},
     {"polynomial of 29 nodes", "1+x*(2+x*(3+x*(4+x*(5+x*(6+x*(7+x*8))))))",
@@ -209,11 +210,10 @@ double argument(int i)
 
 coExpression ours(const char* text)
 {
-    const Values values;
     coExpression expression(QString::fromLatin1(text));
-    expression.setVariable(QStringLiteral("x"), values.x);
-    expression.setVariable(QStringLiteral("a"), values.a);
-    expression.setVariable(QStringLiteral("b"), values.b);
+    expression.setVariable(QStringLiteral("x"), values[X]);
+    expression.setVariable(QStringLiteral("a"), values[A]);
+    expression.setVariable(QStringLiteral("b"), values[B]);
     return expression;
 }
 
@@ -225,19 +225,19 @@ int indexOf(const coExpression& expression, const QString& name)
     return i;
 }
 
-void prepare(mu::Parser& parser, Values& values, const char* text)
+void prepare(mu::Parser& parser, Values& variables, const char* text)
 {
-    parser.DefineVar("x", &values.x);
-    parser.DefineVar("a", &values.a);
-    parser.DefineVar("b", &values.b);
+    parser.DefineVar("x", &variables[X]);
+    parser.DefineVar("a", &variables[A]);
+    parser.DefineVar("b", &variables[B]);
     parser.SetExpr(text);
 }
 
 bool holdsEvaluation(const Case& c)
 {
-    Values treeValues;
-    Values peerValues;
-    const NodePointer tree = c.tree(treeValues);
+    Values treeValues = values;
+    Values peerValues = values;
+    const NodePointer tree = c.tree();
     coExpression expression = ours(c.ours);
     const int x = indexOf(expression, QStringLiteral("x"));
     mu::Parser parser;
@@ -254,14 +254,14 @@ bool holdsEvaluation(const Case& c)
     Duel duel(c.name, evaluations);
     duel.add("recursive walk, errno at every node", [&] {
         for (int i = 0; i < evaluations; ++i) {
-            treeValues.x = arguments[std::size_t(i)];
-            walked[std::size_t(i)] = walk(*tree);
+            treeValues[X] = arguments[std::size_t(i)];
+            walked[std::size_t(i)] = walk(*tree, treeValues.data());
         }
     });
     duel.add("muParser", [&] {
         double sum = 0.0;
         for (int i = 0; i < evaluations; ++i) {
-            peerValues.x = arguments[std::size_t(i)];
+            peerValues[X] = arguments[std::size_t(i)];
             sum += parser.Eval();
         }
         sink = sum;
@@ -288,9 +288,9 @@ bool holdsEvaluation(const Case& c)
 bool holdsParsing(const Case& c)
 {
     constexpr int texts = 2000;
-    Values values;
+    Values variables = values;
     mu::Parser parser;
-    prepare(parser, values, c.peer);
+    prepare(parser, variables, c.peer);
     const QString text = QString::fromLatin1(c.ours);
     int valid = 0;
     volatile double sink = 0.0; // muParser parses when it first evaluates
@@ -313,15 +313,15 @@ void showFailures()
 {
     coExpression expression = ours("a*(1-2.718281828459045^(-x/b))+sqrt(x)");
     const int x = indexOf(expression, QStringLiteral("x"));
-    Values values;
-    const NodePointer tree = decay(values);
+    Values variables = values;
+    const NodePointer tree = decay();
     int failures = 0;
     Duel duel("A failing evaluation: the square root of a negative number", evaluations);
     duel.add("recursive walk that throws", [&] {
         for (int i = 0; i < evaluations; ++i) {
-            values.x = -argument(i);
+            variables[X] = -argument(i);
             try {
-                walk(*tree);
+                walk(*tree, variables.data());
             } catch (const Failure&) {
                 ++failures;
             }
