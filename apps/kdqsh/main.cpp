@@ -6,6 +6,7 @@
 #include "shelloptions.h"
 #include "shellsession.h"
 
+#include <kdQCore/coPaths>
 #include <kdQCore/coProductInformation>
 #include <kdQCore/kdCommandDispatcher>
 #include <kdQCore/kdDebugLog>
@@ -56,6 +57,7 @@ public:
         const QString program = argc > 0 ? QFileInfo(QString::fromLocal8Bit(argv[0])).fileName() : QString();
         if (!program.isEmpty())
             kdDebugLog::removeOldLogFiles(QFileInfo(kdDebugLog::logFilePath()).dir(), program);
+        coPaths::createInstance();
         coProductInformation::registerProduct(coProductType::service(),
                                               coVersionNumber(QCoreApplication::applicationVersion()));
         kdCommandDispatcher::createInstance();
@@ -67,6 +69,7 @@ public:
     {
         kdCommandDispatcher::removeInstance();
         coProductInformation::unregisterProduct();
+        coPaths::removeInstance();
         kdDebugLog::removeInstance();
     }
 
@@ -130,7 +133,7 @@ int main(int argc, char** argv)
 
     const Application family(argc, argv);
     ShellOptions options;
-    switch (options.parse(QCoreApplication::arguments(),
+    switch (options.parse(coPaths::withoutPathOptions(QCoreApplication::arguments()),
                           nPlatform::isTerminal(nPlatform::StandardStream::Input))) {
     case ShellOptions::ShowText:
         ShellConsole().message(options.text);

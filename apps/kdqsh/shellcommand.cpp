@@ -61,7 +61,8 @@ QStringList ShellCommandGroup::names() const
 {
     QStringList names;
     for (const ShellCommandEntry& entry : entries)
-        names.append(QLatin1String(entry.name));
+        if (*entry.name != '\0')
+            names.append(QLatin1String(entry.name));
     return names;
 }
 
@@ -69,8 +70,8 @@ ShellCommand::ShellCommand(const ShellCommandGroup& group, const QString& parame
     : kdCommand(parameter), m_group(group)
 {
     QStringList words;
-    if (ShellLineParser::splitWords(parameter, words, m_wordsError) && !words.isEmpty()) {
-        m_entry = group.find(words.first());
+    if (ShellLineParser::splitWords(parameter, words, m_wordsError)) {
+        m_entry = group.find(words.value(0));
         m_arguments = words.mid(1);
     }
 }

@@ -33,7 +33,7 @@ struct ShellCommandEntry {
 
 /// The commands that share their first word.
 struct ShellCommandGroup {
-    const char* name;
+    const char* name;    ///< without another word it stands for the entry with an empty name, if there is one
     const char* context; ///< of translation
     const char* summary;
     QVector<ShellCommandEntry> entries;

@@ -78,7 +78,7 @@ QStringList following(const QStringList& typed, const QString& prefix)
     const ShellSession& session = ShellSession::I();
     QStringList words = takesParameters ? session.parameters.names() : session.tables.names();
     words += keywords(QLatin1String(entry->usage));
-    if (usage.contains(QLatin1String("FILE")))
+    if (usage.contains(QLatin1String("FILE")) || usage.contains(QLatin1String("FOLDER")))
         words += files(prefix);
     return words;
 }

@@ -6,6 +6,7 @@
 #include "logcommands.h"
 #include "namecommands.h"
 #include "parametercommands.h"
+#include "pathcommands.h"
 #include "tablecommands.h"
 
 #include <kdQCore/kdCommandDispatcher>
@@ -25,7 +26,7 @@ const QVector<const ShellCommandGroup*>& nShellGroups::all()
     static const QVector<const ShellCommandGroup*> groups{
         &TableCommands::group(), &ParameterCommands::group(), &FormulaCommands::group(),
         &CsvCommands::group(),   &DeckCommands::group(),      &NameCommands::group(),
-        &LogCommands::group()};
+        &PathCommands::group(),  &LogCommands::group()};
     return groups;
 }
 
@@ -46,5 +47,6 @@ void nShellGroups::registerCommands()
     dispatcher.registerCommand(create<CsvCommands::group>);
     dispatcher.registerCommand(create<DeckCommands::group>);
     dispatcher.registerCommand(create<NameCommands::group>);
+    dispatcher.registerCommand(create<PathCommands::group>);
     dispatcher.registerCommand(create<LogCommands::group>);
 }

@@ -9,7 +9,8 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
         "Tables of material data and solver input decks by text commands. Commands come from a script, from\n"
         "-c, from standard input, or from a prompt. The exit status is 0 only if all went well, 1 if a "
         "command\n"
-        "failed, 2 if this command line was wrong."));
+        "failed, 2 if this command line was wrong. \"-basePath FOLDER\" names the installation, with\n"
+        "\"-undoSetup\" for this run only."));
     const QCommandLineOption commandsOption(QStringLiteral("c"),
                                             tr("Runs these commands, separated by \";\"."), tr("commands"));
     const QCommandLineOption keepGoingOption({QStringLiteral("k"), QStringLiteral("keep-going")},

@@ -37,6 +37,7 @@ public:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
         environment.insert(QStringLiteral("LOCALAPPDATA"), path(QStringLiteral("data")));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("data/config")));
         environment.insert(m_environment);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder());

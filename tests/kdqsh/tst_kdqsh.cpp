@@ -26,6 +26,8 @@ private Q_SLOTS:
     void csv_data();
     void csv();
     void csvSettingsAreKept();
+    void paths_data();
+    void paths();
     void languageIsChosen_data();
     void languageIsChosen();
     void helpStandsInTheDocumentation();
@@ -306,6 +308,19 @@ void TestKdqsh::errors_data()
           "sparse, casi, profile, mixed."));
     row("list of no numbers", deck + S("deck integers 8 1 2.5"),
         S("deck integers: Number 2 must be a whole number, not '2.5'."));
+    row("folder that cannot be set", S("paths set forming ."),
+        S("paths set: 'forming' cannot be set, only versionroot, additive, joining, welding, mesh, "
+          "additivedemos, weldingdemos, weldingexamples."));
+    row("missing folder", S("paths set mesh none"), S("paths set: There is no folder 'none'."));
+    row("missing file", S("paths store mesh 1 none"), S("paths store: There is no file 'none'."));
+    row("no executable", S("paths executable mesh 1"),
+        S("paths executable: No executable is stored for Kaldoran Mesh 1."));
+    row("malformed version", S("paths remove mesh 1.x"),
+        S("paths remove: A version is one to four numbers with dots between, not '1.x'."));
+    row("unknown product", S("paths application x"),
+        S("paths application: There is no product 'x', only additive, demos, forming, jes, joining, "
+          "material, "
+          "mesh, service, welding, monitor, remote."));
     row("names that are no numbers", curve + deck + S("deck grid c id 1 variable 1 variable2 2"),
         S("deck grid: Column 2 of table 'c' must have a number as its name, not 'temperature'."));
 }
@@ -625,6 +640,44 @@ void TestKdqsh::csvSettingsAreKept()
     QVERIFY(QFile::exists(shell.path(S("data/kaldoran/kdqsh.ini"))));
 }
 
+void TestKdqsh::paths_data()
+{
+    QTest::addColumn<QString>("commands");
+    QTest::addColumn<QString>("output"); // begins so; "#" stands for the run's folder
+    QTest::newRow("list") << S("paths")
+                          << S("base                 exists   #/inst/kaldoran (option -basePath)\n"
+                               "versionroot          exists   #/inst/kaldoran (derived)\n"
+                               "additive             missing  #/inst/kaldoran/additive (derived)\n");
+    QTest::newRow("set, derived, taken back")
+        << S("paths set welding inst; paths show weldingdemos; paths reset welding; paths show welding")
+        << S("#/inst/demos\n#/inst/kaldoran/welding\n");
+    QTest::newRow("all anew") << S("paths set mesh inst; paths reset; paths show mesh; paths application jes")
+                              << S("#/inst/kaldoran/tools/kaldoran.mesh\n"
+                                   "#/inst/kaldoran/tools/bin/kaldoran.jes\n");
+    QTest::newRow("executables") << S("paths store welding 2018.1 curve.csv; paths executables; "
+                                      "paths executable welding 2018.1.0; paths remove welding 2018.1; "
+                                      "paths executables; paths show components")
+                                 << S("Kaldoran_Welding_2018.1.0.0: #/curve.csv\n#/curve.csv\n"
+                                      "#/inst/kaldoran/components\n");
+}
+
+void TestKdqsh::paths()
+{
+    QFETCH(QString, commands);
+    QFETCH(QString, output);
+    KdqshRun shell;
+    prepare(shell);
+    QVERIFY(QDir(shell.folder()).mkpath(S("inst/kaldoran/welding")));
+    QVERIFY(shell.runCommands(commands, {S("-basePath"), S("inst/kaldoran")}));
+    QCOMPARE(shell.errors, QString());
+    const QString shown = QDir::fromNativeSeparators(shell.output).replace(shell.folder(), S("#"));
+    QCOMPARE(shown.left(output.size()), output);
+    if (!kdqOnWindows)
+        QVERIFY(shell.read(S("data/config/Kaldoran/Kaldoran_paths.ini")).contains("/inst/kaldoran\n"));
+    QVERIFY(shell.runCommands(S("paths forget")));
+    QVERIFY(!shell.read(S("data/config/Kaldoran/Kaldoran_paths.ini")).contains("BasePath"));
+}
+
 void TestKdqsh::languageIsChosen_data()
 {
     QTest::addColumn<QString>("environment");
@@ -658,8 +711,8 @@ void TestKdqsh::helpStandsInTheDocumentation()
     QVERIFY(page.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(page.readAll());
     KdqshRun shell;
-    for (const QString& topic :
-         {S(""), S("table"), S("parameter"), S("formula"), S("csv"), S("deck"), S("name"), S("log")}) {
+    for (const QString& topic : {S(""), S("table"), S("parameter"), S("formula"), S("csv"), S("deck"),
+                                 S("name"), S("paths"), S("log")}) {
         QVERIFY(shell.runCommands(S("help ") + topic));
         QVERIFY2(text.contains(S("```\n%1```\n").arg(shell.output)), qPrintable(topic));
     }

@@ -53,8 +53,8 @@ void TestShellCompletion::candidates_data()
     row("",
         {QStringLiteral("csv"), QStringLiteral("deck"), QStringLiteral("formula"), QStringLiteral("help"),
          QStringLiteral("history"), QStringLiteral("language"), QStringLiteral("list"), QStringLiteral("log"),
-         QStringLiteral("name"), QStringLiteral("parameter"), QStringLiteral("quit"), QStringLiteral("redo"),
-         QStringLiteral("table"), QStringLiteral("undo")});
+         QStringLiteral("name"), QStringLiteral("parameter"), QStringLiteral("paths"), QStringLiteral("quit"),
+         QStringLiteral("redo"), QStringLiteral("table"), QStringLiteral("undo")});
     row("h", {QStringLiteral("help"), QStringLiteral("history")});
     row("undo; ta", {QStringLiteral("table")});
     row("table lo", {QStringLiteral("load"), QStringLiteral("lookup")});
@@ -68,6 +68,9 @@ void TestShellCompletion::candidates_data()
     row("table import cu", {QStringLiteral("curve.csv"), QStringLiteral("cut.csv")});
     row("table import fo", {QStringLiteral("folder/")});
     row("table import folder/", {QStringLiteral("folder/inner.csv")});
+    row("paths set w",
+        {QStringLiteral("welding"), QStringLiteral("weldingdemos"), QStringLiteral("weldingexamples")});
+    row("paths set mesh fo", {QStringLiteral("folder/")});
     row("table import m", {});
     row("table import 'cu", {});
     row("table none ", {});
