@@ -388,6 +388,121 @@
     </message>
 </context>
 <context>
+    <name>PathCommands</name>
+    <message>
+        <source>The installation: its folders and the executables of its products.</source>
+        <translation>Die Installation: ihre Ordner und die Programme ihrer Produkte.</translation>
+    </message>
+    <message>
+        <source>Shows all folders: whether each exists, and where it came from.</source>
+        <translation>Zeigt alle Ordner: ob es sie gibt und woher sie stammen.</translation>
+    </message>
+    <message>
+        <source>Shows one of these paths.</source>
+        <translation>Zeigt einen dieser Pfade.</translation>
+    </message>
+    <message>
+        <source>Sets a folder for this run; what is derived from it follows.</source>
+        <translation>Legt einen Ordner für diesen Lauf fest; was davon abgeleitet ist, folgt.</translation>
+    </message>
+    <message>
+        <source>Takes back what was set; without a name, finds the whole installation anew.</source>
+        <translation>Nimmt eine Festlegung zurück; ohne Namen wird die ganze Installation neu gesucht.</translation>
+    </message>
+    <message>
+        <source>Removes the base path that is remembered for later runs.</source>
+        <translation>Entfernt den für spätere Läufe gemerkten Basispfad.</translation>
+    </message>
+    <message>
+        <source>Shows the application of a product in this installation.</source>
+        <translation>Zeigt die Anwendung eines Produkts in dieser Installation.</translation>
+    </message>
+    <message>
+        <source>Lists the executables stored for versions of products.</source>
+        <translation>Listet die für Versionen von Produkten gespeicherten Programme auf.</translation>
+    </message>
+    <message>
+        <source>Shows the executable stored for a version.</source>
+        <translation>Zeigt das für eine Version gespeicherte Programm.</translation>
+    </message>
+    <message>
+        <source>Stores the executable of a version for this and later runs.</source>
+        <translation>Speichert das Programm einer Version für diesen und spätere Läufe.</translation>
+    </message>
+    <message>
+        <source>Removes the executable stored for a version.</source>
+        <translation>Entfernt das für eine Version gespeicherte Programm.</translation>
+    </message>
+    <message>
+        <source>variable %1</source>
+        <translation>Variable %1</translation>
+    </message>
+    <message>
+        <source>option %1</source>
+        <translation>Option %1</translation>
+    </message>
+    <message>
+        <source>the application&apos;s folder</source>
+        <translation>Ordner der Anwendung</translation>
+    </message>
+    <message>
+        <source>remembered</source>
+        <translation>gemerkt</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>derived</source>
+        <translation>abgeleitet</translation>
+    </message>
+    <message>
+        <source>set</source>
+        <translation>festgelegt</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>exists</source>
+        <translation>vorhanden</translation>
+    </message>
+    <message>
+        <source>There is no path &apos;%1&apos;, only %2.</source>
+        <translation>Es gibt keinen Pfad „%1“, nur %2.</translation>
+    </message>
+    <message>
+        <source>There is no folder &apos;%1&apos;.</source>
+        <translation>Den Ordner „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be set, only %2.</source>
+        <translation>„%1“ lässt sich nicht festlegen, nur %2.</translation>
+    </message>
+    <message>
+        <source>There is no product &apos;%1&apos;, only %2.</source>
+        <translation>Es gibt kein Produkt „%1“, nur %2.</translation>
+    </message>
+    <message>
+        <source>A version is one to four numbers with dots between, not &apos;%1&apos;.</source>
+        <translation>Eine Version besteht aus einer bis vier Zahlen mit Punkten dazwischen, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>No executable is stored for %1 %2.</source>
+        <translation>Für %1 %2 ist kein Programm gespeichert.</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos;.</source>
+        <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+</context>
+<context>
     <name>Shell</name>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
@@ -538,14 +653,6 @@
 <context>
     <name>ShellOptions</name>
     <message>
-        <source>Tables of material data and solver input decks by text commands. Commands come from a script, from
--c, from standard input, or from a prompt. The exit status is 0 only if all went well, 1 if a command
-failed, 2 if this command line was wrong.</source>
-        <translation>Tabellen von Werkstoffdaten und Eingabedecks des Solvers durch Textbefehle. Die Befehle kommen aus einem
-Skript, aus -c, von der Standardeingabe oder von einer Eingabezeile. Der Endestatus ist 0 nur, wenn alles
-gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war.</translation>
-    </message>
-    <message>
         <source>Runs these commands, separated by &quot;;&quot;.</source>
         <translation>Führt diese Befehle aus, getrennt durch „;“.</translation>
     </message>
@@ -584,6 +691,16 @@ gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war.</
     <message>
         <source>Only one script or one -c can be run.</source>
         <translation>Nur ein Skript oder ein -c kann ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>Tables of material data and solver input decks by text commands. Commands come from a script, from
+-c, from standard input, or from a prompt. The exit status is 0 only if all went well, 1 if a command
+failed, 2 if this command line was wrong. &quot;-basePath FOLDER&quot; names the installation, with
+&quot;-undoSetup&quot; for this run only.</source>
+        <translation>Tabellen von Werkstoffdaten und Eingabedecks des Solvers durch Textbefehle. Die Befehle kommen aus einem
+Skript, aus -c, von der Standardeingabe oder von einer Eingabezeile. Der Endestatus ist 0 nur, wenn alles
+gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war. &quot;-basePath ORDNER&quot; nennt die
+Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
 </context>
 <context>
