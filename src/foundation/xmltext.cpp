@@ -1,5 +1,7 @@
 #include "xmltext_p.h"
 
+#include <QXmlStreamWriter>
+
 namespace {
 
 bool isAllowedInXml(ushort c)
@@ -19,4 +21,18 @@ QString textAllowedInXml(QString text)
             text[i] = QChar(QChar::ReplacementCharacter);
     }
     return text;
+}
+
+// A carriage return in plain form is read as a line feed.
+void writeXmlText(QXmlStreamWriter& writer, const QString& element, const QString& text)
+{
+    writer.writeStartElement(element);
+    const QString allowed = textAllowedInXml(text);
+    int start = 0;
+    for (int end; (end = allowed.indexOf(QLatin1Char('\r'), start)) >= 0; start = end + 1) {
+        writer.writeCharacters(allowed.mid(start, end - start));
+        writer.writeEntityReference(QStringLiteral("#13"));
+    }
+    writer.writeCharacters(allowed.mid(start));
+    writer.writeEndElement();
 }

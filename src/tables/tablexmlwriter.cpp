@@ -91,12 +91,12 @@ void TableXmlWriter::writeHead()
     m_writer.writeAttribute(columns, number(m_table.columns()));
     m_writer.writeAttribute(rows, number(m_table.rows()));
     m_writer.writeAttribute(QStringLiteral("version"), QStringLiteral(KDQCORE_VERSION_STRING));
-    writeText(name, m_table.name());
-    writeText(QStringLiteral("idTag"), m_table.idTag());
-    writeText(QStringLiteral("comment"), m_table.comment());
-    writeText(type, number(m_table.type()));
-    writeText(columns, number(m_table.columns()));
-    writeText(rows, number(m_table.rows()));
+    writeXmlText(m_writer, name, m_table.name());
+    writeXmlText(m_writer, QStringLiteral("idTag"), m_table.idTag());
+    writeXmlText(m_writer, QStringLiteral("comment"), m_table.comment());
+    writeXmlText(m_writer, type, number(m_table.type()));
+    writeXmlText(m_writer, columns, number(m_table.columns()));
+    writeXmlText(m_writer, rows, number(m_table.rows()));
 }
 
 void TableXmlWriter::writeColumn(int index)
@@ -111,7 +111,7 @@ void TableXmlWriter::writeColumn(int index)
     m_writer.writeAttribute(QStringLiteral("unit_symbol"), unit.symbol());
     m_writer.writeAttribute(QStringLiteral("usage"), number(column.getUsage()));
     m_writer.writeAttribute(QStringLiteral("dimension"), number(unit.dimension()));
-    writeText(QStringLiteral("name"), column.name());
+    writeXmlText(m_writer, QStringLiteral("name"), column.name());
     m_writer.writeEndElement();
 }
 
@@ -154,18 +154,4 @@ bool TableXmlWriter::writeRowsToDevice(ValueEnd valueEnd)
         block.resize(0);
     }
     return true;
-}
-
-// A carriage return in plain form is read as a line feed.
-void TableXmlWriter::writeText(const QString& element, const QString& text)
-{
-    m_writer.writeStartElement(element);
-    const QString allowed = textAllowedInXml(text);
-    int start = 0;
-    for (int end; (end = allowed.indexOf(QLatin1Char('\r'), start)) >= 0; start = end + 1) {
-        m_writer.writeCharacters(allowed.mid(start, end - start));
-        m_writer.writeEntityReference(QStringLiteral("#13"));
-    }
-    m_writer.writeCharacters(allowed.mid(start));
-    m_writer.writeEndElement();
 }

@@ -27,7 +27,6 @@ private:
     void writeColumn(int index);
     void writeRows(ValueEnd valueEnd);
     bool writeRowsToDevice(ValueEnd valueEnd);
-    void writeText(const QString& element, const QString& text);
 
     QXmlStreamWriter& m_writer;
     const kdDataTable& m_table;
