@@ -1102,6 +1102,21 @@ der ausgewertet lautet:
     </message>
 </context>
 <context>
+    <name>coHeatTreatmentData</name>
+    <message>
+        <source>The element &apos;%1&apos; is missing.</source>
+        <translation>Das Element „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>Unsupported potential material &apos;%1&apos; is read for stage %2.</source>
+        <translation>Für Stufe %2 wurde der nicht unterstützte Stoff „%1“ des Potentials gelesen.</translation>
+    </message>
+    <message>
+        <source>Failed to read the value of the XML element %1 of stage %2.</source>
+        <translation>Der Wert des XML-Elements %1 der Stufe %2 ist nicht lesbar.</translation>
+    </message>
+</context>
+<context>
     <name>coMatrixSolverSolutionProcedureType</name>
     <message>
         <source>Solution procedure FullK</source>
@@ -1125,6 +1140,25 @@ der ausgewertet lautet:
     <message>
         <source>the element &apos;%1&apos; has no attribute &apos;%2&apos;</source>
         <translation>das Element „%1“ hat kein Attribut „%2“</translation>
+    </message>
+</context>
+<context>
+    <name>coPredefinedTableListModel</name>
+    <message>
+        <source>There is no predefined table &apos;%1&apos;.</source>
+        <translation>Es gibt keine vordefinierte Tabelle „%1“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read: %2</source>
+        <translation>„%1“ ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; of the project cannot be made.</source>
+        <translation>Der Ordner „%1“ des Projekts lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
     </message>
 </context>
 <context>
@@ -1171,6 +1205,17 @@ der ausgewertet lautet:
     <message>
         <source>column %1</source>
         <translation>Spalte %1</translation>
+    </message>
+</context>
+<context>
+    <name>coTableInput</name>
+    <message>
+        <source>Element &apos;%1&apos; expected, &apos;%2&apos; found.</source>
+        <translation>Element „%1“ erwartet, „%2“ gefunden.</translation>
+    </message>
+    <message>
+        <source>Element &apos;%1&apos; cannot be read.</source>
+        <translation>Element „%1“ ist nicht lesbar.</translation>
     </message>
 </context>
 <context>
@@ -1885,6 +1930,125 @@ der ausgewertet lautet:
     <message>
         <source>Failed to remove directory &apos;%1&apos;.</source>
         <translation>Der Ordner „%1“ ließ sich nicht löschen.</translation>
+    </message>
+</context>
+<context>
+    <name>nHeatTreatment</name>
+    <message>
+        <source>Heating</source>
+        <translation>Erwärmen</translation>
+    </message>
+    <message>
+        <source>Holding</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Quenching in oil</source>
+        <translation>Abschrecken in Öl</translation>
+    </message>
+    <message>
+        <source>Tempering</source>
+        <translation>Anlassen</translation>
+    </message>
+    <message>
+        <source>Cooling in air</source>
+        <translation>Abkühlen an Luft</translation>
+    </message>
+    <message>
+        <source>Stress relief annealing</source>
+        <translation>Spannungsarmglühen</translation>
+    </message>
+    <message>
+        <source>Cooling in the furnace</source>
+        <translation>Abkühlen im Ofen</translation>
+    </message>
+    <message>
+        <source>Carburising</source>
+        <translation>Aufkohlen</translation>
+    </message>
+    <message>
+        <source>Diffusion</source>
+        <translation>Diffundieren</translation>
+    </message>
+    <message>
+        <source>Cooling to hardening temperature</source>
+        <translation>Abkühlen auf Härtetemperatur</translation>
+    </message>
+    <message>
+        <source>The furnace brings the part to temperature.</source>
+        <translation>Der Ofen bringt das Teil auf Temperatur.</translation>
+    </message>
+    <message>
+        <source>The part is held at temperature until it is warm throughout.</source>
+        <translation>Das Teil wird auf Temperatur gehalten, bis es durchgewärmt ist.</translation>
+    </message>
+    <message>
+        <source>The part cools so fast that it hardens.</source>
+        <translation>Das Teil kühlt so schnell ab, dass es härtet.</translation>
+    </message>
+    <message>
+        <source>The hardened part is warmed, which makes it tough again.</source>
+        <translation>Das gehärtete Teil wird erwärmt, wodurch es wieder zäh wird.</translation>
+    </message>
+    <message>
+        <source>The part creeps at temperature until its stresses are low.</source>
+        <translation>Das Teil kriecht bei Temperatur, bis seine Spannungen gering sind.</translation>
+    </message>
+    <message>
+        <source>The surface takes carbon up from the atmosphere.</source>
+        <translation>Die Oberfläche nimmt Kohlenstoff aus der Atmosphäre auf.</translation>
+    </message>
+    <message>
+        <source>Carbon moves inwards at a lower carbon potential.</source>
+        <translation>Bei niedrigerem Kohlenstoffpegel wandert Kohlenstoff nach innen.</translation>
+    </message>
+    <message>
+        <source>The part cools slowly.</source>
+        <translation>Das Teil kühlt langsam ab.</translation>
+    </message>
+    <message>
+        <source>&lt;user-defined&gt;</source>
+        <translation>&lt;benutzerdefiniert&gt;</translation>
+    </message>
+    <message>
+        <source>Invalid</source>
+        <translation>Ungültig</translation>
+    </message>
+    <message>
+        <source>Quench temper</source>
+        <translation>Vergüten</translation>
+    </message>
+    <message>
+        <source>Stress relief</source>
+        <translation>Spannungsarmglühen</translation>
+    </message>
+    <message>
+        <source>Case hardening</source>
+        <translation>Einsatzhärten</translation>
+    </message>
+    <message>
+        <source>No pass</source>
+        <translation>Kein Durchlauf</translation>
+    </message>
+    <message>
+        <source>Diffusion pass</source>
+        <translation>Diffusionsdurchlauf</translation>
+    </message>
+    <message>
+        <source>Thermal pass</source>
+        <translation>Thermischer Durchlauf</translation>
+    </message>
+    <message>
+        <source>Structural pass</source>
+        <translation>Mechanischer Durchlauf</translation>
+    </message>
+    <message>
+        <source>Quenching</source>
+        <translation>Abschrecken</translation>
+    </message>
+    <message>
+        <source>Cooling</source>
+        <translation>Abkühlen</translation>
     </message>
 </context>
 <context>
