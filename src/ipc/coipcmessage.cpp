@@ -1,0 +1,3 @@
+#include "coipcmessage.h"
+
+coIpcMessage::~coIpcMessage() = default;
