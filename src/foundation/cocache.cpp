@@ -3,6 +3,8 @@
 #include "cocacheclock_p.h"
 #include "kdlog.h"
 
+#include <QStringBuilder>
+
 #include <algorithm>
 #include <iterator>
 #include <limits>
@@ -42,11 +44,7 @@ QString coCache::keyForQuery(const coCacheQuery* query)
 {
     if (!query)
         return {};
-    const QLatin1String typeName(typeid(*query).name());
-    const QString key = query->key();
-    QString result;
-    result.reserve(typeName.size() + keySeparator().size() + key.size());
-    return result.append(typeName).append(keySeparator()).append(key);
+    return QLatin1String(typeid(*query).name()) % keySeparator() % query->key();
 }
 
 kdUnitValue coCache::findFittingUnit(qint64 bytes)
