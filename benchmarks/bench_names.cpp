@@ -38,6 +38,7 @@ int main()
             sink = names.next(base).size();
     });
     duel.run(9);
+    duel.showRate("coUniqueNameGenerator", "names");
     const bool held = duel.demand("coUniqueNameGenerator", "std::unordered_set insert", 0.1);
 
     Duel growing("One more name among those that are taken, per taken name", 1e6);

@@ -38,6 +38,13 @@ public:
                         median(candidate.seconds) / m_items * 1e9, ratio(candidate, m_candidates.front()));
     }
 
+    /// Prints how many \a pieces of work a second \a name does.
+    void showRate(const std::string& name, const std::string& pieces) const
+    {
+        std::printf("  %s makes %.0f %s a second\n", name.c_str(), m_items / median(find(name).seconds),
+                    pieces.c_str());
+    }
+
     /// Prints how many times as fast \a ours is as \a peer, against the ratio to be held; returns whether it
     /// holds.
     bool demand(const std::string& ours, const std::string& peer, double bar) const
