@@ -72,6 +72,45 @@ int terminalColumns();
 /// zone file up for every time text. Does nothing on Windows. Call it before other threads start.
 void presetTimeZone();
 
+/// Whether the system takes names and paths as long as these of \a absolutePath.
+bool isLengthAllowed(const QString& absolutePath);
+
+/// Tells a file from every other one for as long as it exists, whatever names lead to it.
+struct FileIdentity {
+    quint64 volume = 0;
+    quint64 file = 0;
+
+    friend bool operator==(const FileIdentity& a, const FileIdentity& b)
+    {
+        return a.volume == b.volume && a.file == b.file;
+    }
+};
+
+/// What stood behind a name at one moment.
+struct FileSnapshot {
+    bool exists = false; ///< something bears the name
+    bool isFile = false; ///< and it is a file, no folder, link, pipe or device
+    bool isRead = false; ///< content holds all of it
+    QByteArray content;
+    FileIdentity identity;
+    /// Of the last change, in milliseconds since 1970 UTC, by the clock of the machine that keeps the file.
+    qint64 lastModified = 0;
+};
+
+/// Looks at a small file, without keeping its owner from writing or removing it. More than \a maximalSize
+/// bytes are not read. Links are not followed.
+FileSnapshot lookAtFile(const QString& path, int maximalSize);
+
+enum class Removal {
+    Done,
+    Missing,   ///< nothing bears the name any more
+    OtherFile, ///< another file bears the name and stays
+    Failed,    ///< see lastErrorCode()
+};
+
+/// Removes the name if it still leads to that file. Never removes a folder.
+Removal removeFile(const QString& path, const FileIdentity& identity);
+
 /// A file that one process creates and all others find taken. It stays when the object closes it.
 class ExclusiveFile {
 public:
@@ -97,6 +136,12 @@ public:
     bool touch();
     void close();
 
+    /// Whether somebody took the file's name away or gave it to another file. False also where the system
+    /// cannot tell at present.
+    bool hasLostItsName() const;
+    /// Closes the file and removes it, unless it has lost its name. After Removal::Failed call it again.
+    Removal remove();
+
     /// Of the last operation that returned a result.
     Failure failure() const { return m_failure; }
     /// The system's own number behind failure(); 0 after success.
@@ -108,6 +153,7 @@ private:
 
     struct Handle;
     std::unique_ptr<Handle> m_handle;
+    QString m_path;
     Failure m_failure = Failure::None;
     unsigned long m_errorCode = 0;
 };

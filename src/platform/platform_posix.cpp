@@ -99,13 +99,83 @@ SystemInformation collectSystemInformation()
     return result;
 }
 
+/// A descriptor that is closed at the end; -1 after a failure.
+class Descriptor {
+public:
+    Descriptor(const char* path, int flags) : m_number(open(path, flags | O_CLOEXEC)) { }
+    ~Descriptor()
+    {
+        if (m_number >= 0)
+            ::close(m_number);
+    }
+    Q_DISABLE_COPY(Descriptor)
+
+    int number() const { return m_number; }
+
+private:
+    int m_number;
+};
+
+/// All that is there up to \a maximalSize bytes; false where there is more or the reading fails.
+bool readUpTo(int descriptor, int maximalSize, QByteArray& content)
+{
+    content.resize(maximalSize + 1);
+    int size = 0;
+    while (size <= maximalSize) {
+        const ssize_t count =
+            ::read(descriptor, content.data() + size, static_cast<size_t>(maximalSize + 1 - size));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0) {
+            content.truncate(size);
+            return count == 0;
+        }
+        size += static_cast<int>(count);
+    }
+    return false;
+}
+
+// Records of processes are looked at for every refused lock: QFile would take several times as long.
+QByteArray processFile(qint64 processId, const char* name)
+{
+    constexpr int maximalSize = 4095;
+    const QByteArray path = "/proc/" + QByteArray::number(processId) + '/' + name;
+    const Descriptor file(path.constData(), O_RDONLY);
+    QByteArray content;
+    return file.number() >= 0 && readUpTo(file.number(), maximalSize, content) ? content : QByteArray();
+}
+
 QString executableNameOf(qint64 processId)
 {
-    QString path = QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(processId));
-    const QString deleted = QStringLiteral(" (deleted)");
+    char buffer[PATH_MAX];
+    const QByteArray link = "/proc/" + QByteArray::number(processId) + "/exe";
+    const ssize_t size = readlink(link.constData(), buffer, sizeof buffer);
+    if (size <= 0)
+        return QString();
+    QByteArray path = QByteArray::fromRawData(buffer, static_cast<int>(size));
+    const QByteArray deleted(" (deleted)");
     if (path.endsWith(deleted))
         path.chop(deleted.size());
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    return QFile::decodeName(path.mid(path.lastIndexOf('/') + 1));
+}
+
+const QByteArray& bootId()
+{
+    static const QByteArray id = contentOf(QStringLiteral("/proc/sys/kernel/random/boot_id")).trimmed();
+    return id;
+}
+
+FileIdentity identityOf(const struct stat& status)
+{
+    return {static_cast<quint64>(status.st_dev), static_cast<quint64>(status.st_ino)};
+}
+
+void describe(const struct stat& status, FileSnapshot& snapshot)
+{
+    snapshot.exists = true;
+    snapshot.isFile = S_ISREG(status.st_mode);
+    snapshot.identity = identityOf(status);
+    snapshot.lastModified = qint64(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1000000;
 }
 
 } // namespace
@@ -160,7 +230,7 @@ ProcessFacts processFacts(qint64 processId)
     // 0 and negative numbers address groups of processes.
     if (processId <= 0 || processId > INT_MAX)
         return facts;
-    const QByteArray record = contentOf(QStringLiteral("/proc/%1/stat").arg(processId));
+    const QByteArray record = processFile(processId, "stat");
     // The name in parentheses may itself hold blanks and parentheses; the fields after it may not.
     const QList<QByteArray> fields = record.mid(record.lastIndexOf(')') + 2).split(' ');
     constexpr int stateField = 0;
@@ -171,8 +241,7 @@ ProcessFacts processFacts(qint64 processId)
     }
     facts.alive = fields[stateField] != "Z" && fields[stateField] != "X";
     facts.executableName = executableNameOf(processId);
-    const QByteArray boot = contentOf(QStringLiteral("/proc/sys/kernel/random/boot_id")).trimmed();
-    facts.startTime = QString::fromLatin1(fields[startTimeField] + '@' + boot);
+    facts.startTime = QString::fromLatin1(fields[startTimeField] + '@' + bootId());
     return facts;
 }
 
@@ -203,6 +272,44 @@ void presetTimeZone()
     tzset();
 }
 
+bool isLengthAllowed(const QString& absolutePath)
+{
+    const QByteArray path = QFile::encodeName(absolutePath);
+    return path.size() < PATH_MAX && path.size() - (path.lastIndexOf('/') + 1) <= NAME_MAX;
+}
+
+FileSnapshot lookAtFile(const QString& path, int maximalSize)
+{
+    FileSnapshot snapshot;
+    struct stat status { };
+    const QByteArray name = QFile::encodeName(path);
+    // Without blocking: the name may be that of a pipe.
+    const Descriptor file(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+    if (file.number() < 0) {
+        if (lstat(name.constData(), &status) == 0)
+            describe(status, snapshot);
+        return snapshot;
+    }
+    if (fstat(file.number(), &status) == 0)
+        describe(status, snapshot);
+    if (snapshot.isFile)
+        snapshot.isRead = readUpTo(file.number(), maximalSize, snapshot.content);
+    return snapshot;
+}
+
+Removal removeFile(const QString& path, const FileIdentity& identity)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status { };
+    if (lstat(name.constData(), &status) != 0)
+        return errno == ENOENT ? Removal::Missing : Removal::Failed;
+    if (!(identityOf(status) == identity))
+        return Removal::OtherFile;
+    if (unlink(name.constData()) == 0)
+        return Removal::Done;
+    return errno == ENOENT ? Removal::Missing : Removal::Failed;
+}
+
 struct ExclusiveFile::Handle {
     int descriptor = -1;
 };
@@ -217,6 +324,7 @@ ExclusiveFile::~ExclusiveFile()
 bool ExclusiveFile::create(const QString& absolutePath)
 {
     close();
+    m_path = absolutePath;
     const QByteArray path = QFile::encodeName(absolutePath);
     m_handle->descriptor = open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     if (isOpen())
@@ -224,9 +332,11 @@ bool ExclusiveFile::create(const QString& absolutePath)
     const unsigned long code = currentError();
     if (code == EEXIST)
         return fail(Failure::Exists, code);
-    if (code != EACCES && code != EPERM && code != EROFS)
+    if (code != EACCES && code != EPERM)
         return fail(Failure::Unexpected, code);
-    return fail(QFile::exists(absolutePath) ? Failure::Exists : Failure::NotPermitted, code);
+    struct stat status { };
+    const bool exists = lstat(path.constData(), &status) == 0;
+    return fail(exists ? Failure::Exists : Failure::NotPermitted, code);
 }
 
 bool ExclusiveFile::isOpen() const
@@ -268,6 +378,30 @@ void ExclusiveFile::close()
     if (isOpen())
         ::close(m_handle->descriptor);
     m_handle->descriptor = -1;
+}
+
+bool ExclusiveFile::hasLostItsName() const
+{
+    struct stat own { };
+    struct stat named { };
+    if (fstat(m_handle->descriptor, &own) != 0)
+        return false;
+    if (lstat(QFile::encodeName(m_path).constData(), &named) != 0)
+        return errno == ENOENT;
+    return !(identityOf(named) == identityOf(own));
+}
+
+// The file stays open until its name is gone: the system gives the number of a file that nobody holds to the
+// next one.
+Removal ExclusiveFile::remove()
+{
+    struct stat own { };
+    if (fstat(m_handle->descriptor, &own) != 0)
+        return Removal::Failed;
+    const Removal removal = removeFile(m_path, identityOf(own));
+    if (removal != Removal::Failed)
+        close();
+    return removal;
 }
 
 MappedFile::MappedFile(const QString& path)

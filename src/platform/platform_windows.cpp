@@ -28,10 +28,64 @@ QString systemPath(const QString& path)
     return QLatin1String("\\\\?\\") + absolute;
 }
 
+// A file that was removed while somebody reads it keeps its name until then, and even its attributes are
+// refused.
 bool exists(const QString& path)
 {
     WIN32_FILE_ATTRIBUTE_DATA attributes{};
-    return GetFileAttributesExW(wide(systemPath(path)), GetFileExInfoStandard, &attributes) != 0;
+    return GetFileAttributesExW(wide(systemPath(path)), GetFileExInfoStandard, &attributes) != 0
+        || GetLastError() == ERROR_ACCESS_DENIED;
+}
+
+/// A handle that is closed at the end.
+class File {
+public:
+    /// Opens what is there, a link as itself, and lets others do with it what they like meanwhile.
+    File(const QString& path, DWORD access)
+        : m_handle(CreateFileW(wide(systemPath(path)), access,
+                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                               FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr))
+    {
+    }
+    ~File()
+    {
+        if (isOpen())
+            CloseHandle(m_handle);
+    }
+    Q_DISABLE_COPY(File)
+
+    bool isOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
+    HANDLE handle() const { return m_handle; }
+    /// False also where it is not open.
+    bool describe(BY_HANDLE_FILE_INFORMATION& information) const
+    {
+        return GetFileInformationByHandle(m_handle, &information) != 0;
+    }
+
+private:
+    HANDLE m_handle;
+};
+
+bool isMissing(DWORD code)
+{
+    return code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND;
+}
+
+bool readUpTo(HANDLE file, DWORD maximalSize, QByteArray& content)
+{
+    content.resize(static_cast<int>(maximalSize) + 1);
+    DWORD size = 0;
+    while (size <= maximalSize) {
+        DWORD count = 0;
+        if (!ReadFile(file, content.data() + size, maximalSize + 1 - size, &count, nullptr))
+            return false;
+        if (count == 0) {
+            content.truncate(static_cast<int>(size));
+            return true;
+        }
+        size += count;
+    }
+    return false;
 }
 
 QString processorName()
@@ -111,6 +165,18 @@ quint64 joined(const FILETIME& time)
     return (quint64(time.dwHighDateTime) << 32) | time.dwLowDateTime;
 }
 
+qint64 millisecondsSince1970(const FILETIME& time)
+{
+    constexpr qint64 between1601And1970 = 11644473600000;
+    return static_cast<qint64>(joined(time) / 10000) - between1601And1970;
+}
+
+FileIdentity identityOf(const BY_HANDLE_FILE_INFORMATION& information)
+{
+    return {information.dwVolumeSerialNumber,
+            (quint64(information.nFileIndexHigh) << 32) | information.nFileIndexLow};
+}
+
 ExclusiveFile::Failure creationFailure(DWORD code, const QString& path)
 {
     switch (code) {
@@ -182,11 +248,13 @@ ProcessFacts processFacts(qint64 processId)
     ProcessFacts facts;
     if (processId <= 0 || processId > UINT_MAX)
         return facts;
-    // The limited right is granted for the processes of other users too.
     const HANDLE process =
         OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, static_cast<DWORD>(processId));
-    if (!process)
+    if (!process) {
+        // It runs for another user, who lets nobody look.
+        facts.alive = GetLastError() == ERROR_ACCESS_DENIED;
         return facts;
+    }
     DWORD exitCode = 0;
     facts.alive = GetExitCodeProcess(process, &exitCode) && exitCode == STILL_ACTIVE;
     facts.executableName = executableNameOf(process);
@@ -216,8 +284,64 @@ int terminalColumns()
 
 void presetTimeZone() { }
 
+bool isLengthAllowed(const QString& absolutePath)
+{
+    constexpr int longestName = 255;
+    constexpr int longestPath = 32767 - 8; // room for the prefix of long paths
+    const QString path = QDir::fromNativeSeparators(absolutePath);
+    return path.size() < longestPath && path.size() - (path.lastIndexOf(QLatin1Char('/')) + 1) <= longestName;
+}
+
+FileSnapshot lookAtFile(const QString& path, int maximalSize)
+{
+    FileSnapshot snapshot;
+    const File file(path, GENERIC_READ);
+    BY_HANDLE_FILE_INFORMATION information{};
+    if (!file.describe(information) && !File(path, FILE_READ_ATTRIBUTES).describe(information)) {
+        snapshot.exists = exists(path);
+        return snapshot;
+    }
+    snapshot.exists = true;
+    snapshot.isFile =
+        (information.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT)) == 0;
+    snapshot.identity = identityOf(information);
+    snapshot.lastModified = millisecondsSince1970(information.ftLastWriteTime);
+    if (snapshot.isFile && file.isOpen())
+        snapshot.isRead = readUpTo(file.handle(), static_cast<DWORD>(maximalSize), snapshot.content);
+    return snapshot;
+}
+
+Removal removeFile(const QString& path, const FileIdentity& identity)
+{
+    // What is removed is the file that was compared, whatever bears the name by then.
+    const File file(path, DELETE | FILE_READ_ATTRIBUTES);
+    if (!file.isOpen())
+        return isMissing(GetLastError()) ? Removal::Missing : Removal::Failed;
+    BY_HANDLE_FILE_INFORMATION information{};
+    if (!file.describe(information))
+        return Removal::Failed;
+    if (!(identityOf(information) == identity)
+        || (information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+        return Removal::OtherFile;
+    FILE_DISPOSITION_INFO disposition{};
+    disposition.DeleteFile = TRUE;
+    const bool isRemoved =
+        SetFileInformationByHandle(file.handle(), FileDispositionInfo, &disposition, sizeof disposition) != 0;
+    return isRemoved ? Removal::Done : Removal::Failed;
+}
+
 struct ExclusiveFile::Handle {
     HANDLE file = INVALID_HANDLE_VALUE;
+    FileIdentity identity; ///< kept for remove(), which closes before it succeeds
+
+    bool identify()
+    {
+        BY_HANDLE_FILE_INFORMATION information{};
+        if (!GetFileInformationByHandle(file, &information))
+            return false;
+        identity = identityOf(information);
+        return true;
+    }
 };
 
 ExclusiveFile::ExclusiveFile() : m_handle(std::make_unique<Handle>()) { }
@@ -230,8 +354,9 @@ ExclusiveFile::~ExclusiveFile()
 bool ExclusiveFile::create(const QString& absolutePath)
 {
     close();
-    m_handle->file = CreateFileW(wide(systemPath(absolutePath)), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                 CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    m_path = absolutePath;
+    m_handle->file = CreateFileW(wide(systemPath(absolutePath)), GENERIC_WRITE | FILE_READ_ATTRIBUTES,
+                                 FILE_SHARE_READ, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (isOpen())
         return succeed();
     const DWORD code = GetLastError();
@@ -272,6 +397,26 @@ void ExclusiveFile::close()
     if (isOpen())
         CloseHandle(m_handle->file);
     m_handle->file = INVALID_HANDLE_VALUE;
+}
+
+// While the file is open, the system keeps its name from everyone; a server that lost the connection may not.
+bool ExclusiveFile::hasLostItsName() const
+{
+    if (!m_handle->identify())
+        return false;
+    const File named(m_path, FILE_READ_ATTRIBUTES);
+    BY_HANDLE_FILE_INFORMATION information{};
+    if (!named.isOpen())
+        return isMissing(GetLastError());
+    return named.describe(information) && !(identityOf(information) == m_handle->identity);
+}
+
+Removal ExclusiveFile::remove()
+{
+    if (isOpen() && !m_handle->identify())
+        return Removal::Failed;
+    close();
+    return removeFile(m_path, m_handle->identity);
 }
 
 MappedFile::MappedFile(const QString& path)
