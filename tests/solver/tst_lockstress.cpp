@@ -1,0 +1,129 @@
+// Locks between many processes, some of them killed. The environment makes the runs long.
+
+#include "kdqtest.h"
+
+#include <kdQCore/coSysLockFile>
+
+#include <random>
+
+namespace {
+
+bool isLong()
+{
+    return qEnvironmentVariableIsSet("KDQ_LONG_RUN");
+}
+
+using Process = std::unique_ptr<QProcess>;
+
+Process start(const QStringList& arguments)
+{
+    auto process = std::make_unique<QProcess>();
+    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process->start(QStringLiteral(LOCKHELPER), arguments);
+    return process;
+}
+
+bool makeOld(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite)
+        && file.setFileTime(QDateTime::currentDateTime().addSecs(-1000), QFile::FileModificationTime);
+}
+
+} // namespace
+
+class TestLockStress : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyRoundCounts_data()
+    {
+        QTest::addColumn<QString>("place");
+        QTest::newRow("disk") << QDir::current().filePath(QStringLiteral("lockstress-XXXXXX"));
+        if (QFileInfo(QStringLiteral("/dev/shm")).isWritable())
+            QTest::newRow("memory") << QStringLiteral("/dev/shm/lockstress-XXXXXX");
+    }
+
+    void everyRoundCounts()
+    {
+        QFETCH(QString, place);
+        const int rounds = isLong() ? 2000 : 40;
+        constexpr int processCount = 8;
+        QTemporaryDir folder(place);
+        const QString counter = folder.filePath(QStringLiteral("counter"));
+        std::vector<Process> processes;
+        for (int i = 0; i < processCount; ++i)
+            processes.push_back(start({QStringLiteral("count"), folder.filePath(QStringLiteral("lock")),
+                                       counter, QString::number(rounds)}));
+        for (const Process& process : processes) {
+            QVERIFY(process->waitForFinished(600000));
+            QCOMPARE(process->exitCode(), 0);
+        }
+        QFile file(counter);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().trimmed().toInt(), rounds * processCount);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("counter")});
+    }
+
+    // Two processes compete without end; one of them at a time dies in the middle of it, and another takes its
+    // place. None of them ever finds that it is not alone. At times both die, and this process takes the lock.
+    void killedOwnersNeverKeepTheLock()
+    {
+        const int kills = isLong() ? 200 : 20;
+        constexpr unsigned seed = 7;
+        std::mt19937 random(seed);
+        QTemporaryDir folder(QDir::current().filePath(QStringLiteral("lockkills-XXXXXX")));
+        const QString path = folder.filePath(QStringLiteral("lock"));
+        const QStringList arguments{QStringLiteral("churn"), path, folder.filePath(QStringLiteral("owner"))};
+        Process processes[2];
+        int halfWritten = 0;
+        for (int killed = 0; killed < kills;) {
+            for (Process& process : processes) {
+                if (process != nullptr)
+                    continue;
+                process = start(arguments);
+                QVERIFY(process->waitForReadyRead(30000));
+            }
+            QThread::usleep(random() % 20000);
+            for (Process& process : processes) {
+                if (random() % 3 == 0)
+                    continue;
+                process->kill();
+                QVERIFY(process->waitForFinished());
+                QVERIFY2(process->exitStatus() == QProcess::CrashExit, "the lock had two owners");
+                process.reset();
+                ++killed;
+            }
+            if (processes[0] == nullptr && processes[1] == nullptr)
+                takeFromTheDead(path, halfWritten);
+            if (QTest::currentTestFailed())
+                return;
+        }
+        qInfo("seed %u: %d kills, %d half-written records met", seed, kills, halfWritten);
+    }
+
+private:
+    /// One attempt where the records are whole, the age rule where their owners died too early.
+    static void takeFromTheDead(const QString& path, int& halfWritten)
+    {
+        QStringList halves;
+        for (const QString& name : {path, path + QStringLiteral(".rmlock")}) {
+            coSysLockFile::Info info;
+            if (QFile::exists(name) && !coSysLockFile(name).getLockInfo(&info))
+                halves.append(name);
+        }
+        halfWritten += halves.size();
+        coSysLockFile lock(path);
+        if (!lock.tryLock(0)) {
+            QVERIFY(!halves.isEmpty());
+            for (const QString& name : qAsConst(halves))
+                QVERIFY(makeOld(name));
+            QVERIFY(lock.tryLock(0));
+        }
+        lock.unlock();
+        QVERIFY(!QFile::exists(path));
+    }
+};
+
+KDQ_TEST_MAIN(TestLockStress)
+#include "tst_lockstress.moc"
