@@ -291,6 +291,57 @@
     </message>
 </context>
 <context>
+    <name>IpcCommands</name>
+    <message>
+        <source>Messages between processes on this machine.</source>
+        <translation>Nachrichten zwischen Prozessen auf diesem Rechner.</translation>
+    </message>
+    <message>
+        <source>Takes greetings and texts under a product&apos;s name, from this user only, until N other processes (1) have greeted and gone.</source>
+        <translation>Nimmt unter dem Namen eines Produkts Grüße und Texte an, nur von diesem Benutzer, bis N andere Prozesse (1) gegrüßt haben und gegangen sind.</translation>
+    </message>
+    <message>
+        <source>Greets the process that listens under a product&apos;s name, and sends it a text.</source>
+        <translation>Grüßt den Prozess, der unter dem Namen eines Produkts horcht, und sendet ihm einen Text.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be opened: %2</source>
+        <translation>„%1“ kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Process %1 listens as %2.</source>
+        <translation>Prozess %1 horcht als %2.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 greetings came within %3 s.</source>
+        <translation>%1 von %2 Grüßen kamen innerhalb von %3 s.</translation>
+    </message>
+    <message>
+        <source>Greeting received: %1</source>
+        <translation>Gruß empfangen: %1</translation>
+    </message>
+    <message>
+        <source>No process %1 listens as %2: %3</source>
+        <translation>Kein Prozess %1 horcht als %2: %3</translation>
+    </message>
+    <message>
+        <source>The other side closed the connection before it had answered.</source>
+        <translation>Die Gegenseite hat die Verbindung geschlossen, bevor sie geantwortet hat.</translation>
+    </message>
+    <message>
+        <source>No answer came within %1 s.</source>
+        <translation>Innerhalb von %1 s kam keine Antwort.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no product that listens; possible are: %2.</source>
+        <translation>„%1“ ist kein Produkt, das horcht; möglich sind: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;seconds&apos; must be from 1 to 86400, not %1.</source>
+        <translation>„seconds“ muss zwischen 1 und 86400 liegen, nicht %1.</translation>
+    </message>
+</context>
+<context>
     <name>LogCommands</name>
     <message>
         <source>A severity is 0 to 6, not %1.</source>

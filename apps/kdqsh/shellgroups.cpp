@@ -3,6 +3,7 @@
 #include "csvcommands.h"
 #include "deckcommands.h"
 #include "formulacommands.h"
+#include "ipccommands.h"
 #include "logcommands.h"
 #include "namecommands.h"
 #include "parametercommands.h"
@@ -26,7 +27,7 @@ const QVector<const ShellCommandGroup*>& nShellGroups::all()
     static const QVector<const ShellCommandGroup*> groups{
         &TableCommands::group(), &ParameterCommands::group(), &FormulaCommands::group(),
         &CsvCommands::group(),   &DeckCommands::group(),      &NameCommands::group(),
-        &PathCommands::group(),  &LogCommands::group()};
+        &PathCommands::group(),  &IpcCommands::group(),       &LogCommands::group()};
     return groups;
 }
 
@@ -48,5 +49,6 @@ void nShellGroups::registerCommands()
     dispatcher.registerCommand(create<DeckCommands::group>);
     dispatcher.registerCommand(create<NameCommands::group>);
     dispatcher.registerCommand(create<PathCommands::group>);
+    dispatcher.registerCommand(create<IpcCommands::group>);
     dispatcher.registerCommand(create<LogCommands::group>);
 }

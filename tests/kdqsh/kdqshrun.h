@@ -33,22 +33,41 @@ public:
     /// False where it did not end in time or crashed.
     bool run(const QStringList& arguments, const QByteArray& input = QByteArray())
     {
-        QProcess process;
+        start(arguments);
+        m_process.write(input);
+        m_process.closeWriteChannel();
+        return finish();
+    }
+
+    void start(const QStringList& arguments)
+    {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
         environment.insert(QStringLiteral("LOCALAPPDATA"), path(QStringLiteral("data")));
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("data/config")));
         environment.insert(m_environment);
-        process.setProcessEnvironment(environment);
-        process.setWorkingDirectory(folder());
-        process.start(QStringLiteral(KDQSH_PROGRAM), arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        const bool isFinished = process.waitForFinished(60000);
-        output = QString::fromLocal8Bit(kdqWithPlainLineEnds(process.readAllStandardOutput()));
-        errors = QString::fromLocal8Bit(kdqWithPlainLineEnds(process.readAllStandardError()));
-        status = process.exitCode();
-        return isFinished && process.exitStatus() == QProcess::NormalExit;
+        m_process.setProcessEnvironment(environment);
+        m_process.setWorkingDirectory(folder());
+        m_process.start(QStringLiteral(KDQSH_PROGRAM), arguments);
+        output.clear();
+    }
+
+    /// The next line of a shell that runs; empty where none comes.
+    QString nextLine()
+    {
+        while (!m_process.canReadLine() && m_process.waitForReadyRead(60000)) { }
+        const QString line = text(m_process.readLine());
+        output += line;
+        return line;
+    }
+
+    bool finish()
+    {
+        const bool isFinished = m_process.waitForFinished(60000);
+        output += text(m_process.readAllStandardOutput());
+        errors = text(m_process.readAllStandardError());
+        status = m_process.exitCode();
+        return isFinished && m_process.exitStatus() == QProcess::NormalExit;
     }
 
     bool runCommands(const QString& commands, const QStringList& options = {})
@@ -61,6 +80,12 @@ public:
     int status = -1;
 
 private:
+    static QString text(const QByteArray& bytes)
+    {
+        return QString::fromLocal8Bit(kdqWithPlainLineEnds(bytes));
+    }
+
     QTemporaryDir m_folder;
+    QProcess m_process;
     QProcessEnvironment m_environment;
 };

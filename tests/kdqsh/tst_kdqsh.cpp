@@ -270,6 +270,11 @@ void TestKdqsh::errors_data()
           "characters."));
     row("kind of name", S("name unique file x"),
         S("name unique: 'file' is no kind of name; possible are display and internal."));
+    row("nobody listens", S("ipc greet welding 1"), S("ipc greet: No process 1 listens as welding: *"));
+    row("product that does not listen", S("ipc listen mesh"),
+        S("ipc listen: 'mesh' is no product that listens; possible are: forming, welding, joining, jes, "
+          "material, additive."));
+    row("no time", S("ipc listen jes seconds 0"), S("ipc listen: 'seconds' must be from 1 to 86400, not 0."));
     row("no deck", S("deck title x"), S("deck title: No deck is open; see 'deck open'."));
     row("wrong layout", S("deck open a.dat wide"),
         S("deck open: 'wide' is no layout; possible are fixed, free, standard, extended."));
