@@ -1,13 +1,15 @@
 #include "kdqtest.h"
 
-#include <kdQCore/coProductType>
+#include <kdQCore/coProductInformation>
 
+#include <atomic>
 #include <chrono>
 #include <future>
 #include <memory>
 #include <thread>
 
 using Type = coProductType;
+using Information = coProductInformation;
 
 namespace {
 
@@ -38,63 +40,69 @@ class TestCoProductType : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyProduct();
-    void storedIds_data();
-    void storedIds();
-    void unknownIdNeverReturns();
-};
-
-void TestCoProductType::everyProduct()
-{
-    int number = 0;
-    for (const Row& row : rows) {
-        const Type& product = row.product();
-        QCOMPARE(&product, &row.product());
-        QCOMPARE(product.toVariant(), QVariant(number));
-        for (const Row& other : rows) {
-            QCOMPARE((product.*other.is)(), &other == &row);
-            QCOMPARE(product == other.product(), &other == &row);
+    void everyProduct()
+    {
+        int number = 0;
+        for (const Row& row : rows) {
+            const Type& product = row.product();
+            QCOMPARE(product.toVariant(), QVariant(number));
+            for (const Row& other : rows) {
+                QCOMPARE((product.*other.is)(), &other == &row);
+                QCOMPARE(product == other.product(), &other == &row);
+            }
+            ++number;
         }
-        if (number > 0)
-            QCOMPARE(Type::fromVariant(product.toVariant()), product);
-        ++number;
     }
-    QCOMPARE(Type::welding().viewName(), QStringLiteral("Kaldoran Welding"));
-}
 
-void TestCoProductType::storedIds_data()
-{
-    QTest::addColumn<QVariant>("id");
-    QTest::addColumn<bool>("isStored");
-    QTest::newRow("nothing") << QVariant() << false;
-    QTest::newRow("first") << QVariant(1) << true;
-    QTest::newRow("last") << QVariant(11) << true;
-    QTest::newRow("beyond") << QVariant(12) << false;
-    QTest::newRow("text") << QVariant(QStringLiteral("9")) << true;
-    QTest::newRow("beyond int") << QVariant(qint64(4294967305)) << false;
-    QTest::newRow("fraction") << QVariant(9.4) << false;
-}
+    void storedIds()
+    {
+        const QVector<QPair<QVariant, int>> ids{
+            {1, 1},          {11, 11}, {QStringLiteral("9"), 9},
+            {QVariant(), 0}, {12, 0},  {qint64(4294967305), 0}, // 9 in its lower half
+            {9.4, 0}};
+        for (const auto& id : ids) {
+            QCOMPARE(Type::isStoredId(id.first), id.second > 0);
+            if (id.second > 0)
+                QCOMPARE(Type::fromVariant(id.first).toVariant().toInt(), id.second);
+        }
+    }
 
-void TestCoProductType::storedIds()
-{
-    QFETCH(QVariant, id);
-    QFETCH(bool, isStored);
-    QCOMPARE(Type::isStoredId(id), isStored);
-    if (isStored)
-        QCOMPARE(Type::fromVariant(id).toVariant().toInt(), id.toInt());
-}
+    // The thread cannot be ended, so it must not own anything of the test.
+    void unknownIdNeverReturns()
+    {
+        const auto returned = std::make_shared<std::promise<void>>();
+        std::future<void> future = returned->get_future();
+        std::thread([returned] {
+            Type::fromVariant(QVariant(0));
+            returned->set_value();
+        }).detach();
+        QCOMPARE(future.wait_for(std::chrono::milliseconds(300)), std::future_status::timeout);
+    }
 
-// The thread cannot be ended, so it must not own anything of the test.
-void TestCoProductType::unknownIdNeverReturns()
-{
-    const auto returned = std::make_shared<std::promise<void>>();
-    std::future<void> future = returned->get_future();
-    std::thread([returned] {
-        Type::fromVariant(QVariant(0));
-        returned->set_value();
-    }).detach();
-    QCOMPARE(future.wait_for(std::chrono::milliseconds(300)), std::future_status::timeout);
-}
+    void readersSeeWholeRegistrations()
+    {
+        QVERIFY(!Information::isRegistered());
+        Information::registerProduct(Type::jes(), {4, 4, 4, 4});
+        std::atomic<bool> stop{false};
+        std::thread writer([&stop] {
+            while (!stop) {
+                Information::registerProduct(Type::mesh(), {7, 7, 7, 7});
+                Information::registerProduct(Type::jes(), {4, 4, 4, 4});
+            }
+        });
+        bool allWhole = true;
+        for (int i = 0; i < 20000; ++i) {
+            const Information::Product product = Information::product();
+            const int id = product.type.toVariant().toInt();
+            allWhole = allWhole && product.version == coVersionNumber(id, id, id, id);
+        }
+        stop = true;
+        writer.join();
+        QVERIFY(allWhole);
+        Information::unregisterProduct();
+        QVERIFY(Information::productType().isUnknown());
+    }
+};
 
 KDQ_TEST_MAIN(TestCoProductType)
 #include "tst_coproducttype.moc"

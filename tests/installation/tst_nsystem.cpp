@@ -61,79 +61,62 @@ private:
     }
 
 private Q_SLOTS:
-    void linkTimeStamp_data()
-    {
-        QTest::addColumn<bool>("pe32Plus");
-        QTest::addColumn<quint32>("seconds");
-        QTest::addColumn<QDateTime>("time");
-        QTest::newRow("PE32") << false << 1700000000U << QDateTime({2023, 11, 14}, {22, 13, 20}, Qt::UTC);
-        QTest::newRow("PE32+, after 2038")
-            << true << 0xfffffffeU << QDateTime({2106, 2, 7}, {6, 28, 14}, Qt::UTC);
-    }
-
     void linkTimeStamp()
     {
-        QFETCH(bool, pe32Plus);
-        QFETCH(quint32, seconds);
-        QFETCH(QDateTime, time);
         Options options;
-        options.pe32Plus = pe32Plus;
-        options.timeStamp = seconds;
-        write(image(options));
-        QCOMPARE(getLinkTimeStamp(m_path), time);
-        QCOMPARE(getLinkTimeStamp(m_path).timeSpec(), Qt::UTC);
+        for (const bool pe32Plus : {true, false}) {
+            options.pe32Plus = pe32Plus;
+            options.timeStamp = pe32Plus ? 0xfffffffeU : 1700000000U;
+            write(image(options));
+            QCOMPARE(getLinkTimeStamp(m_path),
+                     pe32Plus ? QDateTime({2106, 2, 7}, {6, 28, 14}, Qt::UTC)
+                              : QDateTime({2023, 11, 14}, {22, 13, 20}, Qt::UTC));
+            QCOMPARE(getLinkTimeStamp(m_path).timeSpec(), Qt::UTC);
+        }
     }
 
     void fileVersion_data()
     {
-        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("info");
         QTest::addColumn<QString>("version");
-        QTest::newRow("four numbers") << QStringLiteral("2018.1.2.12345") << QStringLiteral("2018.1.2.12345");
-        QTest::newRow("commas and blanks") << QStringLiteral("1, 2, 0, 7") << QStringLiteral("1.2.0.7");
-        QTest::newRow("a remark") << QStringLiteral("10.0.19041.1 (WinBuild.160101.0800)")
-                                  << QStringLiteral("10.0.19041.1");
-        QTest::newRow("empty") << QString() << QStringLiteral("0.0.0.0");
+        const auto text = [](const char* name, const char* found, const char* version) {
+            QTest::newRow(name) << usualVersionInfo(QString::fromLatin1(found))
+                                << QString::fromLatin1(version);
+        };
+        text("commas and blanks", "1, 2, 0, 7", "1.2.0.7");
+        text("a remark", "10.0.19041.1 (WinBuild.160101.0800)", "10.0.19041.1");
+        text("empty", "", "0.0.0.0");
+        const QString version = QStringLiteral("1.2.3.4");
+        const QByteArray german = u16(0x407) + u16(0x4b0);
+        const auto place = [&version](const char* name, std::initializer_list<QByteArray> children) {
+            QTest::newRow(name) << versionInfo(children) << version;
+        };
+        place("translations first", {translations(german), strings("040704b0", version)});
+        place("first of two translations",
+              {strings("040704b0", version), translations(german + u16(0x409) + u16(0x4e4))});
+        place("table of another language before",
+              {node("StringFileInfo", 1, 0, {},
+                    {node("040904e4", 1, 0, {}, {PeBuilder::text("FileVersion", QStringLiteral("9.9"))}),
+                     node("040704b0", 1, 0, {}, {PeBuilder::text("FileVersion", version)})}),
+               translations(german)});
+        place("text length in bytes",
+              {node("StringFileInfo", 1, 0, {},
+                    {node("040704b0", 1, 0, {}, {node("FileVersion", 1, 16, utf16(version))})}),
+               translations(german)});
     }
 
     void fileVersion()
     {
-        QFETCH(QString, text);
+        QFETCH(QByteArray, info);
         QFETCH(QString, version);
         Options options;
-        options.versionInfo = usualVersionInfo(text);
-        write(image(options));
-        QCOMPARE(getFileVersionFromStringFileInfo(m_path), coVersionNumber(version));
-    }
-
-    void versionLookup_data()
-    {
-        QTest::addColumn<QByteArray>("info");
-        const QString version = QStringLiteral("1.2.3.4");
-        const QByteArray german = u16(0x407) + u16(0x4b0);
-        QTest::newRow("translations first")
-            << versionInfo({translations(german), strings("040704b0", version)});
-        QTest::newRow("first of two translations")
-            << versionInfo({strings("040704b0", version), translations(german + u16(0x409) + u16(0x4e4))});
-        QTest::newRow("table of another language before")
-            << versionInfo({node("StringFileInfo", 1, 0, {},
-                                 {node("040904e4", 1, 0, {}, {text("FileVersion", QStringLiteral("9.9"))}),
-                                  node("040704b0", 1, 0, {}, {text("FileVersion", version)})}),
-                            translations(german)});
-        QTest::newRow("text length in bytes")
-            << versionInfo({node("StringFileInfo", 1, 0, {},
-                                 {node("040704b0", 1, 0, {}, {node("FileVersion", 1, 16, utf16(version))})}),
-                            translations(german)});
-    }
-
-    void versionLookup()
-    {
-        QFETCH(QByteArray, info);
-        Options options;
-        options.pe32Plus = false;
-        options.resourceName = 0x80000010U;
         options.versionInfo = info;
-        write(image(options));
-        QCOMPARE(getFileVersionFromStringFileInfo(m_path), coVersionNumber(1, 2, 3, 4));
+        for (const bool pe32Plus : {true, false}) {
+            options.pe32Plus = pe32Plus;
+            options.resourceName = pe32Plus ? 1 : 0x80000010U;
+            write(image(options));
+            QCOMPARE(getFileVersionFromStringFileInfo(m_path), coVersionNumber(version));
+        }
     }
 
     void versionFailures_data()
@@ -189,23 +172,18 @@ private Q_SLOTS:
         QCOMPARE(fromSystem, fault >= 0);
     }
 
-    void invalidExecutable_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        const QByteArray good = image(Options());
-        QTest::newRow("DOS header magic") << patched(good, 0, "ZM");
-        QTest::newRow("PE signature") << patched(good, 128, QByteArray("NE\0\0", 4));
-        QTest::newRow("offset of the signature beyond the end") << patched(good, 60, u32(0xfffffff0U));
-        QTest::newRow("file header cut off") << good.left(128 + 4 + 19);
-    }
-
     void invalidExecutable()
     {
-        QFETCH(QByteArray, bytes);
-        write(bytes);
-        bool fromSystem = true;
-        QCOMPARE(failureOf([this] { getLinkTimeStamp(m_path); }, &fromSystem), executableFailure.arg(m_path));
-        QVERIFY(!fromSystem);
+        const QByteArray good = image(Options());
+        for (const QByteArray& bytes : {patched(good, 0, "ZM"), patched(good, 128, QByteArray("NE\0\0", 4)),
+                                        patched(good, 60, u32(0xfffffff0U)), // signature beyond the end
+                                        good.left(128 + 4 + 19)}) {
+            write(bytes);
+            bool fromSystem = true;
+            QCOMPARE(failureOf([this] { getLinkTimeStamp(m_path); }, &fromSystem),
+                     executableFailure.arg(m_path));
+            QVERIFY(!fromSystem);
+        }
     }
 
     void unreadableFile_data()

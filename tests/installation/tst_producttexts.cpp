@@ -20,15 +20,7 @@ namespace demos = nKaldoranDemos;
 namespace jes = nKaldoranJes;
 namespace joining = nKaldoranJoining;
 namespace material = nKaldoranMaterial;
-
-namespace {
-
-bool matches(const QString& text, const QString& pattern)
-{
-    return QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(text).hasMatch();
-}
-
-} // namespace
+namespace welding = nKaldoranWelding;
 
 class TestProductTexts : public QObject {
     Q_OBJECT
@@ -37,12 +29,8 @@ private Q_SLOTS:
     void cleanup();
     void literalTexts_data();
     void literalTexts();
-    void versionFamily();
-    void processInfo();
-    void commentOfJoiningFiles();
     void pagesAndDocumentsFollowTheLanguage_data();
     void pagesAndDocumentsFollowTheLanguage();
-    void linkTextIsPlainText();
     void missingMaterialApplicationIsLogged();
     void startsMaterialApplicationOfItsInstallation();
 };
@@ -57,77 +45,49 @@ void TestProductTexts::cleanup()
 void TestProductTexts::literalTexts_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("expected"); // a regular expression
     int number = 0;
     const auto row = [&number](const QString& text, const char* expected) {
         QTest::addRow("%d %s", ++number, expected) << text << QString::fromUtf8(expected);
     };
-    row(am::iniFileName(), "kaldoran.additive");
-    row(am::versionDependentIniFileName(false), "kaldoran.additive_2018");
-    row(am::versionDependentIniFileName(true), "kaldoran.additive_2018.1");
-    row(am::exeFileName(false), "Kaldoran Additive");
-    row(am::exeFileName(true), "Kaldoran Additive.exe");
-    row(joining::productNameFullVersionAndSuffix(), "Kaldoran Joining Optimizer 2018.1 (dev)");
-    row(joining::settingsFolderName(), "kaldoran.joining_2018.1");
+    row(am::versionDependentIniFileName(false), "kaldoran\\.additive_2018");
+    row(am::versionDependentIniFileName(true), "kaldoran\\.additive_2018\\.1");
+    row(am::exeFileName(true), "Kaldoran Additive\\.exe");
+    row(joining::productNameFullVersionAndSuffix(), "Kaldoran Joining Optimizer 2018\\.1 \\(dev\\)");
+    row(joining::settingsFolderName(), "kaldoran\\.joining_2018\\.1");
     row(joining::settingsFileNameResultThresholdsSpr(QString()), "resultThresholdsSpr");
     row(joining::settingsFileNameResultThresholdsCli(QStringLiteral("%1")), "resultThresholdsCli_%1");
+    row(joining::fileComment(QStringLiteral("Rivets %2")),
+        "Rivets %2 - written by Kaldoran Simulation Systems GmbH Kaldoran Joining Optimizer 2018\\.1 "
+        "\\(rev\\. \\d+, \\S+\\) \\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d");
     row(material::productNameAndVersion(), "Kaldoran Material 2018");
-    row(material::exeFileName(true), "kaldoran.material.exe");
-    row(material::fileExtensionWildcard(), "*.xmt");
+    row(material::exeFileName(true), "kaldoran\\.material\\.exe");
     row(material::nFilterArgs::mkFilterArg(QStringLiteral("Area"), QStringLiteral("%2")), "Area:%2");
-    row(demos::demosFileExtension(true), ".kddemos");
-    row(demos::standardNameFilter().join(QLatin1Char('|')), "*.xml|*.kddemos");
-    row(jes::projectFileSelectionFilter(), "jes files (*.jes)");
+    row(demos::standardNameFilter().join(QLatin1Char('|')), "\\*\\.xml\\|\\*\\.kddemos");
+    row(jes::projectFileSelectionFilter(), "jes files \\(\\*\\.jes\\)");
+    row(welding::fullVersion(false), "2018");
+    row(welding::fullRevisionOSVersionDate(), "2018\\.1\\.\\d+\\.[a-z]+(32|64) [A-Z][a-z]{2} \\d\\d \\d{4}");
+    row(welding::productNameAndFullRevisionOSVersionTime(),
+        "Kaldoran Welding 2018\\.1\\.\\d+\\.[a-z]+(32|64) - \\d\\d:\\d\\d:\\d\\d");
+    using nKaldoranProducts::e_Product;
+    row(nProcessInfo::productName(static_cast<e_Product>(1)), "Kaldoran Forming");
+    row(nProcessInfo::productName(static_cast<e_Product>(5)), "Kaldoran Material");
+    row(nProcessInfo::productVersion(static_cast<e_Product>(4)), "Undefined");
+    row(nProcessInfo::productVersion(static_cast<e_Product>(-77)), "Undefined");
+    row(nCompanyInfo::companyContactHomepageLink(QStringLiteral("A & <b> %1")),
+        "<a href=\"https://[^\"]*\">A &amp; &lt;b&gt; %1</a>");
     // A name with a place marker in it must come through as it is.
-    const auto slashed = [](const QString& path) { return QDir::fromNativeSeparators(path); };
     const QString folder = QStringLiteral("f");
-    row(slashed(jes::createProjectFilePath(folder, QStringLiteral("%1"))), "f/%1/%1.jes");
-    row(slashed(jes::createProjectFolderPath(folder, QStringLiteral("p"))), "f/p");
+    row(jes::createProjectFilePath(folder, QStringLiteral("%1")), "f[/\\\\]%1[/\\\\]%1\\.jes");
+    row(jes::createProjectFolderPath(folder, QStringLiteral("p")), "f[/\\\\]p");
 }
 
 void TestProductTexts::literalTexts()
 {
     QFETCH(QString, text);
-    QTEST(text, "expected");
-}
-
-void TestProductTexts::versionFamily()
-{
-    using namespace nKaldoranWelding;
-    const auto escaped = [](const QString& text) { return QRegularExpression::escape(text); };
-    QCOMPARE(fullVersion(false), productVersion());
-    QVERIFY(matches(fullVersion(true), escaped(productVersion()) + QStringLiteral("\\.\\d+")));
-    QVERIFY(matches(fullRevisionVersion(), escaped(fullVersion(true)) + QStringLiteral("\\.\\d+")));
-    QVERIFY(matches(fullRevisionOSVersion(),
-                    escaped(fullRevisionVersion()) + QStringLiteral("\\.[a-z]+(32|64)")));
-    QVERIFY(matches(fullRevisionOSVersionDate(),
-                    escaped(fullRevisionOSVersion()) + QStringLiteral(" [A-Z][a-z]{2} [0-9]{2} [0-9]{4}")));
-    const QString name = productName() + QLatin1Char(' ');
-    QCOMPARE(productNameAndFullVersion(), name + fullVersion(true));
-    QCOMPARE(productNameAndFullRevisionVersion(), name + fullRevisionVersion());
-    QCOMPARE(productNameAndFullRevisionOSVersion(), name + fullRevisionOSVersion());
-    QVERIFY(matches(productNameAndFullRevisionOSVersionTime(),
-                    escaped(name + fullRevisionOSVersion()) + QStringLiteral(" - \\d\\d:\\d\\d:\\d\\d")));
-}
-
-void TestProductTexts::processInfo()
-{
-    using nKaldoranProducts::e_Product;
-    QCOMPARE(nProcessInfo::productName(static_cast<e_Product>(1)), QStringLiteral("Kaldoran Forming"));
-    QCOMPARE(nProcessInfo::productName(static_cast<e_Product>(5)), material::productName());
-    QCOMPARE(nProcessInfo::productVersion(static_cast<e_Product>(4)), QStringLiteral("Undefined"));
-    QCOMPARE(nProcessInfo::productVersion(static_cast<e_Product>(-77)), QStringLiteral("Undefined"));
-}
-
-void TestProductTexts::commentOfJoiningFiles()
-{
-    const QString comment = joining::fileComment(QStringLiteral("Rivets %2"));
-    const QString expected = QStringLiteral("Rivets %2 - written by ") + nCompanyInfo::companyName()
-        + QStringLiteral(" Kaldoran Joining Optimizer 2018\\.1 \\(rev\\. \\d+, \\S+\\) "
-                         "\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d");
-    QVERIFY2(matches(comment, expected), qPrintable(comment));
-    const QDateTime written = QDateTime::fromString(comment.section(QLatin1Char(' '), -1), Qt::ISODate);
-    QVERIFY(qAbs(written.secsTo(QDateTime::currentDateTime())) < 60);
+    QFETCH(QString, expected);
+    const QRegularExpression form(QRegularExpression::anchoredPattern(expected));
+    QVERIFY2(form.match(text).hasMatch(), qPrintable(text));
 }
 
 void TestProductTexts::pagesAndDocumentsFollowTheLanguage_data()
@@ -156,13 +116,6 @@ void TestProductTexts::pagesAndDocumentsFollowTheLanguage()
     QCOMPARE(material::tutorialFilePath(),
              material::documentsFolder() + QDir::separator() + QStringLiteral("Kaldoran_Material_Tutorial_")
                  + code + QStringLiteral(".pdf"));
-}
-
-void TestProductTexts::linkTextIsPlainText()
-{
-    QCOMPARE(nCompanyInfo::companyContactHomepageLink(QStringLiteral("A & <b> %1")),
-             QStringLiteral("<a href=\"") + nCompanyInfo::companyContactHomepage()
-                 + QStringLiteral("\">A &amp; &lt;b&gt; %1</a>"));
 }
 
 void TestProductTexts::missingMaterialApplicationIsLogged()
