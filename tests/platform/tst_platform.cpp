@@ -92,21 +92,44 @@ private Q_SLOTS:
         QCOMPARE(second.errorCode(), 0UL);
     }
 
-    void exclusiveFileInAFolderOfALongPath()
+    void exclusiveFileRefused()
+    {
+        struct Row {
+            QString path;
+            ExclusiveFile::Failure failure;
+        };
+        QVector<Row> rows{
+            {QDir::tempPath(), ExclusiveFile::Failure::Exists}, // a folder bears the name
+            {QDir::tempPath() + QStringLiteral("/no/such/x.lock"), ExclusiveFile::Failure::Unexpected}};
+        if (kdqOnWindows)
+            rows.append({QDir::tempPath() + QStringLiteral("/a|b"), ExclusiveFile::Failure::Unexpected});
+        else if (QFile::exists(QStringLiteral("/sys/kernel"))) // not even root may
+            rows.append({QStringLiteral("/sys/kdq.lock"), ExclusiveFile::Failure::NotPermitted});
+        for (const Row& row : rows) {
+            ExclusiveFile file;
+            QVERIFY2(!file.create(row.path), qPrintable(row.path));
+            QCOMPARE(int(file.failure()), int(row.failure));
+            QVERIFY(file.errorCode() != 0);
+        }
+    }
+
+    void filesInAFolderOfALongPath()
     {
         QTemporaryDir folder;
         QString path = folder.path();
         for (int i = 0; i < 30; ++i) // some 600 characters, beyond the old limit of Windows
             path += QLatin1Char('/') + QStringLiteral("Verzeichnis-äöü-%1").arg(i);
         QVERIFY(QDir().mkpath(path));
-        path += QStringLiteral("/x.lock");
+        path += QStringLiteral("/Zwölf.lock");
+        const QByteArray content(3 * 4096 + 17, 'p');
         ExclusiveFile file;
         QVERIFY(file.create(path));
-        QVERIFY(file.write("x"));
+        QVERIFY(file.write(content));
         file.close();
         const MappedFile view(path);
         QCOMPARE(view.failure(), MappedFile::Failure::None);
-        QCOMPARE(view.size(), qint64(1));
+        QCOMPARE(QByteArray(reinterpret_cast<const char*>(view.data()), static_cast<int>(view.size())),
+                 content);
     }
 
     void raceForAFileHasOneWinner()
@@ -124,20 +147,6 @@ private Q_SLOTS:
         compete();
         other.join();
         QCOMPARE(wins.load(), 200);
-    }
-
-    void mapping()
-    {
-        const QByteArray content(3 * 4096 + 17, 'p');
-        QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("Zwölf.bin")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        const MappedFile view(file.fileName());
-        QCOMPARE(view.failure(), MappedFile::Failure::None);
-        QCOMPARE(QByteArray(reinterpret_cast<const char*>(view.data()), static_cast<int>(view.size())),
-                 content);
     }
 };
 
