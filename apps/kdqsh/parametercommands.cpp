@@ -11,6 +11,16 @@ bool sort(const ShellFormulas& parameters, const QStringList& names, coExpressio
     return order.sort();
 }
 
+bool sortAlone(const QString& name, const coExpression& formula, coExpressionOrder& order)
+{
+    order.add(name, formula);
+    const QStringList variables = ShellFormulas::variablesOf(formula);
+    for (const QString& variable : variables)
+        if (variable != name)
+            order.addKnownName(variable);
+    return order.sort();
+}
+
 QString equation(const QString& name, const QString& right)
 {
     return QStringLiteral("%1 = %2").arg(name, right);
@@ -44,14 +54,16 @@ bool ParameterCommands::define(ShellCall& call)
     const int equals = text.indexOf(QLatin1Char('='));
     if (equals < 0)
         return call.fail(tr("'=' is missing between name and formula."));
-    ShellFormulas parameters = ShellSession::I().parameters;
+    ShellFormulas& parameters = ShellSession::I().parameters;
     const QString name = text.left(equals).trimmed();
-    parameters.put(name, coExpression(text.mid(equals + 1).trimmed()));
+    const coExpression formula(text.mid(equals + 1).trimmed());
+    const bool isUsed = parameters.isUsed(name); // else it can close no circle but its own
+    parameters.put(name, formula);
     coExpressionOrder order;
-    if (!sort(parameters, {name}, order))
-        return call.fail(order.errorString());
-    ShellSession::I().parameters = parameters;
-    return true;
+    if (isUsed ? sort(parameters, {name}, order) : sortAlone(name, formula, order))
+        return true;
+    parameters.revert(parameters.lastChange());
+    return call.fail(order.errorString());
 }
 
 bool ParameterCommands::list(ShellCall& call)

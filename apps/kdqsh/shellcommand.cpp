@@ -118,8 +118,6 @@ bool ShellCommand::run(ShellCall& call)
     ShellSession& session = ShellSession::I();
     if (m_entry->effect == ShellCommandEntry::ChangesTables)
         m_tablesBefore = session.tables;
-    if (m_entry->effect == ShellCommandEntry::ChangesParameters)
-        m_parametersBefore = session.parameters;
     if (m_entry->effect == ShellCommandEntry::WritesDeck) {
         if (!session.deck.isOpen())
             return call.fail(tr("No deck is open; see 'deck open'."));
@@ -128,6 +126,8 @@ bool ShellCommand::run(ShellCall& call)
 
     Complaints complaints;
     bool ok = m_entry->run(call);
+    if (m_entry->effect == ShellCommandEntry::ChangesParameters)
+        m_parameterChange = session.parameters.lastChange();
     if (m_entry->effect == ShellCommandEntry::WritesDeck && !session.deck.flush())
         ok = call.fail(session.deck.errorText());
     if (!ok && !call.hasFailed())
@@ -145,7 +145,7 @@ bool ShellCommand::undo()
         return true;
     }
     if (m_entry->effect == ShellCommandEntry::ChangesParameters) {
-        session.parameters = m_parametersBefore;
+        session.parameters.revert(m_parameterChange);
         return true;
     }
     return session.deck.isOpen() && session.deck.goBackTo(*m_deckBefore);

@@ -72,6 +72,6 @@ private:
     QStringList m_arguments;
     QString m_wordsError;
     ShellTables m_tablesBefore;
-    ShellFormulas m_parametersBefore;
+    ShellFormulas::Change m_parameterChange;
     std::optional<ShellDeck::Mark> m_deckBefore;
 };

@@ -10,15 +10,36 @@ constexpr int longestFormula = 100000; // uses of uses may double the text every
 
 void ShellFormulas::put(const QString& name, const coExpression& formula)
 {
-    if (!contains(name))
-        m_names.append(name);
-    m_formulas.insert(name, formula);
+    const int number = contains(name) ? m_definitions.value(name).number : ++m_lastNumber;
+    set(name, Definition{formula, number});
 }
 
-void ShellFormulas::remove(const QString& name)
+void ShellFormulas::set(const QString& name, const std::optional<Definition>& definition)
 {
-    m_names.removeAll(name);
-    m_formulas.remove(name);
+    m_lastChange = {name, {}};
+    if (contains(name)) {
+        m_lastChange.before = m_definitions.take(name);
+        countUses(m_lastChange.before->formula, -1);
+    }
+    if (definition) {
+        countUses(definition->formula, 1);
+        m_definitions.insert(name, *definition);
+    }
+}
+
+void ShellFormulas::countUses(const coExpression& formula, int step)
+{
+    const QStringList names = variablesOf(formula);
+    for (const QString& name : names)
+        m_uses[name] += step;
+}
+
+QStringList ShellFormulas::sorted(QStringList names) const
+{
+    std::sort(names.begin(), names.end(), [this](const QString& a, const QString& b) {
+        return m_definitions.constFind(a)->number < m_definitions.constFind(b)->number;
+    });
+    return names;
 }
 
 QStringList ShellFormulas::variablesOf(const coExpression& formula)
@@ -32,14 +53,15 @@ QStringList ShellFormulas::variablesOf(const coExpression& formula)
 
 QSet<QString> ShellFormulas::used(const QStringList& names, const QStringList& free) const
 {
+    const QSet<QString> unwanted(free.begin(), free.end());
     QSet<QString> used;
     QStringList pending = names;
     while (!pending.isEmpty()) {
         const QString name = pending.takeLast();
-        if (free.contains(name) || used.contains(name))
+        if (unwanted.contains(name) || used.contains(name))
             continue;
         used.insert(name);
-        pending += variablesOf(m_formulas.value(name));
+        pending += variablesOf(m_definitions.value(name).formula);
     }
     return used;
 }
@@ -56,11 +78,15 @@ QStringList ShellFormulas::undefinedNames(const QStringList& names) const
 
 coExpressionOrder ShellFormulas::order(const QStringList& names, const QStringList& free) const
 {
+    QStringList defined;
     const QSet<QString> used = this->used(names, free);
+    for (const QString& name : used)
+        if (contains(name))
+            defined.append(name);
     coExpressionOrder order;
-    for (const QString& name : m_names)
-        if (used.contains(name))
-            order.add(name, m_formulas.value(name));
+    defined = sorted(defined);
+    for (const QString& name : qAsConst(defined))
+        order.add(name, m_definitions.value(name).formula);
     for (const QString& name : free)
         order.addKnownName(name);
     return order;

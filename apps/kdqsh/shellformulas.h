@@ -7,17 +7,35 @@
 #include <QSet>
 #include <QStringList>
 
+#include <optional>
+
 /// The parameters of a session: named formulas that may use each other, in the order in which they were first
-/// defined. A copy is cheap and is all that undo needs.
+/// defined. Scripts define many, so undo keeps a change and no copy of all.
 class ShellFormulas {
     Q_DECLARE_TR_FUNCTIONS(ShellFormulas)
 
 public:
-    QStringList names() const { return m_names; }
-    bool contains(const QString& name) const { return m_formulas.contains(name); }
+    struct Definition {
+        coExpression formula;
+        int number = 0; ///< rises in the order of definition
+    };
+    struct Change {
+        QString name;
+        std::optional<Definition> before;
+    };
+
+    QStringList names() const { return sorted(m_definitions.keys()); }
+    bool contains(const QString& name) const { return m_definitions.contains(name); }
     /// In the old one's stead where there is one.
     void put(const QString& name, const coExpression& formula);
-    void remove(const QString& name);
+    void remove(const QString& name) { set(name, {}); }
+
+    Change lastChange() const { return m_lastChange; }
+    /// Takes back a change, the last that was not taken back.
+    void revert(const Change& change) { set(change.name, change.before); }
+
+    /// Whether a formula uses the name, defined or not.
+    bool isUsed(const QString& name) const { return m_uses.value(name) > 0; }
 
     /// The variables of a formula that are not built in.
     static QStringList variablesOf(const coExpression& formula);
@@ -39,7 +57,12 @@ public:
 
 private:
     QSet<QString> used(const QStringList& names, const QStringList& free) const;
+    QStringList sorted(QStringList names) const;
+    void set(const QString& name, const std::optional<Definition>& definition);
+    void countUses(const coExpression& formula, int step);
 
-    QStringList m_names;
-    QHash<QString, coExpression> m_formulas;
+    QHash<QString, Definition> m_definitions;
+    QHash<QString, int> m_uses;
+    Change m_lastChange;
+    int m_lastNumber = 0;
 };
