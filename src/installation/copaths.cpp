@@ -262,6 +262,8 @@ bool coPaths::compareVersionLess(const QString& left, const QString& right)
 
 void coPaths::set(e_Folder folder, const QString& path)
 {
+    if (m_p->isStandIn)
+        return;
     for (Private::Entry& entry : m_p->entries)
         if (entry.origin == Composed)
             entry = {};

@@ -352,6 +352,7 @@ void TestCoPaths::nothingWithoutInstance()
     const auto entries = [this] { return QDir(path(S("settings"))).entryList() + QDir().entryList(); };
     const QStringList before = entries();
     coPaths& standIn = coPaths::I();
+    standIn.fixWeldingVersionPath(S("x"));
     QCOMPARE(standIn.getKaldoranBasePath() + standIn.getWeldingScriptPath(), QString());
     standIn.setProductExecutable(coProductType::welding(), S("2018"), S("x"));
     standIn.sync();
