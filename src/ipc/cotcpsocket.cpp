@@ -5,18 +5,40 @@
 
 #include <kdQCore/kdLog>
 
+#include <QCoreApplication>
 #include <QHostInfo>
 #include <QThread>
 
 #include <cstdlib>
 #include <ctime>
 
+namespace {
+
+/// Runs an event loop and lets its objects go before it tells that it has ended.
+class WorkerThread : public QThread {
+public:
+    explicit WorkerThread(SocketExchange& exchange) : m_exchange(exchange) { }
+
+protected:
+    void run() override
+    {
+        exec();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        m_exchange.pass();
+    }
+
+private:
+    SocketExchange& m_exchange;
+};
+
+} // namespace
+
 struct coTcpSocket::Private {
     /// Held by a call for its whole length; recursive, as calls are made of calls. Nobody waits on it: the
     /// sleeping is the exchange's, with a plain mutex of its own.
     std::recursive_mutex turns;
     SocketExchange exchange;
-    QThread worker;
+    WorkerThread worker{exchange};
     ThreadedSocketWrapper* wrapper = nullptr; ///< lives in the worker, which deletes it
     qint32 sessionId = -1;
 
@@ -70,6 +92,7 @@ coTcpSocket::~coTcpSocket()
     d->wrapper->deleteLater();
     d->worker.quit();
     d->worker.wait();
+    d->exchange.pass();
 }
 
 void coTcpSocket::connectOperations()

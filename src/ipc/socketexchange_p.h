@@ -42,6 +42,10 @@ public:
 
     void reply(SocketReply&& reply);
 
+    /// Takes and gives the lock. What one thread did before it is seen by the one that passes later; without
+    /// it, tools that do not see the locks inside Qt would take these for races.
+    void pass() const { const std::lock_guard<std::mutex> lock(m_mutex); }
+
     int timeout() const;
     void setTimeout(int milliseconds);
 

@@ -1,6 +1,5 @@
 #include "threadedsocketwrapper_p.h"
 
-#include <QMetaMethod>
 #include <QNetworkProxy>
 
 namespace {
@@ -29,35 +28,39 @@ coTcpSocket::ThreadedSocketWrapper::ThreadedSocketWrapper(coTcpSocket& owner, So
 
 void coTcpSocket::ThreadedSocketWrapper::forwardSignals()
 {
-    connect(&m_socket, &QTcpSocket::connected, this, [this] { forward(&coTcpSocket::connected); });
-    connect(&m_socket, &QTcpSocket::disconnected, this, [this] { forward(&coTcpSocket::disconnected); });
-    connect(&m_socket, &QTcpSocket::readyRead, this, [this] { forward(&coTcpSocket::readyRead); });
-    connect(&m_socket, &QTcpSocket::hostFound, this, [this] { forward(&coTcpSocket::hostFound); });
+    const auto plain = [this](auto from, auto to) {
+        connect(&m_socket, from, this, [this, signal = QMetaMethod::fromSignal(to)] { forward(signal); });
+    };
+    plain(&QTcpSocket::connected, &coTcpSocket::connected);
+    plain(&QTcpSocket::disconnected, &coTcpSocket::disconnected);
+    plain(&QTcpSocket::readyRead, &coTcpSocket::readyRead);
+    plain(&QTcpSocket::hostFound, &coTcpSocket::hostFound);
+    using Code = QAbstractSocket::SocketError;
+    const auto written = QMetaMethod::fromSignal(&coTcpSocket::bytesWritten);
+    const auto changed = QMetaMethod::fromSignal(&coTcpSocket::stateChanged);
+    const auto failed = QMetaMethod::fromSignal(QOverload<Code>::of(&coTcpSocket::error));
     connect(&m_socket, &QTcpSocket::bytesWritten, this,
-            [this](qint64 bytes) { forward(&coTcpSocket::bytesWritten, bytes); });
-    connect(&m_socket, &QTcpSocket::stateChanged, this,
-            [this](QAbstractSocket::SocketState state) { forward(&coTcpSocket::stateChanged, state); });
-    connect(&m_socket, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError code) {
-        forward(QOverload<QAbstractSocket::SocketError>::of(&coTcpSocket::error), code);
+            [=](qint64 bytes) { forward(written, Q_ARG(qint64, bytes)); });
+    connect(&m_socket, &QTcpSocket::stateChanged, this, [=](QAbstractSocket::SocketState state) {
+        forward(changed, Q_ARG(QAbstractSocket::SocketState, state));
     });
+    connect(&m_socket, &QTcpSocket::errorOccurred, this,
+            [=](Code code) { forward(failed, Q_ARG(QAbstractSocket::SocketError, code)); });
 }
 
 /// Queued, so that listeners may make blocking calls; and only where someone listens, since the owner's
 /// thread may have no event loop that would ever take the events.
-template <typename... Arguments>
-void coTcpSocket::ThreadedSocketWrapper::forward(void (coTcpSocket::*signal)(Arguments...),
-                                                 Arguments... arguments)
+void coTcpSocket::ThreadedSocketWrapper::forward(const QMetaMethod& signal, QGenericArgument argument)
 {
-    if (!m_owner.isSignalConnected(QMetaMethod::fromSignal(signal)))
-        return;
-    coTcpSocket* const owner = &m_owner;
-    QMetaObject::invokeMethod(
-        owner,
-        [=] {
-            Q_EMIT(owner->*signal)
-            (arguments...);
-        },
-        Qt::QueuedConnection);
+    if (m_owner.isSignalConnected(signal))
+        signal.invoke(&m_owner, Qt::QueuedConnection, argument);
+}
+
+/// A request was posted under the exchange's lock.
+bool coTcpSocket::ThreadedSocketWrapper::event(QEvent* event)
+{
+    m_exchange.pass();
+    return QObject::event(event);
 }
 
 void coTcpSocket::ThreadedSocketWrapper::begin(e_Operation operation)

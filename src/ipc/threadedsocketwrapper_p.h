@@ -3,6 +3,7 @@
 #include "cotcpsocket.h"
 #include "socketexchange_p.h"
 
+#include <QMetaMethod>
 #include <QTcpSocket>
 #include <QTimer>
 
@@ -31,6 +32,9 @@ public:
     void peerPort();
     void peerAddress();
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     /// What is under way; errors of the socket end those from Connect on.
     enum e_Operation : int {
@@ -44,8 +48,8 @@ private:
     };
 
     void forwardSignals();
-    template <typename... Arguments>
-    void forward(void (coTcpSocket::*signal)(Arguments...), Arguments... arguments);
+    /// \a signal is one of the owner's.
+    void forward(const QMetaMethod& signal, QGenericArgument argument = QGenericArgument());
 
     void begin(e_Operation operation);
     void succeed();

@@ -12,8 +12,7 @@ namespace {
 
 const QHostAddress loopback(QHostAddress::LocalHost);
 
-/// Makes a call in the thread that delivers the first event in which \a isWanted says so: the only way into a
-/// socket's worker.
+/// Makes a call where another thread delivers its next event: the only way into a socket's worker.
 class ProbingApplication : public QCoreApplication {
 public:
     using QCoreApplication::QCoreApplication;
@@ -23,8 +22,7 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override
     {
-        if (QThread::currentThread() != thread() && event->type() == QEvent::MetaCall
-            && isArmed.exchange(false))
+        if (QThread::currentThread() != thread() && isArmed.exchange(false))
             probe();
         return QCoreApplication::notify(receiver, event);
     }
@@ -166,7 +164,7 @@ void tst_cotcpsocket::peerNeverReads()
     QSemaphore mayRead;
     QSemaphore hasRead;
     const QByteArray much(100000000, 'x');
-    qint64 count = 0;
+    std::atomic<qint64> count{0};
     Peer peer([&](QTcpSocket& socket) {
         socket.setReadBufferSize(1000);
         mayRead.tryAcquire(1, 30000);
@@ -187,7 +185,7 @@ void tst_cotcpsocket::peerNeverReads()
     socket.disconnectFromHostBlocking();
     QCOMPARE(socket.state(), QAbstractSocket::UnconnectedState);
     QVERIFY(hasRead.tryAcquire(1, 30000));
-    QCOMPARE(count, qint64(much.size()));
+    QCOMPARE(count.load(), qint64(much.size()));
     QVERIFY(socket.connectToHost(loopback, peer.port()));
     mayRead.release();
 }
