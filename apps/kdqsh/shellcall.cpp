@@ -40,6 +40,19 @@ void ShellCall::show(const QString& text) const
     m_reporter.message(text, ShellConsole::Result);
 }
 
+void ShellCall::showAligned(QVector<QStringList> rows) const
+{
+    for (int column = 0; column < rows.value(0).size(); ++column) {
+        int width = 0;
+        for (const QStringList& row : qAsConst(rows))
+            width = qMax(width, row.at(column).size());
+        for (QStringList& row : rows)
+            row[column] = row.at(column).rightJustified(width);
+    }
+    for (const QStringList& row : qAsConst(rows))
+        show(row.join(QLatin1String("  ")));
+}
+
 void ShellCall::tell(const QString& text) const
 {
     m_reporter.message(text, ShellConsole::Account);

@@ -33,6 +33,8 @@ public:
     const kdReporterInterface& reporter() const { return m_reporter; }
     /// What the user asked for.
     void show(const QString& text) const;
+    /// Rows of a table, its columns right-aligned; every row has the cells of the first.
+    void showAligned(QVector<QStringList> rows) const;
     /// What was done, left out in quiet runs.
     void tell(const QString& text) const;
     /// What was done although something seems wrong.
@@ -67,6 +69,8 @@ public:
     /// As many values as \a values has places.
     ShellParameters& reals(const char* name, const QVector<double*>& values);
     ShellParameters& text(const char* name, QString& value);
+    /// Any other: \a take reads the given number of arguments from an index on, and reports what is wrong.
+    ShellParameters& add(const char* name, int values, std::function<bool(int index)> take);
 
     /// Reports the first fault: an unknown word, one given twice, a missing or malformed value.
     bool read();
@@ -79,7 +83,6 @@ private:
         bool isGiven = false;
     };
 
-    ShellParameters& add(const char* name, int values, std::function<bool(int)> take);
     Parameter* find(const QString& name);
     QString names() const;
 

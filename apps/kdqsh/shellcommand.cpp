@@ -118,6 +118,8 @@ bool ShellCommand::run(ShellCall& call)
     ShellSession& session = ShellSession::I();
     if (m_entry->effect == ShellCommandEntry::ChangesTables)
         m_tablesBefore = session.tables;
+    if (m_entry->effect == ShellCommandEntry::ChangesProcesses)
+        m_processesBefore = session.processes;
     if (m_entry->effect == ShellCommandEntry::WritesDeck) {
         if (!session.deck.isOpen())
             return call.fail(tr("No deck is open; see 'deck open'."));
@@ -146,6 +148,10 @@ bool ShellCommand::undo()
     }
     if (m_entry->effect == ShellCommandEntry::ChangesParameters) {
         session.parameters.revert(m_parameterChange);
+        return true;
+    }
+    if (m_entry->effect == ShellCommandEntry::ChangesProcesses) {
+        session.processes = m_processesBefore;
         return true;
     }
     return session.deck.isOpen() && session.deck.goBackTo(*m_deckBefore);

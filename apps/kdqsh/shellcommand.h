@@ -3,6 +3,7 @@
 #include "shellcall.h"
 #include "shelldeck.h"
 #include "shellformulas.h"
+#include "shellprocesses.h"
 #include "shelltables.h"
 
 #include <kdQCore/kdCommand>
@@ -18,6 +19,7 @@ struct ShellCommandEntry {
         Query, ///< nothing of the session; stays out of the undo list
         ChangesTables,
         ChangesParameters,
+        ChangesProcesses,
         WritesDeck, ///< lines of the open deck
         CannotUndo
     };
@@ -73,5 +75,6 @@ private:
     QString m_wordsError;
     ShellTables m_tablesBefore;
     ShellFormulas::Change m_parameterChange;
+    ShellProcesses m_processesBefore;
     std::optional<ShellDeck::Mark> m_deckBefore;
 };

@@ -3,6 +3,7 @@
 #include "csvcommands.h"
 #include "deckcommands.h"
 #include "formulacommands.h"
+#include "heatcommands.h"
 #include "ipccommands.h"
 #include "logcommands.h"
 #include "namecommands.h"
@@ -26,8 +27,9 @@ const QVector<const ShellCommandGroup*>& nShellGroups::all()
 {
     static const QVector<const ShellCommandGroup*> groups{
         &TableCommands::group(), &ParameterCommands::group(), &FormulaCommands::group(),
-        &CsvCommands::group(),   &DeckCommands::group(),      &NameCommands::group(),
-        &PathCommands::group(),  &IpcCommands::group(),       &LogCommands::group()};
+        &HeatCommands::group(),  &CsvCommands::group(),       &DeckCommands::group(),
+        &NameCommands::group(),  &PathCommands::group(),      &IpcCommands::group(),
+        &LogCommands::group()};
     return groups;
 }
 
@@ -45,6 +47,7 @@ void nShellGroups::registerCommands()
     dispatcher.registerCommand(create<TableCommands::group>);
     dispatcher.registerCommand(create<ParameterCommands::group>);
     dispatcher.registerCommand(create<FormulaCommands::group>);
+    dispatcher.registerCommand(create<HeatCommands::group>);
     dispatcher.registerCommand(create<CsvCommands::group>);
     dispatcher.registerCommand(create<DeckCommands::group>);
     dispatcher.registerCommand(create<NameCommands::group>);

@@ -2,6 +2,7 @@
 
 #include "shelldeck.h"
 #include "shellformulas.h"
+#include "shellprocesses.h"
 #include "shelltables.h"
 
 /// What the commands of one run work on. Made once, in main; commands reach it through I(), as the
@@ -17,6 +18,7 @@ public:
 
     ShellTables tables;
     ShellFormulas parameters;
+    ShellProcesses processes;
     ShellDeck deck;
 
     void setScriptFolder(const QString& folder) { m_scriptFolder = folder; }

@@ -155,15 +155,7 @@ void TableCommands::showRows(const ShellCall& call, const kdDataTable& table, in
             cells.append(ShellCall::numberText(table.columnRef(column).value(row)));
         lines.append(cells);
     }
-    for (int column = 0; column < table.columns(); ++column) {
-        int width = 0;
-        for (const QStringList& line : qAsConst(lines))
-            width = qMax(width, line.at(column).size());
-        for (QStringList& line : lines)
-            line[column] = line.at(column).rightJustified(width);
-    }
-    for (const QStringList& line : qAsConst(lines))
-        call.show(line.join(QLatin1String("  ")));
+    call.showAligned(lines);
 }
 
 bool TableCommands::info(ShellCall& call)

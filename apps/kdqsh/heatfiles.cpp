@@ -1,0 +1,110 @@
+#include "heatcommands.h"
+#include "shellsession.h"
+
+#include <kdQCore/coHeatTreatmentDataFactory>
+#include <kdQCore/coPredefinedTableListModel>
+
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+using Xml = coHeatTreatmentData::Xml;
+
+namespace {
+
+bool write(QIODevice& device, const coHeatTreatmentData& process)
+{
+    QXmlStreamWriter writer(&device);
+    writer.setAutoFormatting(true);
+    writer.writeStartDocument();
+    Xml::Writer::writeXml(writer, process);
+    writer.writeEndDocument();
+    return !writer.hasError();
+}
+
+} // namespace
+
+bool HeatCommands::save(ShellCall& call)
+{
+    const ShellProcesses::Process process = find(call, call.text(0));
+    if (process.isNull())
+        return false;
+    QSaveFile file(call.text(1));
+    if (!file.open(QIODevice::WriteOnly) || !write(file, *process) || !file.commit())
+        return call.fail(tr("'%1' cannot be written: %2").arg(call.text(1), file.errorString()));
+    call.tell(tr("Process '%1' written to '%2'.").arg(call.text(0), call.text(1)));
+    return true;
+}
+
+bool HeatCommands::load(ShellCall& call)
+{
+    const QString name = call.count() > 1 ? call.text(2) : QFileInfo(call.text(0)).completeBaseName();
+    if ((call.count() > 1 && !isAs(call, 1)) || name.isEmpty())
+        return call.hasFailed() ? false : call.fail(tr("A name is missing after the file."));
+    QFile file(ShellSession::I().inputPath(call.text(0)));
+    if (!file.open(QIODevice::ReadOnly))
+        return call.fail(tr("'%1' cannot be read: %2").arg(file.fileName(), file.errorString()));
+    QXmlStreamReader reader(&file);
+    coHeatTreatmentData process(Xml::Reader::findField(reader));
+    nHeatTreatment::coHeatTreatmentDataFactory::setup(process);
+    if (!reader.hasError() && !process.fieldOfApplication().isValid())
+        return call.fail(tr("'%1' names no field of application that is known.").arg(call.text(0)));
+    QStringList unknownStages;
+    switch (Xml::Reader::read(reader, process, &unknownStages)) {
+    case Xml::Reader::ReadAll:
+        break;
+    case Xml::Reader::UnknownStage:
+        return call.fail(tr("'%1' has stages that the process does not know: %2.")
+                             .arg(call.text(0), unknownStages.join(QLatin1String(", "))));
+    case Xml::Reader::ReadError:
+        return call.fail(tr("'%1', line %2: %3")
+                             .arg(call.text(0), QString::number(reader.lineNumber()), reader.errorString()));
+    }
+    ShellSession::I().processes.put(name, process);
+    return true;
+}
+
+bool HeatCommands::compare(ShellCall& call)
+{
+    const ShellProcesses::Process first = find(call, call.text(0));
+    const ShellProcesses::Process second = first.isNull() ? first : find(call, call.text(1));
+    if (second.isNull())
+        return false;
+    if (*first == *second) {
+        call.show(tr("The processes are equal."));
+        return true;
+    }
+    QStringList different;
+    for (const int index : first->getStageIndices()) {
+        const Stage other = second->getStage(index);
+        if (other.isNull() || *first->getStage(index) != *other)
+            different.append(QString::number(index));
+    }
+    return call.fail(
+        first->fieldOfApplication() != second->fieldOfApplication()
+            ? tr("The processes belong to different fields of application.")
+            : tr("The processes differ in the stages %1.").arg(different.join(QLatin1String(", "))));
+}
+
+bool HeatCommands::predefined(ShellCall& call)
+{
+    const coPredefinedTableListModel model(ShellSession::I().inputPath(call.text(0)));
+    for (int row = 0; row < model.rowCount(); ++row)
+        call.show(model.index(row).data().toString());
+    if (model.rowCount() == 0)
+        call.tell(tr("No tables."));
+    return true;
+}
+
+bool HeatCommands::collect(ShellCall& call)
+{
+    const ShellProcesses::Process process = find(call, call.text(0));
+    if (process.isNull())
+        return false;
+    if (!call.is(1, "from") || !call.is(3, "to"))
+        return call.fail(tr("The folders are named by 'from FOLDER to FOLDER'."));
+    coPredefinedTableListModel model(ShellSession::I().inputPath(call.text(2)));
+    model.setProjectFolder(call.text(4));
+    return process->ensureTableCopiedToProject(&model) || call.fail(model.errorText());
+}
