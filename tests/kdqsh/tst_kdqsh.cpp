@@ -716,8 +716,8 @@ void TestKdqsh::helpStandsInTheDocumentation()
     QVERIFY(page.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(page.readAll());
     KdqshRun shell;
-    for (const QString& topic : {S(""), S("table"), S("parameter"), S("formula"), S("csv"), S("deck"),
-                                 S("name"), S("paths"), S("log")}) {
+    for (const QString& topic : {S(""), S("table"), S("parameter"), S("formula"), S("heat"), S("csv"),
+                                 S("deck"), S("name"), S("paths"), S("log")}) {
         QVERIFY(shell.runCommands(S("help ") + topic));
         QVERIFY2(text.contains(S("```\n%1```\n").arg(shell.output)), qPrintable(topic));
     }

@@ -28,6 +28,7 @@ void TestShellCompletion::initTestCase()
     m_session.tables.put(QStringLiteral("fire"), kdDataTable());
     m_session.tables.put(QStringLiteral("two words"), kdDataTable());
     m_session.parameters.put(QStringLiteral("firing"), coExpression(QStringLiteral("1")));
+    m_session.processes.put(QStringLiteral("gear"), coHeatTreatmentData());
     QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("folder")));
     for (const char* name : {"curve.csv", "cut.csv", "my file.csv", "folder/inner.csv"}) {
         QFile file(m_folder.filePath(QLatin1String(name)));
@@ -51,7 +52,8 @@ void TestShellCompletion::candidates_data()
         QTest::newRow(typed) << QString::fromLatin1(typed) << expected;
     };
     row("l", {QStringLiteral("language"), QStringLiteral("list"), QStringLiteral("log")});
-    row("h", {QStringLiteral("help"), QStringLiteral("history")});
+    row("h", {QStringLiteral("heat"), QStringLiteral("help"), QStringLiteral("history")});
+    row("heat show ge", {QStringLiteral("gear")});
     row("undo; ta", {QStringLiteral("table")});
     row("table lo", {QStringLiteral("load"), QStringLiteral("lookup")});
     row("help log e", {QStringLiteral("echo")});
