@@ -291,6 +291,213 @@
     </message>
 </context>
 <context>
+    <name>HeatCommands</name>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read: %2</source>
+        <translation>„%1“ ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>Heat treatments: the stages of a process, their settings and curves.</source>
+        <translation>Wärmebehandlungen: die Stufen eines Prozesses, ihre Einstellungen und Kurven.</translation>
+    </message>
+    <message>
+        <source>Makes a process with the stages of its field of application.</source>
+        <translation>Legt einen Prozess mit den Stufen seines Anwendungsgebiets an.</translation>
+    </message>
+    <message>
+        <source>Lists the processes, or the stages of one.</source>
+        <translation>Listet die Prozesse auf oder die Stufen eines Prozesses.</translation>
+    </message>
+    <message>
+        <source>Shows all settings of a stage.</source>
+        <translation>Zeigt alle Einstellungen einer Stufe.</translation>
+    </message>
+    <message>
+        <source>Changes settings of a stage. INPUT: VALUE UNIT, table TABLE, predefined NAME or project NAME; whole: the stage does not end early; PASS: diffusion, thermal, structural or none.</source>
+        <translation>Ändert Einstellungen einer Stufe. INPUT: VALUE UNIT, table TABLE, predefined NAME oder project NAME; whole: die Stufe endet nicht vorzeitig; PASS: diffusion, thermal, structural oder none.</translation>
+    </message>
+    <message>
+        <source>Has stages take part in the process.</source>
+        <translation>Lässt Stufen am Prozess teilnehmen.</translation>
+    </message>
+    <message>
+        <source>Leaves stages out of the process.</source>
+        <translation>Lässt Stufen aus dem Prozess weg.</translation>
+    </message>
+    <message>
+        <source>Removes a process from the session.</source>
+        <translation>Entfernt einen Prozess aus der Sitzung.</translation>
+    </message>
+    <message>
+        <source>Writes a process as XML.</source>
+        <translation>Schreibt einen Prozess als XML.</translation>
+    </message>
+    <message>
+        <source>Reads a process from its XML form.</source>
+        <translation>Liest einen Prozess aus seiner XML-Form.</translation>
+    </message>
+    <message>
+        <source>Fails where two processes differ, and says in what stages.</source>
+        <translation>Scheitert, wenn sich zwei Prozesse unterscheiden, und sagt, in welchen Stufen.</translation>
+    </message>
+    <message>
+        <source>Makes a table of the temperature over the time of the whole process.</source>
+        <translation>Legt eine Tabelle der Temperatur über der Zeit des ganzen Prozesses an.</translation>
+    </message>
+    <message>
+        <source>Makes a table of the session of the table that a stage has.</source>
+        <translation>Macht die Tabelle einer Stufe zu einer Tabelle der Sitzung.</translation>
+    </message>
+    <message>
+        <source>Lists the predefined tables of a folder.</source>
+        <translation>Listet die vordefinierten Tabellen eines Ordners auf.</translation>
+    </message>
+    <message>
+        <source>Copies the predefined tables that a process refers to into a project&apos;s folder.</source>
+        <translation>Kopiert die vordefinierten Tabellen, auf die sich ein Prozess bezieht, in den Ordner eines Projekts.</translation>
+    </message>
+    <message>
+        <source>There is no process &apos;%1&apos;; see &apos;heat new&apos;.</source>
+        <translation>Es gibt keinen Prozess „%1“; siehe „heat new“.</translation>
+    </message>
+    <message>
+        <source>There is no process &apos;%1&apos;, only %2.</source>
+        <translation>Es gibt keinen Prozess „%1“, nur %2.</translation>
+    </message>
+    <message>
+        <source>There is no stage &apos;%1&apos;, only %2.</source>
+        <translation>Es gibt keine Stufe „%1“, nur %2.</translation>
+    </message>
+    <message>
+        <source>&apos;as&apos; is missing before the new name.</source>
+        <translation>Vor dem neuen Namen fehlt „as“.</translation>
+    </message>
+    <message>
+        <source>no table</source>
+        <translation>keine Tabelle</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no field of application; possible are quenchtemper, stressrelief and casehardening.</source>
+        <translation>„%1“ ist kein Anwendungsgebiet; möglich sind quenchtemper, stressrelief und casehardening.</translation>
+    </message>
+    <message>
+        <source>Process &apos;%1&apos;: %2, %3 stages, %4.</source>
+        <translation>Prozess „%1“: %2, %3 Stufen, %4.</translation>
+    </message>
+    <message>
+        <source>No processes.</source>
+        <translation>Keine Prozesse.</translation>
+    </message>
+    <message>
+        <source>stage</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>start</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>rate</source>
+        <translation>Rate</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>No enabled stage of process &apos;%1&apos; takes time and has a temperature.</source>
+        <translation>Keine aktive Stufe des Prozesses „%1“ dauert eine Zeit und hat eine Temperatur.</translation>
+    </message>
+    <message>
+        <source>The stage has no input &apos;%1&apos;.</source>
+        <translation>Die Stufe hat keine Eingabe „%1“.</translation>
+    </message>
+    <message>
+        <source>Stage %1 has no table for &apos;%2&apos;.</source>
+        <translation>Stufe %1 hat keine Tabelle für „%2“.</translation>
+    </message>
+    <message>
+        <source>Process &apos;%1&apos; written to &apos;%2&apos;.</source>
+        <translation>Prozess „%1“ in „%2“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>A name is missing after the file.</source>
+        <translation>Nach der Datei fehlt ein Name.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names no field of application that is known.</source>
+        <translation>„%1“ nennt kein bekanntes Anwendungsgebiet.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has stages that the process does not know: %2.</source>
+        <translation>„%1“ hat Stufen, die der Prozess nicht kennt: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, line %2: %3</source>
+        <translation>„%1“, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>The processes are equal.</source>
+        <translation>Die Prozesse sind gleich.</translation>
+    </message>
+    <message>
+        <source>The processes belong to different fields of application.</source>
+        <translation>Die Prozesse gehören zu verschiedenen Anwendungsgebieten.</translation>
+    </message>
+    <message>
+        <source>The processes differ in the stages %1.</source>
+        <translation>Die Prozesse unterscheiden sich in den Stufen %1.</translation>
+    </message>
+    <message>
+        <source>No tables.</source>
+        <translation>Keine Tabellen.</translation>
+    </message>
+    <message>
+        <source>The folders are named by &apos;from FOLDER to FOLDER&apos;.</source>
+        <translation>Die Ordner werden mit „from FOLDER to FOLDER“ genannt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no unit of the quantity &apos;%2&apos;.</source>
+        <translation>„%1“ ist keine Einheit der Größe „%2“.</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos; has not two columns, the second in a unit of the quantity &apos;%2&apos;.</source>
+        <translation>Tabelle „%1“ hat nicht zwei Spalten, die zweite in einer Einheit der Größe „%2“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no pass; possible are diffusion, thermal, structural and none.</source>
+        <translation>„%1“ ist kein Durchlauf; möglich sind diffusion, thermal, structural und none.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither above nor below.</source>
+        <translation>„%1“ ist weder above noch below.</translation>
+    </message>
+</context>
+<context>
     <name>IpcCommands</name>
     <message>
         <source>Messages between processes on this machine.</source>
