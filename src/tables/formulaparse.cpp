@@ -15,11 +15,14 @@ namespace {
 
 constexpr uint replacementCharacter = 0xfffd;
 
-// QString::toUtf8 would make half a surrogate pair a question mark, which is an operator.
-QString withoutLoneSurrogates(QString text)
+// QString::toUtf8 would make half a surrogate pair a question mark, which is an operator. To the scanner all
+// bytes beyond ASCII may belong to a name, so a blank beyond ASCII would hide the keyword in front of it.
+QString scannable(QString text)
 {
     for (int i = 0; i < text.size(); ++i) {
-        if (text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate())
+        if (text.at(i).unicode() > 0x7f && text.at(i).isSpace())
+            text[i] = QLatin1Char(' ');
+        else if (text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate())
             ++i;
         else if (text.at(i).isSurrogate())
             text[i] = QChar(replacementCharacter);
@@ -89,7 +92,7 @@ QStringList expectedTexts(const std::vector<FormulaToken>& expected)
 } // namespace
 
 FormulaParse::FormulaParse(const QString& text)
-    : m_text(withoutLoneSurrogates(text).toUtf8()), m_tree(std::make_unique<FormulaTree>())
+    : m_text(scannable(text).toUtf8()), m_tree(std::make_unique<FormulaTree>())
 {
 }
 
@@ -124,18 +127,6 @@ std::size_t FormulaParse::nameLength(const char* bytes, std::size_t size)
         }
         const std::size_t character = characterLength(bytes + length, size - length);
         if (!isNamePart(codePoint(bytes + length, character), length == 0))
-            break;
-        length += character;
-    }
-    return length;
-}
-
-std::size_t FormulaParse::wideBlankLength(const char* bytes, std::size_t size)
-{
-    std::size_t length = 0;
-    while (length < size) {
-        const std::size_t character = characterLength(bytes + length, size - length);
-        if (!QChar::isSpace(codePoint(bytes + length, character)))
             break;
         length += character;
     }

@@ -34,8 +34,6 @@ public:
     void shorten(std::size_t length) { m_tokenEnd = m_tokenBegin + length; }
     /// Of the UTF-8 bytes: how many at the front make a name; 0 where they do not begin one.
     static std::size_t nameLength(const char* bytes, std::size_t size);
-    /// Length of the white space beyond ASCII at the front; 0 where there is none.
-    static std::size_t wideBlankLength(const char* bytes, std::size_t size);
     static std::size_t characterLength(const char* bytes, std::size_t size);
     static double number(const char* bytes, std::size_t size);
     /// The name of \a size bytes that begins \a skipped bytes into the token.
@@ -61,7 +59,6 @@ private:
     };
 
     std::pair<int, int> lineAndColumn() const;
-    QString tokenText() const;
 
     QByteArray m_text; // UTF-8, as the scanner reads it
     std::size_t m_tokenBegin = 0;

@@ -52,6 +52,7 @@ private Q_SLOTS:
         row("1e-400", "0", 0);
         row("x\n\t+ y", "(x + y)", 5);
         row("x\302\240*\342\200\257y", "(x * y)", 6); // no-break spaces
+        row("x and\302\240not\342\200\203y", "(x and not y)", 0);
         row("x-y-z", "((x - y) - z)", -6);
         row("x/y/z", "((x / y) / z)", 2.0 / 3.0 / 5.0);
         row("x+y*z", "(x + (y * z))", 17);
