@@ -90,8 +90,10 @@ QString coCheckAndCorrectName::wrapTextForPreferredLength(const QString& text, i
         return text;
     QString result;
     result.reserve(text.size() + text.size() / length);
+    int end = -1; // of the line that start stands in: looked for once a line, which may be very long
     for (int start = 0; start < text.size();) {
-        const int end = endOfLine(text, start);
+        if (start > end)
+            end = endOfLine(text, start);
         const int piece = endOfPiece(text, start, end, length);
         result += text.midRef(start, piece - start);
         start = piece;
