@@ -87,17 +87,14 @@ private Q_SLOTS:
         QCOMPARE(coObjectName::isValidInternalName(text), isValid);
         const QString pattern = QRegularExpression::anchoredPattern(coObjectName::regExpNamePattern());
         QCOMPARE(QRegularExpression(pattern).match(text).hasMatch(), isValid);
+        const bool offends = text.left(1).contains(coObjectName::negatedFirstCharNameRegExp())
+            || text.mid(1).contains(coObjectName::negatedFollowUpCharsNameRegExp());
+        QCOMPARE(!text.isEmpty() && !offends, isValid);
         coObjectName name(text, QStringLiteral("former"));
         QCOMPARE(name.setInternalName(text, true), isValid);
         QCOMPARE(name.internalName(), isValid ? text : QStringLiteral("former"));
         QVERIFY(!name.setInternalName(repeated('a', 21), true));
         QVERIFY(name.setInternalName(text, false));
-    }
-
-    void patterns()
-    {
-        QCOMPARE(coObjectName::negatedFirstCharNameRegExp().pattern(), QStringLiteral("[^a-zA-Z\\d]"));
-        QCOMPARE(coObjectName::negatedFollowUpCharsNameRegExp().pattern(), QStringLiteral("[^a-zA-Z\\d\\-]"));
     }
 
     void counters_data()
@@ -141,15 +138,8 @@ private Q_SLOTS:
         const auto s = [](const char* text) { return QString::fromUtf8(text); };
         row("free", s("A-7"), s("A"), false, false, s("A-7"));
         row("case is ignored", s("part"), s("Part"), false, false, s("part-2"));
-        row("gap", s("A"), s("A-4 A-2 A"), false, false, s("A-3"));
-        row("own counter first", s("A-2"), s("A-2 A-3"), false, false, s("A-4"));
         row("counter 0", s("A-0"), s("A-0"), false, false, s("A-2"));
-        row("forced", s("A"), QString(), false, true, s("A-1"));
-        row("forced, own counter is free", s("A-5"), s("A"), false, true, s("A-5"));
         row("leading zeros are another name", s("A"), s("A A-02"), false, false, s("A-2"));
-        row("cut", repeated('a', 20), repeated('A', 20), true, false, repeated('a', 18) + s("-2"));
-        row("cut once more", s("abcdefghijklmnopqr-9"), s("abcdefghijklmnopqr-9 abcdefghijklmnopq-10"), true,
-            false, s("abcdefghijklmnopq-11"));
         const QString pair = repeated('a', 17) + s("\xf0\x9f\x98\x80-");
         row("no surrogate pair is split", pair, pair, true, false, repeated('a', 17) + s("-2"));
         row("beyond an int", s("X-2147483647"), s("X-2147483647"), false, false, s("X-2147483648"));

@@ -32,6 +32,7 @@ QString repeated(const char* text, int count)
 
 } // namespace
 
+/// What the random formulas of tst_coexpression_reference do not reach.
 class TestExpression : public QObject {
     Q_OBJECT
 
@@ -53,39 +54,13 @@ private Q_SLOTS:
         row("x\n\t+ y", "(x + y)", 5);
         row("x\302\240*\342\200\257y", "(x * y)", 6); // no-break spaces
         row("x and\302\240not\342\200\203y", "(x and not y)", 0);
-        row("x-y-z", "((x - y) - z)", -6);
-        row("x/y/z", "((x / y) / z)", 2.0 / 3.0 / 5.0);
-        row("x+y*z", "(x + (y * z))", 17);
         row("x^y^x", "(x^(y^x))", 512);
-        row("x**y", "(x^y)", 8);
         row("-x^2", "-(x^2)", -4);
         row("x^-2", "(x^-2)", .25);
         row("x^-y^0", "(x^-(y^0))", .5);
-        row("-x*y", "(-x * y)", -6);
         row("--x", "--x", 2);
         row("+x-+y", "(x - y)", -1);
-        row("x<y", "(x < y)", 1);
-        row("x<=2", "(x <= 2)", 1);
-        row("x>y", "(x > y)", 0);
-        row("x>=3", "(x >= 3)", 0);
-        row("x==2", "(x == 2)", 1);
-        row("x!=2", "(x != 2)", 0);
-        row("x+1<y+1", "((x + 1) < (y + 1))", 1);
-        row("(x<y)<z", "((x < y) < z)", 1);
-        row("x and 0 or z", "(x and 0) or z", 1);
-        row("x && 0 || 0", "(x and 0) or 0", 0);
-        row("0 or x and z", "0 or (x and z)", 1);
-        row("not x == y", "not (x == y)", 1);
-        row("!x == y", "(not x == y)", 0);
-        row("!0 + 1", "(not 0 + 1)", 2);
-        row("not not x", "not not x", 1);
-        row("not x and 0", "(not x and 0)", 0);
         row("1 + not 0", "(1 + not 0)", 2);
-        row("if(x>y) x else y", "if((x > y)) x else y", 3);
-        row("if (x<y) x+1 else y+1", "if((x < y)) (x + 1) else (y + 1)", 3);
-        row("x<y ? x : y", "if((x < y)) x else y", 2);
-        row("0 ? 1 : 0 ? 2 : 3", "if(0) 1 else if(0) 2 else 3", 3);
-        row("1 ? 0 ? 1 : 2 : 3", "if(1) if(0) 1 else 2 else 3", 2);
         row("1 + if(0) 1 else 2 + 3", "(1 + if(0) 1 else (2 + 3))", 6);
         row("if(0) 1 else 0 or z", "if(0) 1 else 0 or z", 1);
         row("f(x)", "f(x)", 4);
@@ -96,18 +71,9 @@ private Q_SLOTS:
         row("if(1) x else 1/0", "if(1) x else (1 / 0)", 2);
         row("sin(90)", "sin(90)", 1);
         row("deg(pi)", "deg(pi)", 180);
-        row("rad(180)", "rad(180)", 3.141592653589793);
         row("asin(1)", "asin(1)", 90);
-        row("acos(-1)", "acos(-1)", 180);
-        row("atan(1)", "atan(1)", 45);
-        row("cos(180)", "cos(180)", -1);
-        row("ln(e)", "ln(e)", 1);
-        row("lg(1000)", "lg(1000)", 3);
-        row("sinh(0)+cosh(0)+tanh(0)+tan(0)", "(((sinh(0) + cosh(0)) + tanh(0)) + tan(0))", 1);
         row("round(-2.5)", "round(-2.5)", -3);
         row("round(0.49999999999999994)", "round(0.49999999999999994)", 0);
-        row("floor(-0.5)+ceil(1.5)", "(floor(-0.5) + ceil(1.5))", 1);
-        row("sqrt(abs(-4))", "sqrt(abs(-4))", 2);
         row("\303\244*y", "(\303\244 * y)", 21); // a letter beyond ASCII
         row("_x1", "_x1", 11);
     }
@@ -161,12 +127,9 @@ private Q_SLOTS:
         row("if 1 2 else 3", "Line 1, column 4", "'1'", "\"(\"");
         row("1 ? 2", "Line 1, column 6", "the end of the formula", "an operator or \":\"");
         row("a = b", "Line 1, column 3", "'='", after);
-        row("a & b", "Line 1, column 3", "'&'", after);
         row("\303\244\303\266 $", "Line 1, column 4", "'$'", after); // columns are characters
         row("x\302\262", "Line 1, column 2", "'\302\262'", after);   // superscript two
         row("a < b < c", "Line 1, column 7", "'<'",
-            "an operator other than a comparison (comparisons do not chain) or the end of the formula");
-        row("a == b != c", "Line 1, column 8", "'!='",
             "an operator other than a comparison (comparisons do not chain) or the end of the formula");
         row("1 \x07", "Line 1, column 3", "'U+0007'", after);
     }
@@ -212,25 +175,17 @@ private Q_SLOTS:
         };
         row("1/0", "Division by zero.", "(1 / 0)", "(1 / 0)");
         row("0/0", "Division by zero.", "(0 / 0)", "(0 / 0)");
-        row("1e300/1e-300", "Division by zero.", "(1e+300 / 1e-300)", "(1e+300 / 1e-300)");
         row("nan/x", "Division by zero.", "(nan / x)", "(nan / 2)");
         row("1 + x / (y - 3) * z", "Division by zero.", "(x / (y - 3))", "(2 / (3 - 3))");
         row("sqrt(-1)", "Domain error.", "sqrt(-1)", "sqrt(-1)");
         row("sqrt(x - y) + 1/0", "Domain error.", "sqrt((x - y))", "sqrt((2 - 3))");
-        row("asin(x)", "Domain error.", "asin(x)", "asin(2)");
-        row("ln(-x)", "Domain error.", "ln(-x)", "ln(-2)");
         row("(-x)^0.5", "Domain error.", "(-x^0.5)", "(-2^0.5)");
         row("lg(0)", "Range error.", "lg(0)", "lg(0)");
         row("(x-x)^-1", "Range error.", "((x - x)^-1)", "((2 - 2)^-1)");
-        row("10^400", "Range error.", "(10^400)", "(10^400)");
         row("10^-400", "Range error.", "(10^-400)", "(10^-400)");
-        row("1e308*10", "Range error.", "(1e+308 * 10)", "(1e+308 * 10)");
         row("1e308*10-1e308*10", "Range error.", "(1e+308 * 10)", "(1e+308 * 10)");
-        row("0*(1e308+1e308)", "Range error.", "(1e+308 + 1e+308)", "(1e+308 + 1e+308)");
-        row("cosh(1000)", "Range error.", "cosh(1000)", "cosh(1000)");
         row("1e999", "Range error.", "1e999", "1e999");
         row("atan(inf)", "Range error.", "inf", "inf");
-        row("if(y > x) 1/(x-2) else 0", "Division by zero.", "(1 / (x - 2))", "(1 / (2 - 2))");
         row("0 or not (1/0)", "Division by zero.", "(1 / 0)", "(1 / 0)");
         row("pi/(x-2)", "Division by zero.", "(pi / (x - 2))", "(3.141592653589793 / (2 - 2))");
         row("g(1)", "Evaluation error.", "g(1)", "g(1)");
@@ -319,31 +274,6 @@ private Q_SLOTS:
         QVERIFY(expression.evaluate(&value));
         QCOMPARE(value, -7.0);
         QVERIFY(expression.isVariableBuiltIn(0) && expression.isFunctionBuiltIn(0));
-    }
-
-    void nanCountsAsTrue_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::newRow("n and 1") << 1.0;
-        QTest::newRow("1 and n") << 1.0;
-        QTest::newRow("n or 1/0") << 1.0;
-        QTest::newRow("0 or n") << 1.0;
-        QTest::newRow("not n") << 0.0;
-        QTest::newRow("if(n) 1 else 2") << 1.0;
-        QTest::newRow("n != n") << 1.0;
-        QTest::newRow("n == n") << 0.0;
-        QTest::newRow("n <= n") << 0.0;
-        QTest::newRow("if(n < 1) 1 else 2") << 2.0;
-        QTest::newRow("n^0") << 1.0;
-    }
-
-    void nanCountsAsTrue()
-    {
-        coExpression expression(QString::fromLatin1(QTest::currentDataTag()));
-        expression.setVariable(0, std::nan(""));
-        double value = -1.0;
-        QVERIFY2(expression.evaluate(&value), qPrintable(expression.errorDetails()));
-        QTEST(value, "value");
     }
 
     // Whatever goes wrong around it, and however often the evaluation has to look again.
@@ -483,20 +413,6 @@ private Q_SLOTS:
         const coExpression again(expression.toString());
         QCOMPARE(again.toString(), expression.toString());
         QVERIFY(isValid || !expression.errorDetails().isEmpty());
-    }
-
-    void manyNames()
-    {
-        QStringList terms;
-        for (int i = 0; i < 20000; ++i)
-            terms << QStringLiteral("v%1").arg(i);
-        coExpression expression(terms.join(QLatin1Char('+')));
-        QCOMPARE(expression.nbVariables(), 20000);
-        for (int i = 0; i < 20000; ++i)
-            expression.setVariable(i, 1.0);
-        double value = 0.0;
-        QVERIFY(expression.evaluate(&value));
-        QCOMPARE(value, 20000.0);
     }
 };
 
