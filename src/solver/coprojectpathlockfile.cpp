@@ -1,49 +1,53 @@
 #include "coprojectpathlockfile.h"
 
 #include <QDir>
-#include <QMutex>
-#include <QThread>
-#include <QWaitCondition>
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
 
 namespace {
 
-/// Touches a lock until it is lost or the thread is stopped. It runs only while the lock is held, when no
-/// tryLock() sleeps under the lock's own mutex: tryLock() then returns at once.
-class Refresher : public QThread {
+/// A thread that touches a lock until the lock is lost or the thread stopped. It runs only while the lock is
+/// held: no tryLock() then sleeps under the lock's own mutex, it returns at once.
+class Refresher {
 public:
     Refresher(coSysLockFile& lock, int interval) : m_lock(lock), m_interval(interval) { }
 
+    void start() { m_thread = std::thread(&Refresher::run, this); }
+
     void stop()
     {
+        if (!m_thread.joinable())
+            return;
         setStopping(true);
-        m_stopped.wakeAll();
-        wait();
+        m_stopped.notify_all();
+        m_thread.join();
         setStopping(false);
     }
 
-protected:
-    void run() override
+private:
+    void run()
     {
-        const QMutexLocker locker(&m_mutex);
-        while (!m_isStopping) {
-            m_stopped.wait(&m_mutex, static_cast<unsigned long>(m_interval));
-            if (!m_isStopping && !m_lock.touch() && !m_lock.isLocked())
+        std::unique_lock locker(m_mutex);
+        while (!m_stopped.wait_for(locker, m_interval, [this] { return m_isStopping; }))
+            if (!m_lock.touch() && !m_lock.isLocked())
                 return;
-        }
     }
 
-private:
     void setStopping(bool isStopping)
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard locker(m_mutex);
         m_isStopping = isStopping;
     }
 
     coSysLockFile& m_lock;
-    const int m_interval;
-    QMutex m_mutex;
-    QWaitCondition m_stopped;
+    const std::chrono::milliseconds m_interval;
+    std::mutex m_mutex;
+    std::condition_variable m_stopped;
     bool m_isStopping = false;
+    std::thread m_thread;
 };
 
 } // namespace
@@ -57,8 +61,9 @@ struct coProjectPathLockFile::Private {
 
     const QString folder;
     const int interval;
-    /// Makes taking and releasing one step each; held while tryLock() sleeps, so the refresher never waits on it.
-    QMutex taking;
+    /// Makes taking and releasing one step each; held while tryLock() sleeps, so the refresher never waits on
+    /// it.
+    std::mutex taking;
     coSysLockFile lock;
     Refresher refresher;
 };
@@ -120,7 +125,7 @@ bool coProjectPathLockFile::lock()
 
 bool coProjectPathLockFile::tryLock(int timeoutMs)
 {
-    const QMutexLocker locker(&d->taking);
+    const std::lock_guard locker(d->taking);
     if (d->lock.isLocked())
         return true;
     d->refresher.stop(); // of a lock that was lost
@@ -132,7 +137,7 @@ bool coProjectPathLockFile::tryLock(int timeoutMs)
 
 void coProjectPathLockFile::unlock()
 {
-    const QMutexLocker locker(&d->taking);
+    const std::lock_guard locker(d->taking);
     d->refresher.stop();
     d->lock.unlock();
 }

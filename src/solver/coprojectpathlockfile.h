@@ -10,15 +10,16 @@
 ///     refuse(owner.userName, owner.hostName);
 /// \endcode
 ///
-/// While it holds the lock, a thread of its own touches the lock file every refreshInterval() milliseconds, so
-/// the application needs no event loop and may be busy for as long as it likes. A lost lock (the machine slept,
-/// the network was away) is logged, and isLocked() is false from the next refresh on: look at it before results
-/// are kept.
+/// While it holds the lock, a thread of its own touches the lock file every refreshInterval() milliseconds,
+/// so the application needs no event loop and may be busy for as long as it likes. A lost lock (the machine
+/// slept, the network was away) is logged, and isLocked() is false from the next refresh on: look at it
+/// before results are kept.
 ///
 /// Thread-safe; one object is one owner to all threads.
 class KDQCORE_EXPORT coProjectPathLockFile {
 public:
-    /// In milliseconds: a third of the age at which a lock may be broken, so that a late refresh costs nothing.
+    /// In milliseconds: a third of the age at which a lock may be broken, so that a late refresh costs
+    /// nothing.
     static constexpr int lockFileRefreshInterval() { return coSysLockFile::defaultStaleLockTime / 3; }
     /// "kaldoran.lock"
     static QString lockFileName();

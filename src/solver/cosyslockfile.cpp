@@ -8,9 +8,9 @@
 #include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QThread>
 
+#include <mutex>
 #include <optional>
 
 using nPlatform::ExclusiveFile;
@@ -33,7 +33,7 @@ struct coSysLockFile::Private {
     QString absolutePath() const;
     QString guardPath() const { return absolutePath() + QStringLiteral(".rmlock"); }
 
-    QRecursiveMutex mutex;
+    std::recursive_mutex mutex;
     const QString path;
     QString heldPath; ///< of the lock file; a relative path may mean another one by now
     ExclusiveFile file;
@@ -47,7 +47,8 @@ QString coSysLockFile::Private::absolutePath() const
 {
     if (isLocked)
         return heldPath;
-    return QDir::toNativeSeparators(QDir::isAbsolutePath(path) ? path : QDir::current().absoluteFilePath(path));
+    return QDir::toNativeSeparators(QDir::isAbsolutePath(path) ? path
+                                                               : QDir::current().absoluteFilePath(path));
 }
 
 coSysLockFile::LockError coSysLockFile::Private::attempt()
@@ -112,7 +113,8 @@ bool coSysLockFile::Private::removeOwnFile()
 void coSysLockFile::Private::reportLoss() const
 {
     KD_LOG(kdLog::Error, kdLog::General,
-           QStringLiteral("The lock '%1' has been lost: another process broke it, as it was not refreshed in time.")
+           QStringLiteral(
+               "The lock '%1' has been lost: another process broke it, as it was not refreshed in time.")
                .arg(absolutePath()));
 }
 
@@ -137,7 +139,8 @@ bool coSysLockFile::Private::breakStaleLock()
     if (!countsAsStale(lookAtLock()))
         return false;
     std::optional<coSysLockFile> guard;
-    // A guard whose own guard's name would be too long has none, or its owner's crash would leave it for good.
+    // A guard whose own guard's name would be too long has none, or its owner's crash would leave it for
+    // good.
     if (nPlatform::isLengthAllowed(guardPath())) {
         guard.emplace(guardPath());
         guard->d->isGuard = true;
@@ -162,25 +165,25 @@ QString coSysLockFile::path() const
 
 void coSysLockFile::setStaleLockTime(int milliseconds)
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     d->staleLockTime = milliseconds;
 }
 
 int coSysLockFile::staleLockTime() const
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     return d->staleLockTime;
 }
 
 bool coSysLockFile::isLocked() const
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     return d->isLocked;
 }
 
 bool coSysLockFile::getLockInfo(Info* info) const
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     const FileSnapshot lock = d->lookAtLock();
     return lock.isRead && lockRecord::read(lock.content, *info);
 }
@@ -192,7 +195,7 @@ bool coSysLockFile::lock()
 
 bool coSysLockFile::tryLock(int timeoutMs)
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     if (d->isLocked)
         return true;
     QElapsedTimer timer;
@@ -221,7 +224,7 @@ bool coSysLockFile::tryLock(int timeoutMs)
 
 void coSysLockFile::unlock()
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     if (!d->isLocked)
         return;
     if (!d->removeOwnFile())
@@ -232,7 +235,7 @@ void coSysLockFile::unlock()
 
 bool coSysLockFile::touch()
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     if (!d->isLocked)
         return false;
     if (d->file.hasLostItsName()) {
@@ -252,12 +255,12 @@ bool coSysLockFile::touch()
 
 bool coSysLockFile::removeStaleLockFile()
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     return !d->isLocked && d->breakStaleLock();
 }
 
 coSysLockFile::LockError coSysLockFile::error() const
 {
-    const QMutexLocker locker(&d->mutex);
+    const std::lock_guard locker(d->mutex);
     return d->error;
 }

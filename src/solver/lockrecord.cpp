@@ -1,9 +1,9 @@
 #include "lockrecord_p.h"
-
 #include "platform.h"
 
 #include <QCoreApplication>
-#include <QMutex>
+
+#include <mutex>
 
 namespace {
 
@@ -46,11 +46,11 @@ void assignText(const QByteArray& key, const QString& value, coSysLockFile::Info
 QByteArray lockRecord::ofThisProcess()
 {
     // By process id: a copy that the system made of this process is another owner.
-    static QMutex mutex;
+    static std::mutex mutex;
     static qint64 describedId = 0;
     static QByteArray fixed;
     const qint64 id = QCoreApplication::applicationPid();
-    const QMutexLocker lock(&mutex);
+    const std::lock_guard lock(mutex);
     if (id != describedId) {
         fixed = fixedLines(nPlatform::processFacts(id));
         describedId = id;
