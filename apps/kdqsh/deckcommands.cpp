@@ -109,7 +109,7 @@ bool DeckCommands::open(ShellCall& call)
             return call.fail(
                 tr("'%1' is no layout; possible are fixed, free, standard, extended.").arg(call.text(i)));
     }
-    if (!deck.open(call.text(0), format, mode))
+    if (!deck.open(call.text(0), format, mode, ShellSession::I().locks))
         return call.fail(deck.errorText());
     return true;
 }

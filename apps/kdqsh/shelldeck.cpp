@@ -1,5 +1,8 @@
 #include "shelldeck.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 ShellDeck::~ShellDeck()
 {
     if (isOpen())
@@ -7,17 +10,41 @@ ShellDeck::~ShellDeck()
 }
 
 bool ShellDeck::open(const QString& path, CFEDatLineWriter::datFormat format,
-                     CFEDatLineWriter::datExtensionMode mode)
+                     CFEDatLineWriter::datExtensionMode mode, ShellLocks& locks)
 {
     m_file.setFileName(path);
+    if (!lockFolder(locks))
+        return false;
     if (!m_file.open(QIODevice::WriteOnly)) {
         m_errorText = tr("The deck '%1' cannot be opened for writing: %2").arg(path, m_file.errorString());
+        m_lock.reset();
         return false;
     }
     m_stream = std::make_unique<QTextStream>(&m_file);
     m_writer = std::make_unique<CFEDatLineWriter>(mode, format);
     m_writer->setFileHandler(m_stream.get());
     return true;
+}
+
+bool ShellDeck::lockFolder(ShellLocks& locks)
+{
+    const QFileInfo file(path());
+    const bool isDevice = file.exists() && !file.isFile();
+    if (isDevice || !file.dir().exists())
+        return true; // nothing to guard; what is missing shows when the file is opened
+    m_lock = locks.of(file.absolutePath());
+    if (m_lock->tryLock(0))
+        return true;
+    m_errorText = ShellLocks::refusal(*m_lock);
+    m_lock.reset();
+    return false;
+}
+
+/// False where somebody else may have written in the folder meanwhile.
+bool ShellDeck::releaseFolder()
+{
+    const ShellLocks::Lock lock = std::move(m_lock);
+    return lock == nullptr || lock->touch();
 }
 
 bool ShellDeck::flush()
@@ -30,12 +57,18 @@ bool ShellDeck::flush()
 
 bool ShellDeck::close()
 {
-    const bool isWritten = flush();
+    bool isWritten = flush();
     m_writer.reset();
     m_stream.reset();
     m_file.close();
     if (isWritten && m_file.error() != QFileDevice::NoError) {
         m_errorText = tr("The deck '%1' cannot be written: %2").arg(path(), m_file.errorString());
+        isWritten = false;
+    }
+    if (!releaseFolder() && isWritten) {
+        m_errorText = tr("The deck '%1' is written, but its folder's lock was lost to another process, which "
+                         "may have written there too.")
+                          .arg(path());
         return false;
     }
     return isWritten;

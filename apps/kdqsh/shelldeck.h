@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shelllocks.h"
+
 #include <kdQCore/CFEDatLineWriter>
 
 #include <QCoreApplication>
@@ -8,7 +10,7 @@
 
 #include <memory>
 
-/// The deck that a session writes, with its file and its writer.
+/// The deck that a session writes, with its file and its writer. While it is open, its folder is locked.
 class ShellDeck {
     Q_DECLARE_TR_FUNCTIONS(ShellDeck)
 
@@ -23,7 +25,7 @@ public:
 
     // These return false with errorText() set.
     bool open(const QString& path, CFEDatLineWriter::datFormat format,
-              CFEDatLineWriter::datExtensionMode mode);
+              CFEDatLineWriter::datExtensionMode mode, ShellLocks& locks);
     bool flush();
     /// Also closes where the last bytes cannot be written.
     bool close();
@@ -39,6 +41,10 @@ public:
     bool goBackTo(const Mark& mark);
 
 private:
+    bool lockFolder(ShellLocks& locks);
+    bool releaseFolder();
+
+    ShellLocks::Lock m_lock; ///< none where the deck is a device or a pipe
     QFile m_file;
     std::unique_ptr<QTextStream> m_stream;
     std::unique_ptr<CFEDatLineWriter> m_writer;

@@ -5,6 +5,7 @@
 #include "formulacommands.h"
 #include "heatcommands.h"
 #include "ipccommands.h"
+#include "lockcommands.h"
 #include "logcommands.h"
 #include "namecommands.h"
 #include "parametercommands.h"
@@ -29,7 +30,7 @@ const QVector<const ShellCommandGroup*>& nShellGroups::all()
         &TableCommands::group(), &ParameterCommands::group(), &FormulaCommands::group(),
         &HeatCommands::group(),  &CsvCommands::group(),       &DeckCommands::group(),
         &NameCommands::group(),  &PathCommands::group(),      &IpcCommands::group(),
-        &LogCommands::group()};
+        &LockCommands::group(),  &LogCommands::group()};
     return groups;
 }
 
@@ -53,5 +54,6 @@ void nShellGroups::registerCommands()
     dispatcher.registerCommand(create<NameCommands::group>);
     dispatcher.registerCommand(create<PathCommands::group>);
     dispatcher.registerCommand(create<IpcCommands::group>);
+    dispatcher.registerCommand(create<LockCommands::group>);
     dispatcher.registerCommand(create<LogCommands::group>);
 }

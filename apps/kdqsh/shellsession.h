@@ -2,6 +2,7 @@
 
 #include "shelldeck.h"
 #include "shellformulas.h"
+#include "shelllocks.h"
 #include "shellprocesses.h"
 #include "shelltables.h"
 
@@ -18,6 +19,7 @@ public:
 
     ShellTables tables;
     ShellFormulas parameters;
+    ShellLocks locks;
     ShellProcesses processes;
     ShellDeck deck;
 

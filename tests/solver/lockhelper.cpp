@@ -1,9 +1,9 @@
 // A process that takes locks, for tests of what happens between processes. Log lines go to standard error.
 // Usage: lockhelper take PATH             one attempt; prints the error
-//        lockhelper hold PATH             takes the lock, prints the error, releases it when standard input ends
-//        lockhelper abandon PATH          takes the lock and ends without releasing it
-//        lockhelper count PATH FILE N     adds N to the number in FILE, one by one, each under the lock
-//        lockhelper churn PATH FILE       takes and releases for ever, and ends only if it was not alone
+//        lockhelper hold PATH             takes the lock, prints the error, releases it when standard input
+//        ends lockhelper abandon PATH          takes the lock and ends without releasing it lockhelper count
+//        PATH FILE N     adds N to the number in FILE, one by one, each under the lock lockhelper churn PATH
+//        FILE       takes and releases for ever, and ends only if it was not alone
 
 #include <kdQCore/coSysLockFile>
 

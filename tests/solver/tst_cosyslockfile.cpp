@@ -165,8 +165,8 @@ private Q_SLOTS:
         QTest::newRow("empty, old") << QByteArray() << 40 << 30000 << true;
         QTest::newRow("no number") << recordWith({{"PID", "0x"}}) << 0 << 30000 << false;
         QTest::newRow("lines to skip, blanks, CR, a repeated key")
-            << QByteArray("PID=1\r\nnone\r\n=5\r\n" + recordWith({{"PID", "0\t "}}).replace('\n', "\r\n")) << 0
-            << 0 << true;
+            << QByteArray("PID=1\r\nnone\r\n=5\r\n" + recordWith({{"PID", "0\t "}}).replace('\n', "\r\n"))
+            << 0 << 0 << true;
         QTest::newRow("endless") << QByteArray("PID=0\n" + QByteArray(100000, '\n')) << 0 << 30000 << false;
     }
 
@@ -265,8 +265,8 @@ private Q_SLOTS:
         };
         QTest::newRow("full disk") << inNamespace(mounted + text("head -c 8192 /dev/zero > %1/full") + helper)
                                    << 3;
-        QTest::newRow("read-only disk") << inNamespace(mounted + text("mount -o remount,ro none %1") + helper)
-                                        << 3;
+        QTest::newRow("read-only disk")
+            << inNamespace(mounted + text("mount -o remount,ro none %1") + helper) << 3;
     }
 
     void faultsOfTheSystem()
@@ -279,7 +279,8 @@ private Q_SLOTS:
             QSKIP("not possible on this system");
         QVERIFY(QFile::setPermissions(folder, QFile::Permissions(0x7755)));
         if (wrapper.size() == 5)
-            wrapper.last().replace(text("exec"), text("\"$0\" \"$@\"; status=$?; ls %1 >&2; exit $status; : "))
+            wrapper.last()
+                .replace(text("exec"), text("\"$0\" \"$@\"; status=$?; ls %1 >&2; exit $status; : "))
                 .replace(text("%1"), folder);
         Helper helper({text("take"), folder + text("/x.lock")}, wrapper);
         QVERIFY(helper.ends());

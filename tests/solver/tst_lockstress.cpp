@@ -65,8 +65,9 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("counter")});
     }
 
-    // Two processes compete without end; one of them at a time dies in the middle of it, and another takes its
-    // place. None of them ever finds that it is not alone. At times both die, and this process takes the lock.
+    // Two processes compete without end; one of them at a time dies in the middle of it, and another takes
+    // its place. None of them ever finds that it is not alone. At times both die, and this process takes the
+    // lock.
     void killedOwnersNeverKeepTheLock()
     {
         const int kills = isLong() ? 200 : 20;
