@@ -549,6 +549,85 @@
     </message>
 </context>
 <context>
+    <name>LockCommands</name>
+    <message>
+        <source>SECONDS must be 0 to 1000000, not %1.</source>
+        <translation>SECONDS muss von 0 bis 1000000 sein, nicht %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for the lock of &apos;%1&apos;</source>
+        <translation>Warten auf die Sperre von &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>Who may write in a project folder.</source>
+        <translation>Wer in einem Projektordner schreiben darf.</translation>
+    </message>
+    <message>
+        <source>Locks a folder until &apos;lock release&apos; or the end; waits for another owner if told to.</source>
+        <translation>Sperrt einen Ordner bis &apos;lock release&apos; oder zum Ende; wartet auf Wunsch auf einen anderen Besitzer.</translation>
+    </message>
+    <message>
+        <source>Keeps a folder locked for a time; locks it for that time where it is not locked yet.</source>
+        <translation>Hält einen Ordner eine Zeit lang gesperrt; sperrt ihn für diese Zeit, wo er noch nicht gesperrt ist.</translation>
+    </message>
+    <message>
+        <source>Shows who holds the lock of a folder.</source>
+        <translation>Zeigt, wer die Sperre eines Ordners hält.</translation>
+    </message>
+    <message>
+        <source>Ends the lock that &apos;lock take&apos; made.</source>
+        <translation>Beendet die Sperre, die &apos;lock take&apos; gesetzt hat.</translation>
+    </message>
+    <message>
+        <source>Removes a lock whose owner has died or is long silent.</source>
+        <translation>Entfernt eine Sperre, deren Besitzer nicht mehr lebt oder lange stumm ist.</translation>
+    </message>
+    <message>
+        <source>Folder &apos;%1&apos; locked.</source>
+        <translation>Ordner &apos;%1&apos; gesperrt.</translation>
+    </message>
+    <message>
+        <source>Holding the lock of &apos;%1&apos;</source>
+        <translation>Halten der Sperre von &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>The lock of &apos;%1&apos; was lost to another process.</source>
+        <translation>Die Sperre von &apos;%1&apos; ging an einen anderen Prozess verloren.</translation>
+    </message>
+    <message>
+        <source>Folder &apos;%1&apos; is not locked.</source>
+        <translation>Ordner &apos;%1&apos; ist nicht gesperrt.</translation>
+    </message>
+    <message>
+        <source>Folder &apos;%1&apos; is locked by %2, refreshed %3 s ago.</source>
+        <translation>Ordner &apos;%1&apos; ist von %2 gesperrt, aufgefrischt vor %3 s.</translation>
+    </message>
+    <message>
+        <source>an owner that cannot be read</source>
+        <translation>einem Besitzer, der nicht lesbar ist</translation>
+    </message>
+    <message>
+        <source>Folder &apos;%1&apos; has not been locked by &apos;lock take&apos;.</source>
+        <translation>Ordner &apos;%1&apos; wurde nicht mit &apos;lock take&apos; gesperrt.</translation>
+    </message>
+    <message>
+        <source>Folder &apos;%1&apos; released.</source>
+        <translation>Ordner &apos;%1&apos; freigegeben.</translation>
+    </message>
+    <message>
+        <source>Folder &apos;%1&apos; stays locked for the open deck.</source>
+        <translation>Ordner &apos;%1&apos; bleibt für das offene Deck gesperrt.</translation>
+    </message>
+    <message>
+        <source>Stale lock of folder &apos;%1&apos; removed.</source>
+        <translation>Veraltete Sperre des Ordners &apos;%1&apos; entfernt.</translation>
+    </message>
+    <message>
+        <source>The lock of &apos;%1&apos; is not stale: %2 holds it.</source>
+        <translation>Die Sperre von &apos;%1&apos; ist nicht veraltet: sie gehört %2.</translation>
+    </message>
+</context>
+<context>
     <name>LogCommands</name>
     <message>
         <source>A severity is 0 to 6, not %1.</source>
@@ -850,6 +929,10 @@
         <source>The deck &apos;%1&apos; cannot be written: %2</source>
         <translation>Das Deck „%1“ lässt sich nicht schreiben: %2</translation>
     </message>
+    <message>
+        <source>The deck &apos;%1&apos; is written, but its folder&apos;s lock was lost to another process, which may have written there too.</source>
+        <translation>Das Deck &apos;%1&apos; ist geschrieben, aber die Sperre seines Ordners ging an einen anderen Prozess verloren, der dort ebenfalls geschrieben haben kann.</translation>
+    </message>
 </context>
 <context>
     <name>ShellFormulas</name>
@@ -906,6 +989,29 @@
     <message>
         <source>The input ends within a continued line.</source>
         <translation>Die Eingabe endet in einer fortgesetzten Zeile.</translation>
+    </message>
+</context>
+<context>
+    <name>ShellLocks</name>
+    <message>
+        <source>%1 on %2 (%3, process %4)</source>
+        <translation>%1 auf %2 (%3, Prozess %4)</translation>
+    </message>
+    <message>
+        <source>You have no permission to lock the folder &apos;%1&apos;.</source>
+        <translation>Sie dürfen den Ordner &apos;%1&apos; nicht sperren.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; cannot be locked; the log says why.</source>
+        <translation>Der Ordner &apos;%1&apos; kann nicht gesperrt werden; den Grund nennt das Protokoll.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; is locked; by whom cannot be read.</source>
+        <translation>Der Ordner &apos;%1&apos; ist gesperrt; von wem, ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; is locked by %2.</source>
+        <translation>Der Ordner &apos;%1&apos; ist von %2 gesperrt.</translation>
     </message>
 </context>
 <context>
@@ -1455,6 +1561,36 @@ der ausgewertet lautet:
     </message>
 </context>
 <context>
+    <name>coSntpClient</name>
+    <message>
+        <source>Invalid date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>coSocketMessage</name>
+    <message>
+        <source>The message is too long!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Empty message!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No tag separator found!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No message ID found!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid message signature!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>coTableCSVWriter</name>
     <message>
         <source>Table: </source>
@@ -1474,6 +1610,29 @@ der ausgewertet lautet:
     <message>
         <source>Element &apos;%1&apos; cannot be read.</source>
         <translation>Element „%1“ ist nicht lesbar.</translation>
+    </message>
+</context>
+<context>
+    <name>coTcpSocket</name>
+    <message>
+        <source>The socket&apos;s own thread cannot wait for the socket.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The socket is being destroyed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid session ID!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The socket is not connected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operation timed out.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
