@@ -116,26 +116,21 @@ private Q_SLOTS:
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("inUse");
         QTest::addColumn<QString>("left");
+        const auto row = [](const char* title, qint64 maxSize, int mode, const char* inUse,
+                            const char* left) {
+            QTest::newRow(title) << maxSize << mode << QString::fromLatin1(inUse)
+                                 << QString::fromLatin1(left);
+        };
         const int used = coCache::eLeastRecentlyUsed;
         const int loaded = coCache::eLeastRecentlyLoaded;
-        QTest::newRow("all fit") << qint64(40) << used << ""
-                                 << "abcd";
-        QTest::newRow("one too many, by use") << qint64(39) << used << ""
-                                              << "acd";
-        QTest::newRow("one too many, by load") << qint64(39) << loaded << ""
-                                               << "bcd";
-        QTest::newRow("unknown mode goes by use") << qint64(39) << 7 << ""
-                                                  << "acd";
-        QTest::newRow("two too many, by use") << qint64(20) << used << ""
-                                              << "ad";
-        QTest::newRow("first is in use") << qint64(20) << used << "b"
-                                         << "ab";
-        QTest::newRow("above the maximum") << qint64(5) << used << "bd"
-                                           << "bd";
-        QTest::newRow("nothing may stay") << qint64(0) << used << ""
-                                          << "";
-        QTest::newRow("negative maximum") << qint64(-1) << loaded << "c"
-                                          << "c";
+        row("all fit", 40, used, "", "abcd");
+        row("one too many, by use", 39, used, "", "acd");
+        row("one too many, by load", 39, loaded, "", "bcd");
+        row("unknown mode goes by use", 39, 7, "", "acd");
+        row("first is in use", 20, used, "b", "ab");
+        row("above the maximum", 5, used, "bd", "bd");
+        row("nothing may stay", 0, used, "", "");
+        row("negative maximum", -1, loaded, "c", "c");
     }
 
     // Loaded in the order a, b, c, d; a is used once more at the end.
