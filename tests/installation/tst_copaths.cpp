@@ -59,6 +59,7 @@ private Q_SLOTS:
 void TestCoPaths::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
+    m_folder->setAutoRemove(false);
     QVERIFY(makeFolders({S("root"), S("settings")}));
     qputenv("KALDORAN_BASEPATH", QFile::encodeName(path(S("root"))));
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path(S("settings")));
@@ -71,6 +72,7 @@ void TestCoPaths::cleanup()
     coPaths::setDefaultExecutable(QString());
     if (coPaths::created())
         coPaths::removeInstance();
+    kdqRemoveFolder(m_folder->path());
 }
 
 void TestCoPaths::basePath_data()
