@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-ShellCall::ShellCall(const kdReporterInterface& reporter, const QStringList& arguments)
+ShellCall::ShellCall(kdReporterInterface& reporter, const QStringList& arguments)
     : m_reporter(reporter), m_arguments(arguments)
 {
 }

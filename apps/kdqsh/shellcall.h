@@ -13,7 +13,7 @@ class ShellCall {
     Q_DECLARE_TR_FUNCTIONS(ShellCall)
 
 public:
-    ShellCall(const kdReporterInterface& reporter, const QStringList& arguments);
+    ShellCall(kdReporterInterface& reporter, const QStringList& arguments);
 
     int count() const { return m_arguments.size(); }
     /// Empty beyond the last argument.
@@ -30,7 +30,7 @@ public:
     /// A number as results show it.
     static QString numberText(double value);
 
-    const kdReporterInterface& reporter() const { return m_reporter; }
+    kdReporterInterface& reporter() const { return m_reporter; }
     /// What the user asked for.
     void show(const QString& text) const;
     /// Rows of a table, its columns right-aligned; every row has the cells of the first.
@@ -44,7 +44,7 @@ public:
     bool hasFailed() const { return m_hasFailed; }
 
 private:
-    const kdReporterInterface& m_reporter;
+    kdReporterInterface& m_reporter;
     QStringList m_arguments;
     mutable bool m_hasFailed = false;
 };

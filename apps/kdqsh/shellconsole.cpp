@@ -22,19 +22,28 @@ ShellConsole::ShellConsole()
 
 void ShellConsole::message(const QString& text, int level)
 {
-    if (level > m_maximalLevel)
-        return;
-    eraseBar();
-    m_out << text << Qt::endl;
+    if (level <= m_maximalLevel)
+        showMessage(text, level);
 }
 
 void ShellConsole::error(const QString& text)
 {
     ++m_errorCount;
+    const QString line = text.simplified();
+    showError(m_place.isEmpty() ? line : QStringLiteral("%1: %2").arg(m_place, line));
+}
+
+void ShellConsole::showMessage(const QString& text, int)
+{
+    eraseBar();
+    m_out << text << Qt::endl;
+}
+
+void ShellConsole::showError(const QString& line)
+{
     eraseBar();
     m_out.flush();
-    const QString line = text.simplified();
-    m_err << (m_place.isEmpty() ? line : QStringLiteral("%1: %2").arg(m_place, line)) << Qt::endl;
+    m_err << line << Qt::endl;
 }
 
 void ShellConsole::startOperation(const QString& text)

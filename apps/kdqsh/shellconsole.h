@@ -17,6 +17,7 @@ public:
     enum Level { Result = 0, Account = 1 };
 
     ShellConsole();
+    virtual ~ShellConsole() = default;
     ShellConsole(const ShellConsole&) = delete;
     ShellConsole& operator=(const ShellConsole&) = delete;
 
@@ -33,10 +34,15 @@ public:
     void error(const QString& text);
     int errorCount() const { return m_errorCount; }
 
+protected:
+    // Where it all goes: here to the standard streams.
+    virtual void showMessage(const QString& text, int level);
+    virtual void showError(const QString& line);
+    virtual void startOperation(const QString& text);
+    virtual void showProgress(double fraction);
+    virtual void finishOperation(const QString& text);
+
 private:
-    void startOperation(const QString& text);
-    void showProgress(double fraction);
-    void finishOperation(const QString& text);
     void eraseBar();
 
     kdReporter m_reporter;

@@ -10,7 +10,10 @@
 #include "namecommands.h"
 #include "parametercommands.h"
 #include "pathcommands.h"
+#include "remotecommands.h"
 #include "tablecommands.h"
+#include "tcpcommands.h"
+#include "timecommands.h"
 
 #include <kdQCore/kdCommandDispatcher>
 
@@ -27,10 +30,11 @@ QSharedPointer<kdCommand> create(const QString& parameters)
 const QVector<const ShellCommandGroup*>& nShellGroups::all()
 {
     static const QVector<const ShellCommandGroup*> groups{
-        &TableCommands::group(), &ParameterCommands::group(), &FormulaCommands::group(),
-        &HeatCommands::group(),  &CsvCommands::group(),       &DeckCommands::group(),
-        &NameCommands::group(),  &PathCommands::group(),      &IpcCommands::group(),
-        &LockCommands::group(),  &LogCommands::group()};
+        &TableCommands::group(),  &ParameterCommands::group(), &FormulaCommands::group(),
+        &HeatCommands::group(),   &CsvCommands::group(),       &DeckCommands::group(),
+        &NameCommands::group(),   &PathCommands::group(),      &TcpCommands::group(),
+        &RemoteCommands::group(), &IpcCommands::group(),       &TimeCommands::group(),
+        &LockCommands::group(),   &LogCommands::group()};
     return groups;
 }
 
@@ -53,7 +57,10 @@ void nShellGroups::registerCommands()
     dispatcher.registerCommand(create<DeckCommands::group>);
     dispatcher.registerCommand(create<NameCommands::group>);
     dispatcher.registerCommand(create<PathCommands::group>);
+    dispatcher.registerCommand(create<TcpCommands::group>);
+    dispatcher.registerCommand(create<RemoteCommands::group>);
     dispatcher.registerCommand(create<IpcCommands::group>);
+    dispatcher.registerCommand(create<TimeCommands::group>);
     dispatcher.registerCommand(create<LockCommands::group>);
     dispatcher.registerCommand(create<LogCommands::group>);
 }

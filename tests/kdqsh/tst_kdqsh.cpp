@@ -274,6 +274,15 @@ void TestKdqsh::errors_data()
     row("product that does not listen", S("ipc listen mesh"),
         S("ipc listen: 'mesh' is no product that listens; possible are: forming, welding, joining, jes, "
           "material, additive."));
+    row("no connection", S("tcp send x"),
+        S("tcp send: There is no connection; see 'tcp serve' and 'tcp connect'."));
+    row("no port", S("tcp connect localhost 0"), S("tcp connect: A port is 1 to 65535, not 0."));
+    row("no address", S("remote serve address here"),
+        S("remote serve: 'here' is no address of the form 127.0.0.1 or ::1."));
+    row("name without an address", S("tcp connect no.invalid 1"),
+        S("tcp connect: Cannot connect to no.invalid, port 1: The name has no address."));
+    row("no timeout", S("tcp serve timeout 0"),
+        S("tcp serve: A timeout is more than 0 and up to 1000000 seconds, not 0."));
     row("no time", S("ipc listen jes seconds 0"), S("ipc listen: 'seconds' must be from 1 to 86400, not 0."));
     row("no deck", S("deck title x"), S("deck title: No deck is open; see 'deck open'."));
     row("wrong layout", S("deck open a.dat wide"),
