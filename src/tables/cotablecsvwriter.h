@@ -6,7 +6,8 @@
 /// Writes a table: its name and comment, the titles of its columns with their units, its rows.
 ///
 /// A column whose dimension has a unit chosen (setUnitIndex()) is converted to it, any other keeps its own.
-/// With coCSVWriter::TitleRow the file is one that kdDataTable::importFromTextStream() reads back.
+/// With coCSVWriter::TitleRow the file is one that kdDataTable::importFromTextStream() reads back, unless a
+/// decimal comma meets commas as separators or a table of one column: there a comma may mean either.
 ///
 /// \code
 /// coTableCSVWriter writer(table);

@@ -30,6 +30,12 @@ QStringView unquoted(QStringView field)
     return field;
 }
 
+// Of a field without its quotation marks: one inside is doubled.
+QString nameOf(QStringView field)
+{
+    return field.toString().replace(QLatin1String("\"\""), QString(quote));
+}
+
 void appendField(QStringView field, QVector<QStringView>& fields)
 {
     fields.append(unquoted(field));
@@ -87,7 +93,7 @@ QStringList splitHeader(const QString& line, Function isSeparator)
             result.last().append(c);
     }
     for (QString& field : result)
-        field = unquoted(field).toString();
+        field = nameOf(unquoted(field));
     return result;
 }
 
@@ -144,7 +150,7 @@ QStringList plainHeaderFields(const QString& line, const Separator& separator)
     split(line, separator, views);
     QStringList result;
     for (const QStringView& view : qAsConst(views))
-        result.append(view.toString());
+        result.append(nameOf(view));
     return result;
 }
 

@@ -124,6 +124,7 @@ private Q_SLOTS:
         QTest::newRow("row of units") << "temperature;yield stress\ndegC;MPa\n1;2" << usual;
         QTest::newRow("row of units in brackets") << "temperature;yield stress\n[degC];[MPa]\n1;2" << usual;
         QTest::newRow("quoted") << "\"temperature [degC]\",\"yield stress [MPa]\"\n1,2" << usual;
+        QTest::newRow("doubled quotation marks") << "\"1/2\"\" bar\";b\n1;2" << texts({"1/2\" bar:-", "b:-"});
         QTest::newRow("blanks") << "temperature [degC] yield stress [MPa]\n1 2" << usual;
         QTest::newRow("two blanks and more") << "temperature [degC]   yield stress [MPa]\n1 2" << usual;
         QTest::newRow("header with semicolons, values with blanks")
