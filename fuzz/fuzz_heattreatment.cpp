@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <vector>
 
 using Reader = coHeatTreatmentData::Xml::Reader;
 
@@ -24,9 +25,16 @@ void require(bool condition)
 
 coHeatTreatmentData factoryMade(int field)
 {
-    coHeatTreatmentData data{nHeatTreatment::e_FieldOfApplication(field)};
-    nHeatTreatment::coHeatTreatmentDataFactory::setup(data);
-    return data;
+    static const std::vector<coHeatTreatmentData> processes = [] {
+        std::vector<coHeatTreatmentData> result;
+        for (const int made :
+             {nHeatTreatment::QuenchTemper, nHeatTreatment::StressRelief, nHeatTreatment::CaseHardening}) {
+            result.emplace_back(nHeatTreatment::e_FieldOfApplication(made));
+            nHeatTreatment::coHeatTreatmentDataFactory::setup(result.back());
+        }
+        return result;
+    }();
+    return processes.at(std::size_t(field));
 }
 
 QByteArray written(const coHeatTreatmentData& data)

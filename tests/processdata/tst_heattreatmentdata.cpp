@@ -86,44 +86,31 @@ private Q_SLOTS:
         }
     }
 
-    void enumerations_data()
-    {
-        QTest::addColumn<bool>("isField");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("displayName");
-        QTest::newRow("-1") << true << -1 << "Invalid"
-                            << "Invalid";
-        QTest::newRow("0") << true << 0 << "QuenchTemper"
-                           << "Quench temper";
-        QTest::newRow("1") << true << 1 << "WlStressRelief"
-                           << "Stress relief";
-        QTest::newRow("2") << true << 2 << "CaseHardening"
-                           << "Case hardening";
-        QTest::newRow("3") << true << 3 << ""
-                           << "";
-        QTest::newRow("none") << false << 0 << "none"
-                              << "No pass";
-        QTest::newRow("diffusion") << false << 1 << "diffusion"
-                                   << "Diffusion pass";
-        QTest::newRow("thermal") << false << 2 << "thermal"
-                                 << "Thermal pass";
-        QTest::newRow("structural") << false << 4 << "structural"
-                                    << "Structural pass";
-    }
     void enumerations()
     {
-        QFETCH(bool, isField);
-        QFETCH(int, value);
-        QFETCH(QString, name);
-        const coEnumData& rows = isField ? FieldOfApplicationEnumData : AnalysisPassFlagEnumData;
-        coEnum entry(rows, value);
-        QCOMPARE(entry.name(), name);
-        QTEST(entry.displayName(), "displayName");
-        QCOMPARE(entry.isValid(), value >= 0 && !name.isEmpty());
-        coEnum byName(rows, 1);
-        QCOMPARE(byName.setName(name), !name.isEmpty());
-        QCOMPARE(byName == entry, !name.isEmpty());
+        const QMap<int, QStringList> fields{
+            {-1, {QStringLiteral("Invalid"), QStringLiteral("Invalid")}},
+            {0, {QStringLiteral("QuenchTemper"), QStringLiteral("Quench temper")}},
+            {1, {QStringLiteral("WlStressRelief"), QStringLiteral("Stress relief")}},
+            {2, {QStringLiteral("CaseHardening"), QStringLiteral("Case hardening")}},
+            {3, {QString(), QString()}}};
+        const QMap<int, QStringList> passes{
+            {0, {QStringLiteral("none"), QStringLiteral("No pass")}},
+            {1, {QStringLiteral("diffusion"), QStringLiteral("Diffusion pass")}},
+            {2, {QStringLiteral("thermal"), QStringLiteral("Thermal pass")}},
+            {4, {QStringLiteral("structural"), QStringLiteral("Structural pass")}},
+            {8, {QString(), QString()}}};
+        for (const auto& [rows, names] : {std::make_pair(&FieldOfApplicationEnumData, fields),
+                                          std::make_pair(&AnalysisPassFlagEnumData, passes)}) {
+            for (const int value : names.keys()) {
+                coEnum byName(*rows, 99);
+                const bool isNamed = byName.setName(names[value].first());
+                QCOMPARE((QStringList{coEnum(*rows, value).name(), coEnum(*rows, value).displayName()}),
+                         names[value]);
+                QCOMPARE(byName.value(), isNamed ? value : 99);
+                QCOMPARE(coEnum(*rows, value).isValid(), isNamed && value != -1);
+            }
+        }
     }
 
     // Every stage of every field can run at once: it takes time, computes something, and the kinds fit.
