@@ -218,7 +218,8 @@ void coIpcController::processGreeting(const coIpcGreetingMessage* greeting)
     d->peerProgram = greeting->program();
     d->peerPid = greeting->pid();
     d->peerVersion = greeting->version();
-    KD_LOG(kdLog::Trace, kdLog::InterProcessCom, QLatin1String("Greeting received: ") + clientName());
+    kdLog::write(kdLog::Trace, kdLog::InterProcessCom, "coipccontroller", __LINE__,
+                 QLatin1String("Greeting received: ") + clientName());
 }
 
 void coIpcController::sendGreeting()

@@ -149,8 +149,9 @@ SocketReply coTcpSocket::request(const Post& post)
 bool coTcpSocket::connectToHost(const QHostAddress& address, quint16 port)
 {
     const Turn turn(*d);
-    if (state() != QAbstractSocket::UnconnectedState)
-        disconnectFromHost();
+    // Not through state() and disconnectFromHost(), which would take the last error away.
+    if (handOver([this] { Q_EMIT op_state(); }).result != QAbstractSocket::UnconnectedState)
+        handOver([this] { Q_EMIT op_disconnectFromHost(); });
     const QString text = address.toString();
     const SocketReply reply = handOver([&] { Q_EMIT op_connectToHost(text, port, QIODevice::ReadWrite); });
     if (reply.success) {

@@ -17,12 +17,11 @@ struct SocketReply;
 /// \code
 /// coTcpSocket socket;
 /// socket.setTimeout(5000);
+/// connect(&socket, &coTcpSocket::signalError, &window, &Window::warn); // nobody there, or a bad line
 /// QString answer;
 /// if (socket.connectToHost(QHostAddress(QHostAddress::LocalHost), port)
 ///     && socket.sendSignedLine(QStringLiteral("status?")) && socket.readSignedLine(answer))
 ///     show(answer);
-/// else
-///     warn(socket.errorString());
 /// \endcode
 ///
 /// The serving side accepts with QTcpServer::incomingConnection() and hands the descriptor to

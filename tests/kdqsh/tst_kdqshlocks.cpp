@@ -63,7 +63,8 @@ void TestKdqshLocks::commands_data()
     const QString none;
     QTest::newRow("take, show, release")
         << S("lock show .; lock take .; lock show .; lock release .; lock show .")
-        << S("Folder '*' is not locked.\nFolder '*' locked.\nFolder '*' is locked by * on * (kdqsh, process *), "
+        << S("Folder '*' is not locked.\nFolder '*' locked.\nFolder '*' is locked by * on * (kdqsh, process "
+             "*), "
              "refreshed * s ago.\nFolder '*' released.\nFolder '*' is not locked.\n")
         << none;
     QTest::newRow("a deck in a folder locked by hand")
@@ -78,8 +79,10 @@ void TestKdqshLocks::commands_data()
         << S("*lock break: The lock of '*' is not stale: * (kdqsh, process *) holds it.\n");
     QTest::newRow("nothing to break") << S("lock break .") << none << S("*Folder '*' is not locked.\n");
     QTest::newRow("not taken") << S("lock release .") << none << S("*has not been locked by 'lock take'.\n");
-    QTest::newRow("missing folder") << S("lock take no") << none << S("*cannot be locked; the log says why.\n");
-    QTest::newRow("no time") << S("lock hold . soon") << none << S("*SECONDS must be a number, not 'soon'.\n");
+    QTest::newRow("missing folder") << S("lock take no") << none
+                                    << S("*cannot be locked; the log says why.\n");
+    QTest::newRow("no time") << S("lock hold . soon") << none
+                             << S("*SECONDS must be a number, not 'soon'.\n");
     QTest::newRow("negative time") << S("lock take . wait -1") << none << S("*SECONDS must be 0 to 1000000*");
 }
 
@@ -91,10 +94,9 @@ void TestKdqshLocks::commands()
     KdqshRun shell;
     QVERIFY(shell.runCommands(commands));
     const auto matches = [](const QString& text, const QString& pattern) {
-        return QRegularExpression(
-                   QRegularExpression::anchoredPattern(
-                       QRegularExpression::escape(pattern).replace(S("\\*"), S(".*"))),
-                   QRegularExpression::DotMatchesEverythingOption)
+        return QRegularExpression(QRegularExpression::anchoredPattern(
+                                      QRegularExpression::escape(pattern).replace(S("\\*"), S(".*"))),
+                                  QRegularExpression::DotMatchesEverythingOption)
             .match(text)
             .hasMatch();
     };
@@ -109,8 +111,8 @@ void TestKdqshLocks::openDeckKeepsOthersOut()
     OtherShell other(shell);
     QVERIFY(other.runs("deck open a.dat; deck comment kept; deck flush"));
     const auto isRefused = [&shell](const QString& commands) {
-        return shell.runCommands(commands) && shell.status == 1
-            && shell.errors.contains(S(" is locked by ")) && shell.errors.contains(S("(kdqsh, process "));
+        return shell.runCommands(commands) && shell.status == 1 && shell.errors.contains(S(" is locked by "))
+            && shell.errors.contains(S("(kdqsh, process "));
     };
     QVERIFY2(isRefused(S("deck open a.dat")), qPrintable(shell.errors));
     QVERIFY2(isRefused(S("deck open b.dat")), qPrintable(shell.errors));
