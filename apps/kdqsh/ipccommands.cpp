@@ -81,15 +81,18 @@ bool IpcCommands::listen(ShellCall& call)
 
     Session session(seconds);
     int taken = 0;
+    const auto count = [&](const IpcPeer& peer) {
+        if (peer.hasGreeted() && ++taken >= greetings)
+            session.end(Done);
+    };
     QObject::connect(&server, &QLocalServer::newConnection, &server, [&] {
         QLocalSocket* const socket = server.nextPendingConnection();
         auto* const peer = new IpcPeer(socket);
         peer->setParent(socket);
         serve(call, *peer);
-        QObject::connect(socket, &QLocalSocket::disconnected, &server, [&, socket, peer] {
+        QObject::connect(socket, &QLocalSocket::disconnected, &server, [count, socket, peer] {
             socket->deleteLater();
-            if (peer->hasGreeted() && ++taken >= greetings)
-                session.end(Done);
+            count(*peer);
         });
     });
     return session.run() == Done

@@ -103,7 +103,7 @@ Q_SIGNALS:
     void disconnected();
     void readyRead();
     void bytesWritten(qint64 bytes);
-    void error(QAbstractSocket::SocketError code);
+    void error(QAbstractSocket::SocketError code); // clazy:exclude=overloaded-signal
     void hostFound();
     void stateChanged(QAbstractSocket::SocketState state);
     /// A failed connectToHost() or readSignedLine(), in the thread that called it. \a code as error().
