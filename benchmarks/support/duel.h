@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <fstream>
@@ -11,12 +12,18 @@
 
 /// Runs candidates for the same work side by side and says how many times as fast each is as another.
 ///
-/// Every candidate runs once a round, the first round is dropped. Times are processor times; a ratio is the
-/// median of the ratios within a round, so that a machine that is busy for a while does not favour anyone.
+/// Every candidate runs once a round, the first round is dropped. Times are processor times, or those of a
+/// clock where the waiting is what counts; a ratio is the median of the ratios within a round, so that a
+/// machine that is busy for a while does not favour anyone.
 class Duel {
 public:
+    enum Time { OfProcessors, OfWaiting };
+
     /// \a items is the number of pieces of work in one run; times are printed per piece.
-    Duel(std::string title, double items) : m_title(std::move(title)), m_items(items) { }
+    Duel(std::string title, double items, Time time = OfProcessors)
+        : m_title(std::move(title)), m_items(items), m_time(time)
+    {
+    }
 
     void add(const std::string& name, std::function<void()> run)
     {
@@ -27,10 +34,10 @@ public:
     {
         for (int round = -1; round < rounds; ++round)
             for (Candidate& candidate : m_candidates) {
-                const std::clock_t start = std::clock();
+                const double start = now();
                 candidate.run();
                 if (round >= 0)
-                    candidate.seconds.push_back(double(std::clock() - start) / CLOCKS_PER_SEC);
+                    candidate.seconds.push_back(now() - start);
             }
         std::printf("\n%s\n", m_title.c_str());
         for (const Candidate& candidate : m_candidates)
@@ -73,6 +80,14 @@ private:
         std::vector<double> seconds;
     };
 
+    double now() const
+    {
+        if (m_time == OfProcessors)
+            return double(std::clock()) / CLOCKS_PER_SEC;
+        using Seconds = std::chrono::duration<double>;
+        return Seconds(std::chrono::steady_clock::now().time_since_epoch()).count();
+    }
+
     static double median(std::vector<double> values)
     {
         const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
@@ -103,6 +118,7 @@ private:
 
     std::string m_title;
     double m_items;
+    Time m_time;
     std::vector<Candidate> m_candidates;
 };
 

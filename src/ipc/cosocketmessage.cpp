@@ -9,6 +9,19 @@ namespace {
 constexpr int longestPayload = 2048;
 constexpr int longestSignedPart = 2048;
 constexpr int sessionIdWidth = 6;
+constexpr int longestSessionId = 8;
+
+/// As ":%6X" prints it.
+void appendSessionId(QByteArray& line, quint32 sessionId)
+{
+    char text[longestSessionId];
+    char* begin = text + longestSessionId;
+    for (; sessionId != 0 || begin == text + longestSessionId; sessionId >>= 4)
+        *--begin = "0123456789ABCDEF"[sessionId & 15];
+    while (begin > text + longestSessionId - sessionIdWidth)
+        *--begin = ' ';
+    line.append(':').append(begin, int(text + longestSessionId - begin));
+}
 
 /// The number that \a text begins with, after blanks; nothing where there is none of 32 bits.
 std::optional<quint32> leadingHexNumber(const QByteArray& text)
@@ -37,16 +50,15 @@ bool coSocketMessage::encode(QByteArray message)
     if (message.size() > longestPayload)
         return fail(tr("The message is too long!"));
 
-    QByteArray line = message.left(int(qstrlen(message.constData())));
-    line.reserve(line.size() + 32);
-    line += ':';
-    line +=
-        QByteArray::number(static_cast<quint32>(m_sessionId), 16).toUpper().rightJustified(sessionIdWidth);
+    char tail[nLineSignature::digitCount + 2] = {'#'};
+    QByteArray line;
+    line.reserve(message.size() + longestSessionId + 1 + int(sizeof tail));
+    line.append(message.constData()); // to its first zero byte
+    appendSessionId(line, static_cast<quint32>(m_sessionId));
     line.truncate(longestSignedPart);
-    const QByteArray signature = nLineSignature::sign(line);
-    line += '#';
-    line += signature;
-    line += '\n';
+    nLineSignature::sign(line, tail + 1);
+    tail[sizeof tail - 1] = '\n';
+    line.append(tail, sizeof tail);
 
     m_message = message;
     m_signedMessage = line;

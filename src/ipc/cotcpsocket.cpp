@@ -263,6 +263,11 @@ bool coTcpSocket::sendSignedLines(const QStringList& lines)
 /// Appends the signed lines to \a bytes.
 bool coTcpSocket::encode(const QStringList& lines, QByteArray& bytes)
 {
+    constexpr int extra = 24; // the most that a session id and a signature add
+    int size = 0;
+    for (const QString& line : lines)
+        size += line.size() + extra;
+    bytes.reserve(size);
     coSocketMessage message;
     message.setSessionId(sessionId());
     for (const QString& line : lines) {

@@ -50,13 +50,11 @@ std::optional<quint64> number(const QByteArray& digits)
 
 } // namespace
 
-QByteArray nLineSignature::sign(const QByteArray& signedPart)
+void nLineSignature::sign(const QByteArray& signedPart, char* digits)
 {
     quint64 value = nSpeck::encrypted(folded(signedPart), familyKeys);
-    QByteArray digits(digitCount, Qt::Uninitialized);
     for (int i = digitCount; i-- > 0; value >>= 5)
         digits[i] = digitTexts[value & 31];
-    return digits;
 }
 
 bool nLineSignature::verify(const QByteArray& signedPart, const QByteArray& digits)

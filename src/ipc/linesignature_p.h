@@ -9,8 +9,8 @@ namespace nLineSignature {
 
 constexpr int digitCount = 13;
 
-/// Thirteen base-32 digits, "0" to "9" and "A" to "V".
-QByteArray sign(const QByteArray& signedPart);
+/// Writes thirteen base-32 digits, "0" to "9" and "A" to "V".
+void sign(const QByteArray& signedPart, char* digits);
 
 /// \a digits: exactly thirteen characters, letters in either case.
 bool verify(const QByteArray& signedPart, const QByteArray& digits);

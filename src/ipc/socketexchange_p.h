@@ -4,6 +4,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -22,6 +23,8 @@ class SocketExchange {
 public:
     static constexpr int defaultTimeout = 60000; // ms
 
+    enum Next { Soon, Later };
+
     /// Counts a caller in; false once close() was called.
     bool enter();
     void leave();
@@ -35,12 +38,15 @@ public:
     {
         std::unique_lock<std::mutex> lock(m_mutex);
         m_reply.reset();
+        m_isPosted.store(true, std::memory_order_relaxed);
         post();
         m_condition.wait(lock, [this] { return m_reply || m_isClosing; });
         return std::exchange(m_reply, std::nullopt);
     }
 
-    void reply(SocketReply&& reply);
+    /// Ends the pending call. Where the caller's \a next request is likely to follow at once, it stays for a
+    /// moment: waking this thread up again costs more than the moment does.
+    void reply(SocketReply&& reply, Next next);
 
     /// Takes and gives the lock. What one thread did before it is seen by the one that passes later; without
     /// it, tools that do not see the locks inside Qt would take these for races.
@@ -50,9 +56,12 @@ public:
     void setTimeout(int milliseconds);
 
 private:
+    void awaitNextRequest() const;
+
     mutable std::mutex m_mutex;
     std::condition_variable m_condition;
     std::optional<SocketReply> m_reply;
+    std::atomic<bool> m_isPosted{false};
     int m_timeout = defaultTimeout;
     int m_callers = 0;
     bool m_isClosing = false;

@@ -1,11 +1,15 @@
 #include "threadedsocketwrapper_p.h"
 
+#include <QEvent>
 #include <QNetworkProxy>
 
 namespace {
 
 /// A peer that sends faster than anyone reads must not fill the memory.
 constexpr qint64 readAhead = 16 * 1024 * 1024;
+
+/// Who has written no more than this mostly reads the answer next; who writes more prepares the next block.
+constexpr int longestQuestion = 2100;
 
 } // namespace
 
@@ -59,16 +63,20 @@ void coTcpSocket::ThreadedSocketWrapper::forward(const QMetaMethod& signal, QGen
 /// A request was posted under the exchange's lock.
 bool coTcpSocket::ThreadedSocketWrapper::event(QEvent* event)
 {
-    m_exchange.pass();
-    return QObject::event(event);
+    const int timeout = m_exchange.timeout();
+    const bool isRequest = event->type() == QEvent::MetaCall; // another one may delete this object
+    const bool isTaken = QObject::event(event);
+    if (isRequest && m_pending != None && !m_timer.isActive()) // it has to wait
+        m_timer.start(timeout);
+    return isTaken;
 }
 
 void coTcpSocket::ThreadedSocketWrapper::begin(e_Operation operation)
 {
     m_pending = operation;
+    m_next = SocketExchange::Soon;
     m_reply = SocketReply();
     m_readSize = -1;
-    m_timer.start(m_exchange.timeout());
 }
 
 void coTcpSocket::ThreadedSocketWrapper::succeed()
@@ -98,7 +106,7 @@ void coTcpSocket::ThreadedSocketWrapper::end()
     m_timer.stop();
     if (m_socket.isValid()) // Qt would listen to a closed descriptor
         m_socket.setReadBufferSize(readAhead);
-    m_exchange.reply(std::move(m_reply));
+    m_exchange.reply(std::move(m_reply), m_next);
 }
 
 void coTcpSocket::ThreadedSocketWrapper::answer(const QVariant& result)
@@ -134,6 +142,8 @@ void coTcpSocket::ThreadedSocketWrapper::writeBlocking(const QByteArray& bytes)
     begin(Write);
     if (bytes.isEmpty())
         return succeed();
+    if (bytes.size() > longestQuestion)
+        m_next = SocketExchange::Later;
     if (isUnconnected() || m_socket.write(bytes) < bytes.size())
         return failWithSocketError();
     m_socket.flush();

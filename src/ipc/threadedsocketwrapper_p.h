@@ -78,6 +78,7 @@ private:
     QTcpSocket m_socket;
     QTimer m_timer;
     e_Operation m_pending = None;
+    SocketExchange::Next m_next = SocketExchange::Soon; ///< after the pending request
     qint64 m_readSize = -1;
     SocketReply m_reply;
 };

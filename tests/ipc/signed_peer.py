@@ -38,7 +38,7 @@ def encrypt(block, key):
 
 
 def signature(part):
-    digest = hashlib.sha1(part[:2048]).digest()
+    digest = hashlib.sha1(part).digest()
     number = encrypt(int.from_bytes(digest[0:19:3], "big"), KEY)
     return "".join(DIGITS[number >> 5 * i & 31] for i in reversed(range(13))).encode()
 

@@ -1,5 +1,5 @@
 #include "kdqtest.h"
-#include "linesignature_p.h"
+#include "signedpart.h"
 #include "speck_p.h"
 
 #include <kdQCore/coSocketMessage>
@@ -22,10 +22,6 @@ private:
         coSocketMessage message;
         message.setSessionId(sessionId);
         return message.encode(payload) ? message.signedMessage() : QByteArray();
-    }
-    static QByteArray signedLine(const QByteArray& signedPart)
-    {
-        return signedPart + '#' + nLineSignature::sign(signedPart) + '\n';
     }
 };
 
@@ -105,15 +101,15 @@ void tst_cosocketmessage::faults_data()
     const QByteArray good = line("status?", 0x1A2B);
     QTest::newRow("null") << QByteArray() << QStringLiteral("Empty message!");
     QTest::newRow("empty") << QByteArray("") << noTag;
-    QTest::newRow("no tag") << signedLine("status?") << noTag;
+    QTest::newRow("no tag") << signedPart("status?") << noTag;
     QTest::newRow("cut behind the tag") << line(QByteArray(2047, 'x'), 1) << noId;
-    QTest::newRow("no id") << signedLine("status?:") << noId;
-    QTest::newRow("an id of blanks") << signedLine("status?:   ") << noId;
-    QTest::newRow("an id of 33 bits") << signedLine("status?:1FFFFFFFF") << noId;
+    QTest::newRow("no id") << signedPart("status?:") << noId;
+    QTest::newRow("an id of blanks") << signedPart("status?:   ") << noId;
+    QTest::newRow("an id of 33 bits") << signedPart("status?:1FFFFFFFF") << noId;
     QTest::newRow("no signature") << QByteArray("status?:  1A2B\n") << badSignature;
     QTest::newRow("short signature") << good.left(good.size() - 2) << badSignature;
     QTest::newRow("a digit too far") << QByteArray(good).replace(good.size() - 2, 1, "W") << badSignature;
-    QTest::newRow("a 65th bit") << signedLine("a:1").replace(4, 1, "V") << badSignature;
+    QTest::newRow("a 65th bit") << signedPart("a:1").replace(4, 1, "V") << badSignature;
     QTest::newRow("another tag behind the signature") << good + "x:1" << badSignature;
 }
 
