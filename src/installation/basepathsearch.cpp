@@ -32,7 +32,7 @@ QString absoluteFolder(const QString& path)
 
 QString fromEnvironment()
 {
-    const QString path = absoluteFolder(qEnvironmentVariable("KALDORAN_BASEPATH"));
+    QString path = absoluteFolder(qEnvironmentVariable("KALDORAN_BASEPATH"));
     if (!path.isEmpty())
         KD_LOG(kdLog::Trace, kdLog::Paths,
                QStringLiteral("Kaldoran base path set to: %1 using the 'KALDORAN_BASEPATH' variable.")
@@ -44,7 +44,7 @@ QString fromCommandLine()
 {
     const QStringList all = arguments();
     const int index = all.indexOf(basePathOption());
-    const QString path = index > 0 ? absoluteFolder(all.value(index + 1)) : QString();
+    QString path = index > 0 ? absoluteFolder(all.value(index + 1)) : QString();
     if (!path.isEmpty())
         KD_LOG(kdLog::Trace, kdLog::Paths,
                QStringLiteral("Kaldoran base path set to: %1 using the '-basePath' option.").arg(path));
@@ -55,7 +55,7 @@ QString fromApplicationPath()
 {
     if (!QCoreApplication::instance())
         return QString();
-    const QString path = nearestFolderAbove(QCoreApplication::applicationDirPath(), [](const QDir& dir) {
+    QString path = nearestFolderAbove(QCoreApplication::applicationDirPath(), [](const QDir& dir) {
         return dir.dirName() == QLatin1String("kaldoran");
     });
     if (!path.isEmpty())

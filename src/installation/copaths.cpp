@@ -214,7 +214,7 @@ QString coPaths::initAndReturnScriptPath(e_Folder folder)
 
 QString coPaths::getScriptPath(e_Folder versionFolder)
 {
-    const QString scripts = below(versionFolder, QStringLiteral("/scripts"));
+    QString scripts = below(versionFolder, QStringLiteral("/scripts"));
     if (!scripts.isEmpty() && !QFileInfo(scripts).isDir())
         KD_LOG(kdLog::Notable, kdLog::Paths,
                QStringLiteral("No submit script directory in: %1.").arg(path(versionFolder)));
