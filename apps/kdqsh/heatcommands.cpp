@@ -135,7 +135,7 @@ bool HeatCommands::create(ShellCall& call)
             return false;
         coHeatTreatmentData process(field.field);
         nHeatTreatment::coHeatTreatmentDataFactory::setup(process);
-        ShellSession::I().processes.put(call.text(2), process);
+        ShellSession::I().processes.put(call.text(2), std::move(process));
         return true;
     }
     return call.fail(tr("'%1' is no field of application; possible are quenchtemper, stressrelief and "
@@ -217,14 +217,14 @@ bool HeatCommands::enableStages(ShellCall& call, bool isEnabled)
     const ShellProcesses::Process original = find(call, call.text(0));
     if (original.isNull())
         return false;
-    const coHeatTreatmentData process(*original);
+    coHeatTreatmentData process(*original);
     for (int i = 1; i < call.count(); ++i) {
         const Stage stage = findStage(call, process, call.text(i));
         if (stage.isNull())
             return false;
         stage->setEnabled(isEnabled);
     }
-    ShellSession::I().processes.put(call.text(0), process);
+    ShellSession::I().processes.put(call.text(0), std::move(process));
     return true;
 }
 

@@ -61,7 +61,7 @@ bool HeatCommands::load(ShellCall& call)
         return call.fail(tr("'%1', line %2: %3")
                              .arg(call.text(0), QString::number(reader.lineNumber()), reader.errorString()));
     }
-    ShellSession::I().processes.put(name, process);
+    ShellSession::I().processes.put(name, std::move(process));
     return true;
 }
 

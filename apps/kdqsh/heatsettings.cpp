@@ -25,11 +25,11 @@ bool HeatCommands::set(ShellCall& call)
     const ShellProcesses::Process original = find(call, call.text(0));
     if (original.isNull())
         return false;
-    const coHeatTreatmentData process(*original);
+    coHeatTreatmentData process(*original);
     const Stage stage = findStage(call, process, call.text(1));
     if (stage.isNull() || !changeStage(call, *stage))
         return false;
-    ShellSession::I().processes.put(call.text(0), process);
+    ShellSession::I().processes.put(call.text(0), std::move(process));
     return true;
 }
 

@@ -15,9 +15,9 @@ public:
     /// Null where there is none.
     Process find(const QString& name) const { return m_processes.value(name); }
     /// A process that had the name is replaced.
-    void put(const QString& name, const coHeatTreatmentData& process)
+    void put(const QString& name, coHeatTreatmentData process)
     {
-        m_processes.insert(name, Process::create(process));
+        m_processes.insert(name, Process::create(std::move(process)));
     }
     void remove(const QString& name) { m_processes.remove(name); }
 
