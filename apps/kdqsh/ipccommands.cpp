@@ -31,7 +31,12 @@ public:
     }
 
     Outcome run() { return static_cast<Outcome>(m_loop.exec()); }
-    void end(Outcome outcome) { m_loop.exit(outcome); }
+    /// The first outcome counts.
+    void end(Outcome outcome)
+    {
+        if (m_loop.isRunning())
+            m_loop.exit(outcome);
+    }
 
 private:
     QEventLoop m_loop;
@@ -137,6 +142,8 @@ bool IpcCommands::greet(ShellCall& call)
     });
     QObject::connect(&peer, &IpcPeer::signalTextReceived, &socket, [&] { session.end(Done); });
     QObject::connect(&socket, &QLocalSocket::disconnected, &socket, [&] { session.end(Closed); });
+    if (socket.state() != QLocalSocket::ConnectedState) // it went while it was being greeted
+        QTimer::singleShot(0, &socket, [&] { session.end(Closed); });
     switch (session.run()) {
     case Closed:
         return call.fail(tr("The other side closed the connection before it had answered."));

@@ -68,10 +68,10 @@ coIpcController::coIpcController(QLocalSocket* socket) : d(std::make_unique<Priv
     }
     takeEarlyMessages();
     connect(socket, &QLocalSocket::readyRead, this, &coIpcController::processData);
+    // Posted before the greeting may find the other side gone and have the application delete the controller.
+    QMetaObject::invokeMethod(this, &coIpcController::processData, Qt::QueuedConnection);
     sendGreeting();
     takeEarlyMessages();
-    if (!d->inbox.isEmpty())
-        QMetaObject::invokeMethod(this, &coIpcController::processData, Qt::QueuedConnection);
 }
 
 coIpcController::~coIpcController() = default;

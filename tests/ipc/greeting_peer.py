@@ -99,7 +99,7 @@ def test_server(sent, echoes, output, error):
         server.listen()
         thread = threading.Thread(target=serve, args=(server, sent, echoes))
         thread.start()
-        command = f"ipc greet additive {os.getpid()} say hello seconds {60 if echoes else 1}"
+        command = f"ipc greet additive {os.getpid()} say hello seconds {2 if 'within' in error else 60}"
         shell = subprocess.run([KDQSH, "-c", command], env=ENVIRONMENT, text=True, capture_output=True, timeout=60)
         thread.join()
     os.unlink(name)
@@ -110,6 +110,6 @@ test_client()
 test_server(GREETING, True, SHOWN, "")
 test_server(b"\0junk\0" + message("Unknown") + GREETING, True, SHOWN, "")
 test_server(message("Greeting", ProductId="99"), True, "Greeting received: [PID=-1] Kaldoran 0.0.0.0\n", "")
-test_server(GREETING, False, SHOWN, "No answer came within 1 s.")
-test_server(GREETING[:-1], False, "", "No answer came within 1 s.")
+test_server(GREETING, False, SHOWN, "No answer came within 2 s.")
+test_server(GREETING[:-1], False, "", "No answer came within 2 s.")
 test_server(None, False, "", "closed")
