@@ -840,6 +840,68 @@
     </message>
 </context>
 <context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>Commands that run in another shell.</source>
+        <translation>Befehle, die in einer anderen Shell laufen.</translation>
+    </message>
+    <message>
+        <source>Connects to a shell that serves.</source>
+        <translation>Verbindet mit einer Shell, die bedient.</translation>
+    </message>
+    <message>
+        <source>Runs a command, or a quoted line of several, in the other shell.</source>
+        <translation>Führt einen Befehl oder eine Zeile mehrerer in Anführungszeichen in der anderen Shell aus.</translation>
+    </message>
+    <message>
+        <source>Ends the connection.</source>
+        <translation>Beendet die Verbindung.</translation>
+    </message>
+    <message>
+        <source>This shell serves already.</source>
+        <translation>Diese Shell bedient bereits.</translation>
+    </message>
+    <message>
+        <source>Cannot accept a connection: %1</source>
+        <translation>Eine Verbindung kann nicht angenommen werden: %1</translation>
+    </message>
+    <message>
+        <source>Serving %1.</source>
+        <translation>Bedient %1.</translation>
+    </message>
+    <message>
+        <source>No shell answers there: %1</source>
+        <translation>Dort antwortet keine Shell: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1.</source>
+        <translation>Verbunden mit %1.</translation>
+    </message>
+    <message>
+        <source>The command failed.</source>
+        <translation>Der Befehl ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>The other shell does not answer: %1</source>
+        <translation>Die andere Shell antwortet nicht: %1</translation>
+    </message>
+    <message>
+        <source>There is no connection; see &apos;remote connect&apos;.</source>
+        <translation>Es besteht keine Verbindung; siehe &apos;remote connect&apos;.</translation>
+    </message>
+    <message>
+        <source>Lets other shells run commands in this one, one after the other, N in all or without end; on this machine only, unless ADDRESS says more.</source>
+        <translation>Lässt andere Shells Befehle in dieser ausführen, eine nach der anderen, insgesamt N oder ohne Ende; nur auf diesem Rechner, außer ADDRESS erlaubt mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteLink</name>
+    <message>
+        <source>The other side is no remote shell.</source>
+        <translation>Die Gegenseite ist keine entfernte Shell.</translation>
+    </message>
+</context>
+<context>
     <name>Shell</name>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
@@ -989,6 +1051,45 @@
     <message>
         <source>The input ends within a continued line.</source>
         <translation>Die Eingabe endet in einer fortgesetzten Zeile.</translation>
+    </message>
+</context>
+<context>
+    <name>ShellListener</name>
+    <message>
+        <source>&apos;%1&apos; is no address of the form 127.0.0.1 or ::1.</source>
+        <translation>&apos;%1&apos; ist keine Adresse der Form 127.0.0.1 oder ::1.</translation>
+    </message>
+    <message>
+        <source>A port is 0 to 65535, not %1.</source>
+        <translation>Ein Port ist 0 bis 65535, nicht %1.</translation>
+    </message>
+    <message>
+        <source>Cannot listen on %1, port %2: %3</source>
+        <translation>Auf %1, Port %2, kann nicht gehorcht werden: %3</translation>
+    </message>
+    <message>
+        <source>Whoever reaches %1 can connect; a signature keeps out nobody.</source>
+        <translation>Wer %1 erreicht, kann sich verbinden; eine Signatur hält niemanden fern.</translation>
+    </message>
+    <message>
+        <source>Listening on %1, port %2.</source>
+        <translation>Horcht auf %1, Port %2.</translation>
+    </message>
+    <message>
+        <source>A port is 1 to 65535, not %1.</source>
+        <translation>Ein Port ist 1 bis 65535, nicht %1.</translation>
+    </message>
+    <message>
+        <source>The name has no address.</source>
+        <translation>Der Name hat keine Adresse.</translation>
+    </message>
+    <message>
+        <source>Cannot connect to %1, port %2: %3</source>
+        <translation>Keine Verbindung mit %1, Port %2: %3</translation>
+    </message>
+    <message>
+        <source>A timeout is more than 0 and up to 1000000 seconds, not %1.</source>
+        <translation>Eine Wartezeit ist mehr als 0 und bis zu 1000000 Sekunden, nicht %1.</translation>
     </message>
 </context>
 <context>
@@ -1267,6 +1368,84 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     <message>
         <source>Table &apos;%1&apos; has no column &apos;%2&apos;; number of columns: %3.</source>
         <translation>Tabelle „%1“ hat keine Spalte „%2“; Anzahl der Spalten: %3.</translation>
+    </message>
+</context>
+<context>
+    <name>TcpCommands</name>
+    <message>
+        <source>Signed lines to and from another process over TCP.</source>
+        <translation>Signierte Zeilen an einen anderen Prozess und von ihm über TCP.</translation>
+    </message>
+    <message>
+        <source>Waits for one process to connect; on this machine only, unless ADDRESS says more.</source>
+        <translation>Wartet, bis sich ein Prozess verbindet; nur auf diesem Rechner, außer ADDRESS erlaubt mehr.</translation>
+    </message>
+    <message>
+        <source>Connects to a process that serves.</source>
+        <translation>Verbindet mit einem Prozess, der bedient.</translation>
+    </message>
+    <message>
+        <source>Sends a signed line.</source>
+        <translation>Sendet eine signierte Zeile.</translation>
+    </message>
+    <message>
+        <source>Waits for a signed line, checks and shows it.</source>
+        <translation>Wartet auf eine signierte Zeile, prüft und zeigt sie.</translation>
+    </message>
+    <message>
+        <source>Ends the connection.</source>
+        <translation>Beendet die Verbindung.</translation>
+    </message>
+    <message>
+        <source>Nobody has connected within %1 s.</source>
+        <translation>Innerhalb von %1 s hat sich niemand verbunden.</translation>
+    </message>
+    <message>
+        <source>Connected from %1, port %2.</source>
+        <translation>Verbunden von %1, Port %2.</translation>
+    </message>
+    <message>
+        <source>Connected to %1, port %2.</source>
+        <translation>Verbunden mit %1, Port %2.</translation>
+    </message>
+    <message>
+        <source>Not sent: %1</source>
+        <translation>Nicht gesendet: %1</translation>
+    </message>
+    <message>
+        <source>Nothing received: %1</source>
+        <translation>Nichts empfangen: %1</translation>
+    </message>
+    <message>
+        <source>There is no connection; see &apos;tcp serve&apos; and &apos;tcp connect&apos;.</source>
+        <translation>Es besteht keine Verbindung; siehe &apos;tcp serve&apos; und &apos;tcp connect&apos;.</translation>
+    </message>
+    <message>
+        <source>A signed line cannot hold &apos;%1&apos;, only Latin-1.</source>
+        <translation>Eine signierte Zeile kann &apos;%1&apos; nicht enthalten, nur Latin-1.</translation>
+    </message>
+</context>
+<context>
+    <name>TimeCommands</name>
+    <message>
+        <source>The time that a time server tells.</source>
+        <translation>Die Zeit, die ein Zeitserver nennt.</translation>
+    </message>
+    <message>
+        <source>Asks a time server and shows its time (UTC), and how far this machine&apos;s clock is off.</source>
+        <translation>Fragt einen Zeitserver und zeigt seine Zeit (UTC) und wie weit die Uhr dieses Rechners abweicht.</translation>
+    </message>
+    <message>
+        <source>A port is 1 to 65535, not %1.</source>
+        <translation>Ein Port ist 1 bis 65535, nicht %1.</translation>
+    </message>
+    <message>
+        <source>%1, port %2, does not tell the time: %3</source>
+        <translation>%1, Port %2, nennt keine Zeit: %3</translation>
+    </message>
+    <message>
+        <source>This machine&apos;s clock is off by %1 s.</source>
+        <translation>Die Uhr dieses Rechners weicht um %1 s ab.</translation>
     </message>
 </context>
 <context>
@@ -1564,30 +1743,30 @@ der ausgewertet lautet:
     <name>coSntpClient</name>
     <message>
         <source>Invalid date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges Datum.</translation>
     </message>
 </context>
 <context>
     <name>coSocketMessage</name>
     <message>
         <source>The message is too long!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Nachricht ist zu lang!</translation>
     </message>
     <message>
         <source>Empty message!</source>
-        <translation type="unfinished"></translation>
+        <translation>Leere Nachricht!</translation>
     </message>
     <message>
         <source>No tag separator found!</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Trennzeichen gefunden!</translation>
     </message>
     <message>
         <source>No message ID found!</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Nachrichtennummer gefunden!</translation>
     </message>
     <message>
         <source>Invalid message signature!</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Signatur der Nachricht!</translation>
     </message>
 </context>
 <context>
@@ -1616,23 +1795,23 @@ der ausgewertet lautet:
     <name>coTcpSocket</name>
     <message>
         <source>The socket&apos;s own thread cannot wait for the socket.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der eigene Thread des Sockets kann nicht auf den Socket warten.</translation>
     </message>
     <message>
         <source>The socket is being destroyed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Socket wird gerade abgebaut.</translation>
     </message>
     <message>
         <source>Invalid session ID!</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Sitzungsnummer!</translation>
     </message>
     <message>
         <source>The socket is not connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Socket ist nicht verbunden.</translation>
     </message>
     <message>
         <source>Operation timed out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitüberschreitung der Operation.</translation>
     </message>
 </context>
 <context>

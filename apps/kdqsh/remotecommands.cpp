@@ -16,8 +16,8 @@ const ShellCommandGroup& RemoteCommands::group()
         {
             {"serve", "[port PORT] [address ADDRESS] [clients N] [timeout SECONDS]",
              QT_TR_NOOP(
-                 "Lets other shells run commands in this one, one shell after the other; on this machine "
-                 "only, unless ADDRESS says more."),
+                 "Lets other shells run commands in this one, one after the other, N in all or without end; "
+                 "on this machine only, unless ADDRESS says more."),
              0, 8, Entry::Query, serve},
             {"connect", "HOST PORT [timeout SECONDS]", QT_TR_NOOP("Connects to a shell that serves."), 2, 4,
              Entry::Query, connect},
