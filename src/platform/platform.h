@@ -72,8 +72,8 @@ int terminalColumns();
 /// zone file up for every time text. Does nothing on Windows. Call it before other threads start.
 void presetTimeZone();
 
-/// Whether the system takes names and paths as long as these of \a absolutePath.
-bool isLengthAllowed(const QString& absolutePath);
+/// Whether the system takes a path and a file name of this length, with \a more ASCII characters appended.
+bool isLengthAllowed(const QString& absolutePath, int more);
 
 /// Tells a file from every other one for as long as it exists, whatever names lead to it.
 struct FileIdentity {
@@ -153,7 +153,6 @@ private:
 
     struct Handle;
     std::unique_ptr<Handle> m_handle;
-    QString m_path;
     Failure m_failure = Failure::None;
     unsigned long m_errorCode = 0;
 };

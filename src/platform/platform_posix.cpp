@@ -116,23 +116,29 @@ private:
     int m_number;
 };
 
-/// All that is there up to \a maximalSize bytes; false where there is more or the reading fails.
+/// All that is there up to \a maximalSize bytes; false where there is more or the reading fails. Files are
+/// read in one go: less than was asked for means that there is no more.
 bool readUpTo(int descriptor, int maximalSize, QByteArray& content)
 {
-    content.resize(maximalSize + 1);
-    int size = 0;
-    while (size <= maximalSize) {
-        const ssize_t count =
-            ::read(descriptor, content.data() + size, static_cast<size_t>(maximalSize + 1 - size));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0) {
-            content.truncate(size);
-            return count == 0;
-        }
-        size += static_cast<int>(count);
+    content = QByteArray(maximalSize + 1, Qt::Uninitialized);
+    ssize_t size = 0;
+    do {
+        size = ::read(descriptor, content.data(), static_cast<size_t>(maximalSize) + 1);
+    } while (size < 0 && errno == EINTR);
+    content.truncate(static_cast<int>(qMax<ssize_t>(size, 0)));
+    return size >= 0 && size <= maximalSize;
+}
+
+/// The field after \a number others; empty where there is none. Blanks are between them.
+QByteArray field(const QByteArray& line, int number)
+{
+    int start = 0;
+    for (; number > 0; --number) {
+        start = line.indexOf(' ', start) + 1;
+        if (start == 0)
+            return QByteArray();
     }
-    return false;
+    return line.mid(start, line.indexOf(' ', start) - start);
 }
 
 // Records of processes are looked at for every refused lock: QFile would take several times as long.
@@ -176,6 +182,18 @@ void describe(const struct stat& status, FileSnapshot& snapshot)
     snapshot.isFile = S_ISREG(status.st_mode);
     snapshot.identity = identityOf(status);
     snapshot.lastModified = qint64(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1000000;
+}
+
+Removal removeNamed(const QByteArray& name, const FileIdentity& identity)
+{
+    struct stat status { };
+    if (lstat(name.constData(), &status) != 0)
+        return errno == ENOENT ? Removal::Missing : Removal::Failed;
+    if (!(identityOf(status) == identity))
+        return Removal::OtherFile;
+    if (unlink(name.constData()) == 0)
+        return Removal::Done;
+    return errno == ENOENT ? Removal::Missing : Removal::Failed;
 }
 
 } // namespace
@@ -232,16 +250,18 @@ ProcessFacts processFacts(qint64 processId)
         return facts;
     const QByteArray record = processFile(processId, "stat");
     // The name in parentheses may itself hold blanks and parentheses; the fields after it may not.
-    const QList<QByteArray> fields = record.mid(record.lastIndexOf(')') + 2).split(' ');
+    const QByteArray fields = record.mid(record.lastIndexOf(')') + 2);
     constexpr int stateField = 0;
     constexpr int startTimeField = 19;
-    if (fields.size() <= startTimeField) {
+    const QByteArray startTime = field(fields, startTimeField);
+    if (startTime.isEmpty()) {
         facts.alive = kill(static_cast<pid_t>(processId), 0) == 0 || errno == EPERM;
         return facts;
     }
-    facts.alive = fields[stateField] != "Z" && fields[stateField] != "X";
+    const QByteArray state = field(fields, stateField);
+    facts.alive = state != "Z" && state != "X";
     facts.executableName = executableNameOf(processId);
-    facts.startTime = QString::fromLatin1(fields[startTimeField] + '@' + bootId());
+    facts.startTime = QString::fromLatin1(startTime + '@' + bootId());
     return facts;
 }
 
@@ -272,10 +292,14 @@ void presetTimeZone()
     tzset();
 }
 
-bool isLengthAllowed(const QString& absolutePath)
+bool isLengthAllowed(const QString& absolutePath, int more)
 {
+    constexpr int mostBytes = 4; // of a character, in whatever encoding
+    const int nameSize = absolutePath.size() - (absolutePath.lastIndexOf(QLatin1Char('/')) + 1);
+    if (nameSize * mostBytes + more <= NAME_MAX && absolutePath.size() * mostBytes + more < PATH_MAX)
+        return true;
     const QByteArray path = QFile::encodeName(absolutePath);
-    return path.size() < PATH_MAX && path.size() - (path.lastIndexOf('/') + 1) <= NAME_MAX;
+    return path.size() + more < PATH_MAX && path.size() - (path.lastIndexOf('/') + 1) + more <= NAME_MAX;
 }
 
 FileSnapshot lookAtFile(const QString& path, int maximalSize)
@@ -299,19 +323,13 @@ FileSnapshot lookAtFile(const QString& path, int maximalSize)
 
 Removal removeFile(const QString& path, const FileIdentity& identity)
 {
-    const QByteArray name = QFile::encodeName(path);
-    struct stat status { };
-    if (lstat(name.constData(), &status) != 0)
-        return errno == ENOENT ? Removal::Missing : Removal::Failed;
-    if (!(identityOf(status) == identity))
-        return Removal::OtherFile;
-    if (unlink(name.constData()) == 0)
-        return Removal::Done;
-    return errno == ENOENT ? Removal::Missing : Removal::Failed;
+    return removeNamed(QFile::encodeName(path), identity);
 }
 
 struct ExclusiveFile::Handle {
     int descriptor = -1;
+    QString name;
+    QByteArray path; ///< the same as the system takes it
 };
 
 ExclusiveFile::ExclusiveFile() : m_handle(std::make_unique<Handle>()) { }
@@ -324,9 +342,12 @@ ExclusiveFile::~ExclusiveFile()
 bool ExclusiveFile::create(const QString& absolutePath)
 {
     close();
-    m_path = absolutePath;
-    const QByteArray path = QFile::encodeName(absolutePath);
-    m_handle->descriptor = open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    if (m_handle->name != absolutePath) {
+        m_handle->name = absolutePath;
+        m_handle->path = QFile::encodeName(absolutePath);
+    }
+    const char* const path = m_handle->path.constData();
+    m_handle->descriptor = open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     if (isOpen())
         return succeed();
     const unsigned long code = currentError();
@@ -335,7 +356,7 @@ bool ExclusiveFile::create(const QString& absolutePath)
     if (code != EACCES && code != EPERM)
         return fail(Failure::Unexpected, code);
     struct stat status { };
-    const bool exists = lstat(path.constData(), &status) == 0;
+    const bool exists = lstat(path, &status) == 0;
     return fail(exists ? Failure::Exists : Failure::NotPermitted, code);
 }
 
@@ -386,7 +407,7 @@ bool ExclusiveFile::hasLostItsName() const
     struct stat named { };
     if (fstat(m_handle->descriptor, &own) != 0)
         return false;
-    if (lstat(QFile::encodeName(m_path).constData(), &named) != 0)
+    if (lstat(m_handle->path.constData(), &named) != 0)
         return errno == ENOENT;
     return !(identityOf(named) == identityOf(own));
 }
@@ -398,7 +419,7 @@ Removal ExclusiveFile::remove()
     struct stat own { };
     if (fstat(m_handle->descriptor, &own) != 0)
         return Removal::Failed;
-    const Removal removal = removeFile(m_path, identityOf(own));
+    const Removal removal = removeNamed(m_handle->path, identityOf(own));
     if (removal != Removal::Failed)
         close();
     return removal;

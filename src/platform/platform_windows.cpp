@@ -284,12 +284,13 @@ int terminalColumns()
 
 void presetTimeZone() { }
 
-bool isLengthAllowed(const QString& absolutePath)
+bool isLengthAllowed(const QString& absolutePath, int more)
 {
     constexpr int longestName = 255;
     constexpr int longestPath = 32767 - 8; // room for the prefix of long paths
+    const int size = absolutePath.size() + more;
     const QString path = QDir::fromNativeSeparators(absolutePath);
-    return path.size() < longestPath && path.size() - (path.lastIndexOf(QLatin1Char('/')) + 1) <= longestName;
+    return size < longestPath && size - (path.lastIndexOf(QLatin1Char('/')) + 1) <= longestName;
 }
 
 FileSnapshot lookAtFile(const QString& path, int maximalSize)
@@ -332,6 +333,7 @@ Removal removeFile(const QString& path, const FileIdentity& identity)
 
 struct ExclusiveFile::Handle {
     HANDLE file = INVALID_HANDLE_VALUE;
+    QString path;
     FileIdentity identity; ///< kept for remove(), which closes before it succeeds
 
     bool identify()
@@ -354,7 +356,7 @@ ExclusiveFile::~ExclusiveFile()
 bool ExclusiveFile::create(const QString& absolutePath)
 {
     close();
-    m_path = absolutePath;
+    m_handle->path = absolutePath;
     m_handle->file = CreateFileW(wide(systemPath(absolutePath)), GENERIC_WRITE | FILE_READ_ATTRIBUTES,
                                  FILE_SHARE_READ, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (isOpen())
@@ -404,7 +406,7 @@ bool ExclusiveFile::hasLostItsName() const
 {
     if (!m_handle->identify())
         return false;
-    const File named(m_path, FILE_READ_ATTRIBUTES);
+    const File named(m_handle->path, FILE_READ_ATTRIBUTES);
     BY_HANDLE_FILE_INFORMATION information{};
     if (!named.isOpen())
         return isMissing(GetLastError());
@@ -416,7 +418,7 @@ Removal ExclusiveFile::remove()
     if (isOpen() && !m_handle->identify())
         return Removal::Failed;
     close();
-    return removeFile(m_path, m_handle->identity);
+    return removeFile(m_handle->path, m_handle->identity);
 }
 
 MappedFile::MappedFile(const QString& path)

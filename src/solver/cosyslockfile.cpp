@@ -17,8 +17,22 @@ using nPlatform::ExclusiveFile;
 using nPlatform::FileSnapshot;
 using nPlatform::Removal;
 
+namespace {
+const QLatin1String guardSuffix(".rmlock");
+
+FileSnapshot lookAt(const QString& path)
+{
+    return nPlatform::lookAtFile(path, lockRecord::maximalSize);
+}
+
+} // namespace
+
 struct coSysLockFile::Private {
-    explicit Private(const QString& givenPath) : path(givenPath) { }
+    explicit Private(const QString& givenPath)
+        : path(givenPath), nativePath(QDir::toNativeSeparators(givenPath)),
+          isAbsolute(QDir::isAbsolutePath(givenPath))
+    {
+    }
 
     LockError attempt();
     LockError creationError(const QString& target) const;
@@ -26,15 +40,16 @@ struct coSysLockFile::Private {
     bool removeOwnFile();
     void reportLoss() const;
 
-    FileSnapshot lookAtLock() const;
     bool countsAsStale(const FileSnapshot& lock) const;
     bool breakStaleLock();
 
     QString absolutePath() const;
-    QString guardPath() const { return absolutePath() + QStringLiteral(".rmlock"); }
+    static bool hasRoomForGuard(const QString& target);
 
     std::recursive_mutex mutex;
     const QString path;
+    const QString nativePath;
+    const bool isAbsolute;
     QString heldPath; ///< of the lock file; a relative path may mean another one by now
     ExclusiveFile file;
     int staleLockTime = defaultStaleLockTime;
@@ -47,14 +62,18 @@ QString coSysLockFile::Private::absolutePath() const
 {
     if (isLocked)
         return heldPath;
-    return QDir::toNativeSeparators(QDir::isAbsolutePath(path) ? path
-                                                               : QDir::current().absoluteFilePath(path));
+    return isAbsolute ? nativePath : QDir::toNativeSeparators(QDir::current().absoluteFilePath(path));
+}
+
+bool coSysLockFile::Private::hasRoomForGuard(const QString& target)
+{
+    return nPlatform::isLengthAllowed(target, guardSuffix.size());
 }
 
 coSysLockFile::LockError coSysLockFile::Private::attempt()
 {
     const QString target = absolutePath();
-    if (!isGuard && !nPlatform::isLengthAllowed(guardPath())) {
+    if (!isGuard && !hasRoomForGuard(target)) {
         KD_LOG(kdLog::Error, kdLog::General,
                QStringLiteral("The name of the lock file '%1' is too long.").arg(target));
         return UnknownError;
@@ -94,7 +113,6 @@ coSysLockFile::LockError coSysLockFile::Private::writingFailed()
 bool coSysLockFile::Private::removeOwnFile()
 {
     constexpr int attempts = 500;
-    const QString target = absolutePath();
     Removal removal = file.remove();
     for (int made = 1; removal == Removal::Failed && made < attempts; ++made) {
         QThread::msleep(1);
@@ -106,7 +124,7 @@ bool coSysLockFile::Private::removeOwnFile()
                QStringLiteral(
                    "Could not remove our own lock file%1. Either other users of the lock file are reading it "
                    "constantly for 500 ms, or we (no longer) have permissions to delete the file")
-                   .arg(target));
+                   .arg(absolutePath()));
     return removal == Removal::Done || removal == Removal::Failed;
 }
 
@@ -116,11 +134,6 @@ void coSysLockFile::Private::reportLoss() const
            QStringLiteral(
                "The lock '%1' has been lost: another process broke it, as it was not refreshed in time.")
                .arg(absolutePath()));
-}
-
-FileSnapshot coSysLockFile::Private::lookAtLock() const
-{
-    return nPlatform::lookAtFile(absolutePath(), lockRecord::maximalSize);
 }
 
 bool coSysLockFile::Private::countsAsStale(const FileSnapshot& lock) const
@@ -136,19 +149,20 @@ bool coSysLockFile::Private::countsAsStale(const FileSnapshot& lock) const
 
 bool coSysLockFile::Private::breakStaleLock()
 {
-    if (!countsAsStale(lookAtLock()))
+    const QString target = absolutePath();
+    if (!countsAsStale(lookAt(target)))
         return false;
     std::optional<coSysLockFile> guard;
     // A guard whose own guard's name would be too long has none, or its owner's crash would leave it for
     // good.
-    if (nPlatform::isLengthAllowed(guardPath())) {
-        guard.emplace(guardPath());
+    if (hasRoomForGuard(target)) {
+        guard.emplace(target + guardSuffix);
         guard->d->isGuard = true;
         if (!guard->tryLock(0))
             return false;
     }
-    const FileSnapshot lock = lookAtLock();
-    return countsAsStale(lock) && nPlatform::removeFile(absolutePath(), lock.identity) == Removal::Done;
+    const FileSnapshot lock = lookAt(target);
+    return countsAsStale(lock) && nPlatform::removeFile(target, lock.identity) == Removal::Done;
 }
 
 coSysLockFile::coSysLockFile(const QString& path) : d(std::make_unique<Private>(path)) { }
@@ -184,7 +198,7 @@ bool coSysLockFile::isLocked() const
 bool coSysLockFile::getLockInfo(Info* info) const
 {
     const std::lock_guard locker(d->mutex);
-    const FileSnapshot lock = d->lookAtLock();
+    const FileSnapshot lock = lookAt(d->absolutePath());
     return lock.isRead && lockRecord::read(lock.content, *info);
 }
 

@@ -12,12 +12,13 @@ QByteArray line(const char* key, const QString& value)
     return QByteArray(key) + '=' + value.simplified().toUtf8() + '\n';
 }
 
-/// What does not change while the process runs.
-QByteArray fixedLines(const nPlatform::ProcessFacts& own)
+QByteArray describe(qint64 ownId, const QString& applicationName)
 {
+    const nPlatform::ProcessFacts own = nPlatform::processFacts(ownId);
     const nPlatform::SystemInformation& system = nPlatform::systemInformation();
     return line("HostName", system.hostName) + line("UserName", system.userName)
-        + line("ProcessName", own.executableName) + line("ProcessStartTime", own.startTime);
+        + line("ProcessName", own.executableName) + line("ProcessStartTime", own.startTime)
+        + line("ApplicationName", applicationName) + line("PID", QString::number(ownId));
 }
 
 struct TextField {
@@ -45,18 +46,20 @@ void assignText(const QByteArray& key, const QString& value, coSysLockFile::Info
 
 QByteArray lockRecord::ofThisProcess()
 {
-    // By process id: a copy that the system made of this process is another owner.
     static std::mutex mutex;
+    static QByteArray record;
     static qint64 describedId = 0;
-    static QByteArray fixed;
+    static QString describedName;
+    // A copy that the system made of this process is another owner.
     const qint64 id = QCoreApplication::applicationPid();
+    const QString name = QCoreApplication::applicationName();
     const std::lock_guard lock(mutex);
-    if (id != describedId) {
-        fixed = fixedLines(nPlatform::processFacts(id));
+    if (id != describedId || name != describedName) {
+        record = describe(id, name);
         describedId = id;
+        describedName = name;
     }
-    return fixed + line("ApplicationName", QCoreApplication::applicationName())
-        + line("PID", QString::number(id));
+    return record;
 }
 
 bool lockRecord::read(const QByteArray& record, coSysLockFile::Info& info)
