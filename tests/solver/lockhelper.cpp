@@ -1,9 +1,7 @@
 // A process that takes locks, for tests of what happens between processes. Log lines go to standard error.
-// Usage: lockhelper take PATH             one attempt; prints the error
-//        lockhelper hold PATH             takes the lock, prints the error, releases it when standard input
-//        ends lockhelper abandon PATH          takes the lock and ends without releasing it lockhelper count
-//        PATH FILE N     adds N to the number in FILE, one by one, each under the lock lockhelper churn PATH
-//        FILE       takes and releases for ever, and ends only if it was not alone
+// Usage: lockhelper hold PATH          one attempt; waits for the end of standard input; ends with the error
+//        lockhelper count PATH FILE N  adds N to the number in FILE, one by one, each under the lock
+//        lockhelper churn PATH FILE    takes and releases for ever, and ends only if it was not alone
 
 #include <kdQCore/coSysLockFile>
 
@@ -11,39 +9,24 @@
 #include <QFile>
 
 #include <cstdio>
-#include <cstdlib>
 #include <thread>
 
 namespace {
 
-void say(const char* what, int number)
+void say(const char* what, bool isTrue)
 {
-    std::printf("%s %d\n", what, number);
+    std::printf("%s %d\n", what, isTrue);
     std::fflush(stdout);
 }
 
-int take(const QStringList& arguments)
+int hold(coSysLockFile& lock)
 {
-    coSysLockFile lock(arguments.at(0));
-    const bool isTaken = lock.tryLock(0);
-    say("taken", isTaken);
-    return lock.error();
-}
-
-int hold(const QStringList& arguments)
-{
-    coSysLockFile lock(arguments.at(0));
     say("held", lock.tryLock(0));
+    const int error = lock.error();
     while (std::getchar() != EOF) { }
     lock.unlock();
     say("locked", lock.isLocked());
-    return 0;
-}
-
-int abandon(const QStringList& arguments)
-{
-    coSysLockFile lock(arguments.at(0));
-    std::_Exit(lock.tryLock(0) ? 0 : 1);
+    return error;
 }
 
 void takeSometime(coSysLockFile& lock)
@@ -64,13 +47,9 @@ void store(QFile& file, qint64 number)
     file.write(QByteArray::number(number).rightJustified(20));
 }
 
-int count(const QStringList& arguments)
+int count(coSysLockFile& lock, QFile& file, int rounds)
 {
-    coSysLockFile lock(arguments.at(0));
-    QFile file(arguments.at(1));
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
-        return 1;
-    for (int left = arguments.at(2).toInt(); left > 0; --left) {
+    for (; rounds > 0; --rounds) {
         takeSometime(lock);
         store(file, numberIn(file) + 1);
         lock.unlock();
@@ -78,14 +57,10 @@ int count(const QStringList& arguments)
     return 0;
 }
 
-int churn(const QStringList& arguments)
+int churn(coSysLockFile& lock, QFile& file)
 {
-    coSysLockFile lock(arguments.at(0));
-    QFile file(arguments.at(1));
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
-        return 1;
     const qint64 own = QCoreApplication::applicationPid();
-    say("started", 1);
+    say("started", true);
     for (bool isAlone = true; isAlone;) {
         takeSometime(lock);
         store(file, own);
@@ -100,18 +75,13 @@ int churn(const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments().mid(2);
-    const QByteArray mode(argc > 1 ? argv[1] : "");
-    if (mode == "take" && arguments.size() == 1)
-        return take(arguments);
-    if (mode == "hold" && arguments.size() == 1)
-        return hold(arguments);
-    if (mode == "abandon" && arguments.size() == 1)
-        return abandon(arguments);
-    if (mode == "count" && arguments.size() == 3)
-        return count(arguments);
-    if (mode == "churn" && arguments.size() == 2)
-        return churn(arguments);
-    return 64;
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    coSysLockFile lock(arguments.value(1));
+    if (arguments.value(0) == QLatin1String("hold"))
+        return hold(lock);
+    QFile file(arguments.value(2));
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return 64;
+    return arguments.size() == 4 ? count(lock, file, arguments.at(3).toInt()) : churn(lock, file);
 }
