@@ -20,12 +20,13 @@ bool waitUntil(Condition condition)
 /// Makes the lock file old; true when it has become young again.
 bool becomesYoung(const QString& path)
 {
-    const QDateTime old = QDateTime::currentDateTime().addSecs(-1000);
+    const QDateTime young = QFileInfo(path).lastModified();
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || !file.setFileTime(old, QFile::FileModificationTime))
+    if (!file.open(QIODevice::ReadOnly)
+        || !file.setFileTime(young.addSecs(-1000), QFile::FileModificationTime))
         return kdqOnWindows; // where only the owner sets the time
     file.close();
-    return waitUntil([&path, &old] { return QFileInfo(path).lastModified() > old.addSecs(100); });
+    return waitUntil([&path, &young] { return QFileInfo(path).lastModified() >= young; });
 }
 
 } // namespace
