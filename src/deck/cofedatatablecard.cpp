@@ -138,6 +138,12 @@ bool coFeDataTableCard::setGrid(const kdDataTable& table, const IndependentVarUs
     return takeGrid(table, variable2, &xUnit, &yUnit);
 }
 
+void coFeDataTableCard::setOwnValues(const QList<double>& values)
+{
+    m_ownValues = values;
+    setValues(&m_ownValues);
+}
+
 bool coFeDataTableCard::take(const kdDataTable& table, const kdUnitSystem* xUnit, const kdUnitSystem* yUnit)
 {
     Reader reader(table);
@@ -192,8 +198,7 @@ bool coFeDataTableCard::takeGrid(const kdDataTable& table, const IndependentVarU
 bool coFeDataTableCard::accept(const QList<double>& x, const QList<double>& y)
 {
     setValuesOfVariable1(x);
-    m_ownValues = y;
-    setValues(&m_ownValues);
+    setOwnValues(y);
     m_errorText.clear();
     return true;
 }

@@ -42,6 +42,9 @@ public:
     bool setGrid(const kdDataTable& table, const IndependentVarUsingValues& variable2,
                  const kdUnitSystem& xUnit, const kdUnitSystem& yUnit);
 
+    /// Takes dependent values as they are; whether they fit the variables shows in write() only.
+    void setOwnValues(const QList<double>& values);
+
     /// Why the last table was refused, for the user; empty where it was taken.
     QString errorText() const { return m_errorText; }
 

@@ -29,7 +29,7 @@ bool coFeSolverCard::write(CFEDatLineWriter& writer) const
     lines.add(writeDataLine(writer, deckSolverId));
     if (m_solverType.isIterativeSparse() || m_solverType.isMixedDirectIterative())
         lines.add(writeIterationLines(writer));
-    if (isIn(solversWithOptimisation, deckSolverId))
+    if (hasOptimisation(deckSolverId))
         lines.add(writeOptimisation(writer));
     return lines.ok();
 }
@@ -37,6 +37,11 @@ bool coFeSolverCard::write(CFEDatLineWriter& writer) const
 bool coFeSolverCard::isSolverTypeSupportingSolvingNonSymmetricSystem(int deckSolverId)
 {
     return isIn(solversForNonSymmetricSystems, deckSolverId);
+}
+
+bool coFeSolverCard::hasOptimisation(int deckSolverId)
+{
+    return isIn(solversWithOptimisation, deckSolverId);
 }
 
 QString coFeSolverCard::getSolverTypeUsingComment() const

@@ -59,6 +59,9 @@ public:
     /// By deck solver id; false for an id that no solver has.
     static bool isSolverTypeSupportingSolvingNonSymmetricSystem(int deckSolverId);
 
+    /// Whether the option ends with an optimisation line.
+    static bool hasOptimisation(int deckSolverId);
+
     /// Text for a comment above the card, in English in every language of the user: decks are compared. A
     /// solver without a text of its own (CASI, automatic) is called unknown and logged as a failed assertion.
     QString getSolverTypeUsingComment() const;

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "decklines_p.h"
+#include "deckrow_p.h"
+
+#include <functional>
+
+/// Reads the data lines of the options that this library's cards write. Each function is called with the
+/// option's keyword line taken; it takes the option's other lines, reports what is wrong with them, and sets
+/// the card where there is nothing wrong and cards are wanted.
+class DeckCardReader {
+    Q_DECLARE_TR_FUNCTIONS(coDeckReader)
+
+public:
+    DeckCardReader(DeckLines& lines, coDeckOption& option, bool wantsCards)
+        : m_lines(lines), m_option(option), m_wantsCards(wantsCards)
+    {
+    }
+
+    void readTableSection();
+    void readProcess();
+    void readAutoLoad();
+    void readSolver();
+    void readTable();
+    void readPointLoad(const QString& component, const QString& comment);
+    void readPointCurrent();
+
+private:
+    struct TableVariable {
+        int type = 0;
+        int points = 0;
+        bool isExtrapolated = true;
+        QList<double> values;
+    };
+    /// What the first lines of a table say.
+    struct TableHead {
+        qint64 line = 0; ///< the one that announces the points
+        int variables = 0;
+        int readMethod = 0;
+        TableVariable variable[2];
+    };
+
+    DeckRow nextRow() { return DeckRow(m_lines, m_option); }
+    DeckRow keywordRow(int keywordLength);
+    bool note(const DeckRow& row);
+    template <typename Card>
+    void keep(const Card& card)
+    {
+        if (m_wantsCards && m_isOurs)
+            m_option.card = QSharedPointer<Card>::create(card);
+    }
+
+    bool readSolverExtras(class coFeSolverCard& card, int solverId);
+    bool readTableHead(TableHead& head);
+    void readFormula(const TableHead& head);
+    void readPoints(TableHead& head);
+    void readGrid(TableHead& head);
+    bool readGridVariable(TableVariable& variable, int number);
+    using Taker = std::function<void(double value, qint64 index, int column)>;
+    bool readList(qint64 expected, const QString& what, const Taker& taker);
+    bool readListLine(const coDeckLine& line, qint64& count, const Taker& taker);
+    void keepTable(const TableHead& head, const QList<double>& values);
+
+    DeckLines& m_lines;
+    coDeckOption& m_option;
+    bool m_wantsCards;
+    bool m_isOurs = true;
+};

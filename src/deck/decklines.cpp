@@ -1,0 +1,106 @@
+#include "decklines_p.h"
+
+#include <algorithm>
+
+namespace {
+
+// Neither the mark behind a full line nor the commas of a data line count: the writer fills lines with fields.
+std::ptrdiff_t width(const coDeckLine& line)
+{
+    const char* const end = line.endOfFields();
+    const std::ptrdiff_t length = end - line.begin;
+    if (line.kind != coDeckLine::Data || length <= CFEDatLineWriter::maxLineWidth)
+        return length;
+    return length - std::count(line.begin, end, ',');
+}
+
+} // namespace
+
+DeckLines::DeckLines(QIODevice& deck, CFEDatLineWriter::datExtensionMode mode, const coDeckFindingSink& sink)
+    : m_scanner(deck), m_mode(mode), m_sink(sink)
+{
+}
+
+const coDeckLine* DeckLines::ahead()
+{
+    if (!m_isAhead)
+        m_isAhead = m_scanner.next();
+    return m_isAhead ? &m_scanner.line() : nullptr;
+}
+
+bool DeckLines::isDataAhead()
+{
+    const coDeckLine* line = ahead();
+    return line && line->kind == coDeckLine::Data;
+}
+
+const coDeckLine& DeckLines::take(coDeckOption& option)
+{
+    const coDeckLine& line = m_scanner.line();
+    m_isAhead = false;
+    if (option.lines == 0) {
+        option.firstLine = line.number;
+        option.offset = line.offset;
+    }
+    ++option.lines;
+    option.size = line.offset + line.size - option.offset;
+    if (width(line) > CFEDatLineWriter::maxLineWidth)
+        report(line.kind == coDeckLine::Data ? coDeckFinding::Error : coDeckFinding::Warning, option,
+               CFEDatLineWriter::maxLineWidth + 1,
+               tr("the line has more than the %1 columns that the solver reads.")
+                   .arg(CFEDatLineWriter::maxLineWidth));
+    return line;
+}
+
+const coDeckLine* DeckLines::takeData(coDeckOption& option)
+{
+    while (ahead() && ahead()->kind == coDeckLine::Comment)
+        take(option);
+    if (isDataAhead()) {
+        const coDeckLine& line = take(option);
+        if (m_knownFormat != option.firstLine && line.isFree())
+            option.format = CFEDatLineWriter::free;
+        m_knownFormat = option.firstLine;
+        return &line;
+    }
+    if (const coDeckLine* line = ahead())
+        error(option, 1,
+              tr("data line expected, found '%1'.").arg(QString::fromLocal8Bit(line->begin, qMin(line->length(), 40))));
+    else
+        error(option, 0, tr("data line expected, found the end of the deck."));
+    return nullptr;
+}
+
+bool DeckLines::takeText(coDeckOption& option, QString& text)
+{
+    if (!ahead()) {
+        error(option, 0, tr("text line expected, found the end of the deck."));
+        return false;
+    }
+    const coDeckLine& line = take(option);
+    text = QString::fromLocal8Bit(line.begin, line.length());
+    return true;
+}
+
+void DeckLines::error(const coDeckOption& option, int column, const QString& text)
+{
+    report(coDeckFinding::Error, option, column, text);
+}
+
+void DeckLines::errorInLine(const coDeckOption& option, qint64 line, const QString& text)
+{
+    if (m_sink)
+        m_sink({coDeckFinding::Error, line, 0, option.text(), text});
+}
+
+void DeckLines::warning(const coDeckOption& option, int column, const QString& text)
+{
+    report(coDeckFinding::Warning, option, column, text);
+}
+
+void DeckLines::report(coDeckFinding::Severity severity, const coDeckOption& option, int column,
+                       const QString& text)
+{
+    if (m_sink)
+        m_sink({severity, m_scanner.line().number, column, option.text(), text});
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "codeckfields.h"
+#include "codeckfinding.h"
+#include "codeckoption.h"
+#include "codeckscanner.h"
+
+/// The lines of a deck with one line seen ahead, the option that they belong to, and where findings go.
+class DeckLines {
+    Q_DECLARE_TR_FUNCTIONS(coDeckReader)
+
+public:
+    DeckLines(QIODevice& deck, CFEDatLineWriter::datExtensionMode mode, const coDeckFindingSink& sink);
+
+    /// The line ahead; null at the end of the deck.
+    const coDeckLine* ahead();
+    bool isDataAhead();
+    /// Makes the line ahead the option's and the current one.
+    const coDeckLine& take(coDeckOption& option);
+
+    /// Goes past comments to the option's next data line, whose commas decide the option's format where it is
+    /// the first. Without one that is an error, and null.
+    const coDeckLine* takeData(coDeckOption& option);
+    /// The next line as it is: a name, a formula.
+    bool takeText(coDeckOption& option, QString& text);
+
+    void error(const coDeckOption& option, int column, const QString& text);
+    void errorInLine(const coDeckOption& option, qint64 line, const QString& text);
+    void warning(const coDeckOption& option, int column, const QString& text);
+
+    CFEDatLineWriter::datExtensionMode mode() const { return m_mode; }
+    const coDeckScanner& scanner() const { return m_scanner; }
+
+private:
+    void report(coDeckFinding::Severity severity, const coDeckOption& option, int column, const QString& text);
+
+    coDeckScanner m_scanner;
+    CFEDatLineWriter::datExtensionMode m_mode;
+    coDeckFindingSink m_sink;
+    bool m_isAhead = false;
+    qint64 m_knownFormat = 0; ///< first line of the option whose format is known
+};

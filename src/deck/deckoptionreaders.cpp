@@ -1,0 +1,197 @@
+#include "deckcardreader_p.h"
+
+#include "cfeautoloadcard.h"
+#include "cfepointcurrentcard.h"
+#include "cofeautoforgecard.h"
+#include "cofeparametersectiontable.h"
+#include "cofesolvercard.h"
+#include "cpointloadcard.h"
+
+#include <kdQCore/coMarcSolverType>
+
+DeckRow DeckCardReader::keywordRow(int keywordLength)
+{
+    const coDeckLine& line = m_lines.scanner().line();
+    const bool isFree = m_option.format != CFEDatLineWriter::fixed;
+    const int keyWidth = m_lines.mode() == CFEDatLineWriter::standard ? 10 : 20;
+    return DeckRow(m_lines, m_option, line, isFree ? keywordLength + 1 : qMax(keyWidth, keywordLength));
+}
+
+bool DeckCardReader::note(const DeckRow& row)
+{
+    m_isOurs = m_isOurs && row.isOurs();
+    return row.ok();
+}
+
+void DeckCardReader::readTableSection()
+{
+    if (note(keywordRow(5).constants(0, 2).constant(2).constants(1, 2).constants(0, 2).constant(1).end()))
+        keep(coFeParameterSectionTable());
+}
+
+void DeckCardReader::readProcess()
+{
+    coFeAutoforgeCard card;
+    bool is3d = false;
+    int material = 0;
+    int licences = 0;
+    int type = 0;
+    bool isNoHeat = false;
+    int kin = 0;
+    int rigid = 0;
+    int version = 0;
+    bool checksHeat = false;
+    int contact = 0;
+    DeckRow row = keywordRow(9);
+    row.choice(is3d, 2, 1).integer(material).constant(2).integer(licences).constant(0).integer(type);
+    row.choice(isNoHeat, 1, 0).integer(kin).integer(rigid).integer(version).choice(checksHeat, 1, 0);
+    if (!note(row.integer(contact).end()))
+        return;
+    card.setIs3d(is3d);
+    card.setMaterialModel(material);
+    card.setOptionalLicenseFeatures(nMarc::LicFlags(QFlag(licences)));
+    card.setSpecificProcType(type);
+    card.setSuppressHeatGeneration(isNoHeat);
+    card.setKinFileFlag(static_cast<coFeAutoforgeCard::e_KinFileFlag>(kin));
+    card.setRemoveRigidModesFlag(static_cast<coFeAutoforgeCard::e_RigidModesFlag>(rigid));
+    card.setKaldoranVersion(static_cast<coFeAutoforgeCard::e_KaldoranVersion>(version));
+    card.setSkipHeatTransferConvergenceCheck(!checksHeat);
+    card.setContactTolFlag(static_cast<nMarc::e_AutoForgeContactToleranceFlag>(contact));
+    keep(card);
+}
+
+void DeckCardReader::readAutoLoad()
+{
+    int steps = 0;
+    int remeshings = 0;
+    int cutBack = 0;
+    double time = 0.0;
+    double travel = 0.0;
+    DeckRow row = nextRow();
+    row.integer(steps).constant(0).constant(10).integer(remeshings).integer(cutBack).real(time).real(travel);
+    if (!note(row.end()))
+        return;
+    if (steps == 0) {
+        QString keyword;
+        if (!m_lines.takeText(m_option, keyword))
+            return;
+        if (keyword != QLatin1String("time step"))
+            return m_lines.error(m_option, 1, tr("'time step' expected, found '%1'.").arg(keyword));
+        if (!note(nextRow().constantReal(1.0).end()))
+            return;
+    }
+    cFeAutoLoadCard card;
+    card.setTimeSteps(steps);
+    card.setMaxForcedRemeshingNo(remeshings);
+    card.setCutBackStepNo(cutBack);
+    card.setTotalTime(time);
+    card.setTotalTravelDist(travel);
+    keep(card);
+}
+
+void DeckCardReader::readSolver()
+{
+    int id = 0;
+    bool isNonSymmetric = false;
+    bool isFullK = false;
+    DeckRow row = nextRow();
+    row.integer(id).choice(isNonSymmetric, 1, 0).constant(0).choice(isFullK, 1, 0).constant(0);
+    const coMarcSolverType type(coMarcSolverType::typeFromMarcDatFileId(id));
+    if (row.ok() && type.typeToMarcDatFileId() != id)
+        return m_lines.error(m_option, 1, tr("%1 is the number of no solver.").arg(id));
+    row.constant(type.isCasiIterative() ? 2 : 0).constants(0, 2);
+    coFeSolverCard card(type);
+    if (type.isCasiIterative()) {
+        row.constants(0, 7).constant(1);
+    } else if (type.isPardisoParallelDirect() && !row.atEnd()) {
+        int rigid = 0;
+        row.constants(0, 5).integer(rigid).constant(1).constant(0);
+        card.setIsConditionalNumericalReproducibilityEnabled(true);
+        card.setAutoforgeField10Value(rigid == 0 || rigid == 1 ? 1 - rigid : rigid);
+    }
+    if (!note(row.end()) || !readSolverExtras(card, id))
+        return;
+    card.setIsNonSymmetricSystem(isNonSymmetric);
+    card.setIsSolutionProcedureFullK(isFullK);
+    card.enableUsingUpperCaseKeywords(m_option.keyword == QLatin1String("SOLVER"));
+    keep(card);
+}
+
+bool DeckCardReader::readSolverExtras(coFeSolverCard& card, int solverId)
+{
+    const bool isSparse = card.solverType().isIterativeSparse();
+    if (isSparse || card.solverType().isMixedDirectIterative()) {
+        int iterations = 0;
+        double tolerance = 0.0;
+        if (!note(nextRow().integer(iterations).constant(1).constant(isSparse ? 5 : 0).end())
+            || !note(nextRow().real(tolerance).end()))
+            return false;
+        card.setMaxIterations(iterations);
+        card.setTolerance(tolerance);
+    }
+    if (!coFeSolverCard::hasOptimisation(solverId))
+        return true;
+    const coDeckLine* line = m_lines.ahead();
+    constexpr int keyLength = 8;
+    if (!line || qstrnicmp(line->begin, "optimize", static_cast<uint>(qMin(keyLength, line->length()))) != 0
+        || line->length() < keyLength) {
+        m_isOurs = false;
+        return true;
+    }
+    m_lines.take(m_option);
+    return note(keywordRow(keyLength).constant(isSparse ? 9 : 11).end());
+}
+
+void DeckCardReader::readPointLoad(const QString& component, const QString& comment)
+{
+    const QString prefix = QStringLiteral("ptld_");
+    double forces[3] = {0.0, 0.0, 0.0};
+    int count = 0;
+    if (!note(nextRow().constant(1).constants(0, 2).end())
+        || !note(nextRow().constant(1).constants(0, 5).rest(m_option.name).end()))
+        return;
+    DeckRow row = nextRow();
+    for (; count < 3 && !row.atEnd() && row.ok(); ++count)
+        row.real(forces[count]);
+    if (row.ok() && count < 2)
+        return m_lines.error(m_option, 0, tr("2 or 3 forces expected, found %1.").arg(count));
+    QString nodes;
+    if (!note(row.end()) || !note(nextRow().constants(0, count).end()) || !note(nextRow().constant(2).end())
+        || !m_lines.takeText(m_option, nodes))
+        return;
+    cPointLoadCard card;
+    card.setIs3DProcess(count == 3);
+    card.setForceX(count == 3 ? forces[0] : forces[1]);
+    card.setForceY(count == 3 ? forces[1] : 0.0);
+    card.setForceZ(count == 3 ? forces[2] : forces[0]);
+    card.setComponentName(component);
+    card.setCommentText(comment);
+    card.setListOfNodesName(nodes);
+    card.setComponentBodyId(m_option.name.mid(prefix.size()).section(QLatin1Char('_'), 0, 0).toInt());
+    m_isOurs = m_isOurs && m_option.name == prefix + card.uniqueLabel();
+    m_option.nodeList = nodes;
+    keep(card);
+}
+
+void DeckCardReader::readPointCurrent()
+{
+    double current = 0.0;
+    int tableId = 0;
+    QString node;
+    if (!note(nextRow().constants(0, 2).end())
+        || !note(nextRow().constant(1).constants(0, 5).word(m_option.name).end())
+        || !note(nextRow().real(current).constantReal(0.0).constantReal(0.0).end())
+        || !note(nextRow().integer(tableId).constants(0, 2).end()) || !note(nextRow().constant(2).end())
+        || !m_lines.takeText(m_option, node))
+        return;
+    if (m_option.format != CFEDatLineWriter::fixed && node.endsWith(QLatin1Char(',')))
+        node.chop(1);
+    cFePointCurrentCard card;
+    card.setLabel(m_option.name);
+    card.setCurrent(kdUnitValue(current, kdUnitSystem(kdUnitSystem::ElectricCurrent, 0)));
+    card.setTableId(tableId);
+    card.setControlNode(node);
+    m_option.nodeList = node;
+    m_option.tableReference = tableId;
+    keep(card);
+}

@@ -1,0 +1,163 @@
+#include "kdqtest.h"
+#include "logcapture.h"
+
+#include <kdQCore/coDeckCheck>
+#include <kdQCore/coDeckReader>
+#include <kdQCore/coDeckScanner>
+
+#include <QBuffer>
+
+namespace {
+
+/// Gives what it has in pieces of a few bytes, then fails.
+class TricklingDevice : public QIODevice {
+public:
+    TricklingDevice(const QByteArray& bytes, bool fails) : m_bytes(bytes), m_fails(fails) { open(ReadOnly); }
+    bool isSequential() const override { return true; }
+    bool atEnd() const override { return m_bytes.isEmpty() && !m_fails; }
+
+protected:
+    qint64 readData(char* data, qint64 most) override
+    {
+        if (m_bytes.isEmpty() && m_fails) {
+            setErrorString(QStringLiteral("cable pulled"));
+            return -1;
+        }
+        const int count = int(qMin<qint64>(most, qMin(7, m_bytes.size())));
+        memcpy(data, m_bytes.constData(), size_t(count));
+        m_bytes.remove(0, count);
+        return count;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QByteArray m_bytes;
+    bool m_fails;
+};
+
+const QByteArray pointTable = "tablek\n"
+                              "    4    1    0    0    2\n"
+                              "   12    2    2\n"
+                              "2.93149E+23.55000E+8\n"
+                              "6.73149E+2-5.0000E-1\n";
+
+const QByteArray gridTable = "table,flow\n4,2,0,0,0,\n5,3,1,12,2,2,\n0.00000E+0,1.00000E-1,2.00000E-1,\n"
+                             "2.00000E+1,4.00000E+2,\n1.00000E+0,2.00000E+0,3.00000E+0 c\n"
+                             "4.00000E+0,5.00000E+0,6.00000E+0,\n";
+
+QByteArray with(QByteArray deck, const char* what, const char* by)
+{
+    return deck.replace(what, by);
+}
+
+} // namespace
+
+class TestDeckCheck : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findings_data()
+    {
+        QTest::addColumn<QByteArray>("deck");
+        QTest::addColumn<QStringList>("findings");
+        const auto row = [](const char* name, const QByteArray& deck, const QStringList& findings) {
+            QTest::newRow(name) << deck << findings;
+        };
+        const auto text = [](const char* english) { return QString::fromLatin1(english); };
+        row("sound points", pointTable, {});
+        row("sound grid", gridTable, {});
+        row("CR LF, no line end at last", with(pointTable, "\n", "\r\n").chopped(2), {});
+        row("point missing", pointTable.left(pointTable.size() - 21),
+            {text("line 3: error: table 'k': 2 points are announced, 1 follow.")});
+        row("point too many", pointTable + "7.00000E+21.00000E+0\n",
+            {text("line 3: error: table 'k': 2 points are announced, 3 follow.")});
+        row("x descends", with(pointTable, "6.73149E+2", "1.73149E+2"),
+            {text("line 5, column 1: error: table 'k': x must not descend, but 173.149 follows 293.149.")});
+        row("no number", with(pointTable, "3.55000E+8", "3.55,00E+8"),
+            {text("line 4, column 11: error: table 'k': number expected in field 2, found '3.55,00E+8'.")});
+        row("not finite", with(pointTable, "3.55000E+8", "       nan"),
+            {text("line 4, column 18: error: table 'k': finite number expected in field 2, found 'nan'.")});
+        row("field missing", with(pointTable, "    0    2\n", "\n"),
+            {text("line 2, column 16: error: table 'k': whole number expected in field 4, found nothing."),
+             text("line 3: error: table 'k': data lines that do not belong to the option: 3.")});
+        row("extrapolation code", with(pointTable, "    2    2\n", "    2    3\n"),
+            {text("line 3, column 15: error: table 'k': 1 or 2 expected in field 3, found '3'."),
+             text("line 4: error: table 'k': data lines that do not belong to the option: 2.")});
+        row("deck ends early", pointTable.left(20),
+            {text("line 2, column 14: error: table 'k': whole number expected in field 3, found nothing.")});
+        row("grid values missing", with(gridTable, "5.00000E+0,", ""),
+            {text("line 6: error: table 'flow': 6 table values expected, found 5.")});
+        row("grid x alike", with(gridTable, "2.00000E-1", "1.00000E-1"),
+            {text("line 4, column 23: error: table 'flow': values 2 and 3 of variable 1 print alike: 0.1.")});
+        row("grid x descends", with(gridTable, "4.00000E+2", "1.00000E+1"),
+            {text("line 5, column 12: error: table 'flow': the values of variable 2 must ascend, but 10 "
+                  "follows 20.")});
+        row("record breaks off", with(gridTable, "\n4.00000E+0", "\nend\n4.00000E+0"),
+            {text("line 7, column 1: error: table 'flow': data line expected, found 'end'.")});
+        row("id used twice", pointTable + gridTable,
+            {text("line 6: error: table 'flow': the id 4 is taken by the table of line 1.")});
+        row("references",
+            "point current\n0,0,\n1,0,0,0,0,0,weld,\n1.25000E+4,0.00000E+0,0.00000E+0,\n7,0,0,\n2,\nnode_1,\n"
+            "define node set node_2\n",
+            {text("line 1: error: point current 'weld': the deck holds no table 7."),
+             text("line 1: warning: point current 'weld': no keyword line of the deck names the node list "
+                  "'node_1'.")});
+        row("no such solver", "solver\n    7    0    0    0    0    0    0    0\n",
+            {text("line 2, column 1: error: solver: 7 is the number of no solver.")});
+        row("data without keyword", "$ mesh\n1,2,\n",
+            {text("line 2, column 1: error: lines without keyword: keyword expected, found data.")});
+        row("other value than ours", "auto load\n5,0,11,1,0,1.00000E+0,1.00000E+0,\n",
+            {text("line 2, column 5: warning: auto load: field 3 is 11, where cards write 10.")});
+        row("lines too long", "$ " + QByteArray(159, 'x') + "\ncoordinates\n" + QByteArray(161, '1') + '\n',
+            {text("line 1, column 161: warning: comments: the line has more than the 160 columns that the "
+                  "solver reads."),
+             text("line 3, column 161: error: coordinates: the line has more than the 160 columns that the "
+                  "solver reads.")});
+        row("NUL bytes", with(pointTable, "3.55000E+8", "3.55").replace("3.55", QByteArray("3.55000\0+8", 10)),
+            {QStringLiteral("line 4, column 11: error: table 'k': number expected in field 2, found '3.55000%1+8'.")
+                 .arg(QChar(0))});
+    }
+
+    void findings()
+    {
+        QFETCH(QByteArray, deck);
+        QFETCH(QStringList, findings);
+        QBuffer device(&deck);
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        LogCapture log;
+        coDeckCheck check(CFEDatLineWriter::standard);
+        const bool isSound = check.run(device);
+        QStringList found;
+        for (const coDeckFinding& finding : check.findings())
+            found.append(finding.toString());
+        QCOMPARE(found, findings);
+        QCOMPARE(isSound, check.errors() == 0);
+    }
+
+    void anyDeviceAndAnyLine_data()
+    {
+        QTest::addColumn<bool>("fails");
+        QTest::newRow("ends") << false;
+        QTest::newRow("fails") << true;
+    }
+
+    void anyDeviceAndAnyLine()
+    {
+        QFETCH(bool, fails);
+        const QByteArray longLine(500000, 'x');
+        TricklingDevice device("a\r\n\n" + longLine + "\n 1 c\nlast", fails);
+        coDeckScanner scanner(device);
+        QList<QPair<qint64, qint64>> sizes;
+        while (scanner.next())
+            sizes.append({scanner.line().offset, scanner.line().size});
+        QList<QPair<qint64, qint64>> expected{{0, 3}, {3, 1}, {4, 500001}, {500005, 5}};
+        if (!fails)
+            expected.append({500010, 4});
+        QCOMPARE(sizes, expected);
+        QCOMPARE(scanner.errorText(),
+                 fails ? QStringLiteral("The deck cannot be read on after line 4: cable pulled") : QString());
+    }
+};
+
+KDQ_TEST_MAIN(TestDeckCheck)
+#include "tst_deckcheck.moc"
