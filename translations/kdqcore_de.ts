@@ -242,6 +242,82 @@
         <source>Writes a table that the solver evaluates from a formula of v1 and v2, checked and with the values of parameters put in; unchecked: as it is.</source>
         <translation>Schreibt eine Tabelle, die der Solver aus einer Formel von v1 und v2 berechnet, geprüft und mit eingesetzten Parametern; unchecked: wie sie ist.</translation>
     </message>
+    <message>
+        <source>Says what the solver would stumble over in a deck; fails on errors, not on warnings.</source>
+        <translation>Sagt, worüber der Solver in einem Deck stolpern würde; scheitert bei Fehlern, nicht bei Warnungen.</translation>
+    </message>
+    <message>
+        <source>Lists what a deck holds: line, lines, option.</source>
+        <translation>Zeigt, was ein Deck enthält: Zeile, Zeilen, Option.</translation>
+    </message>
+    <message>
+        <source>Compares two decks option by option, numbers within a relative tolerance.</source>
+        <translation>Vergleicht zwei Decks Option für Option, Zahlen mit relativer Toleranz.</translation>
+    </message>
+    <message>
+        <source>Changes one option of a deck and nothing else; the new lines come from a file. OPTION as in &apos;deck show&apos;, the N-th of several; keep: the old deck stays as FILE.bak.</source>
+        <translation>Ändert eine Option eines Decks und sonst nichts; die neuen Zeilen kommen aus einer Datei. OPTION wie in &apos;deck show&apos;, die N-te von mehreren; keep: das alte Deck bleibt als FILE.bak.</translation>
+    </message>
+    <message>
+        <source>Loads the tables of a deck into the session, under their names, without units.</source>
+        <translation>Lädt die Tabellen eines Decks in die Sitzung, unter ihren Namen, ohne Einheiten.</translation>
+    </message>
+    <message>
+        <source>The deck &apos;%1&apos; cannot be read: %2</source>
+        <translation>Das Deck &apos;%1&apos; kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no width; possible are standard and extended.</source>
+        <translation>&apos;%1&apos; ist keine Breite; möglich sind standard und extended.</translation>
+    </message>
+    <message>
+        <source>Deck &apos;%1&apos; (%2): options %3, errors %4, warnings %5.</source>
+        <translation>Deck &apos;%1&apos; (%2): Optionen %3, Fehler %4, Warnungen %5.</translation>
+    </message>
+    <message>
+        <source>The deck &apos;%1&apos; has errors: %2.</source>
+        <translation>Das Deck &apos;%1&apos; hat Fehler: %2.</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Deck &apos;%1&apos;: %2.</source>
+        <translation>Deck &apos;%1&apos;: %2.</translation>
+    </message>
+    <message>
+        <source>The decks differ: %1.</source>
+        <translation>Die Decks unterscheiden sich: %1.</translation>
+    </message>
+    <message>
+        <source>The deck &apos;%1&apos; holds no option &quot;%2&quot; of number %3; see &apos;deck show&apos;.</source>
+        <translation>Das Deck &apos;%1&apos; enthält keine Option &quot;%2&quot; mit der Nummer %3; siehe &apos;deck show&apos;.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; of the new lines (with LINESFILE) cannot be read: %2</source>
+        <translation>Die Datei &apos;%1&apos; der neuen Zeilen (with LINESFILE) kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no change; possible are replace, before, after, remove.</source>
+        <translation>&apos;%1&apos; ist keine Änderung; möglich sind replace, before, after, remove.</translation>
+    </message>
+    <message>
+        <source>Tables of &apos;%1&apos;: %2.</source>
+        <translation>Tabellen von &apos;%1&apos;: %2.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
 </context>
 <context>
     <name>FormulaCommands</name>
@@ -1484,6 +1560,282 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     <message>
         <source>The name &apos;%1&apos; is already taken.</source>
         <translation>Der Name „%1“ ist schon vergeben.</translation>
+    </message>
+</context>
+<context>
+    <name>coDeckCheck</name>
+    <message>
+        <source>the id %1 is taken by the table of line %2.</source>
+        <translation>die Nummer %1 gehört schon der Tabelle in Zeile %2.</translation>
+    </message>
+    <message>
+        <source>the deck holds no table %1.</source>
+        <translation>das Deck enthält keine Tabelle %1.</translation>
+    </message>
+    <message>
+        <source>no keyword line of the deck names the node list &apos;%1&apos;.</source>
+        <translation>keine Schlüsselwortzeile des Decks nennt die Knotenliste &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>coDeckCompare</name>
+    <message>
+        <source>only in the first deck, line %1</source>
+        <translation>nur im ersten Deck, Zeile %1</translation>
+    </message>
+    <message>
+        <source>only in the second deck, line %1</source>
+        <translation>nur im zweiten Deck, Zeile %1</translation>
+    </message>
+    <message>
+        <source>at another place: line %1, line %2</source>
+        <translation>an anderer Stelle: Zeile %1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>words that differ: %1, the first:</source>
+        <translation>abweichende Wörter: %1, das erste:</translation>
+    </message>
+    <message>
+        <source> (numbers by up to %1, relatively)</source>
+        <translation> (Zahlen um bis zu %1, relativ)</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>coDeckFinding</name>
+    <message>
+        <source>line %1, column %2: </source>
+        <translation>Zeile %1, Spalte %2: </translation>
+    </message>
+    <message>
+        <source>line %1: </source>
+        <translation>Zeile %1: </translation>
+    </message>
+    <message>
+        <source>error: </source>
+        <translation>Fehler: </translation>
+    </message>
+    <message>
+        <source>warning: </source>
+        <translation>Warnung: </translation>
+    </message>
+</context>
+<context>
+    <name>coDeckLayout</name>
+    <message>
+        <source>standard widths</source>
+        <translation>Standardbreiten</translation>
+    </message>
+    <message>
+        <source>extended widths</source>
+        <translation>erweiterte Breiten</translation>
+    </message>
+    <message>
+        <source>%1, as given</source>
+        <translation>%1, wie angegeben</translation>
+    </message>
+    <message>
+        <source>%1, as line %2 shows</source>
+        <translation>%1, wie Zeile %2 zeigt</translation>
+    </message>
+    <message>
+        <source>%1, which the deck does not show</source>
+        <translation>%1, was das Deck nicht zeigt</translation>
+    </message>
+</context>
+<context>
+    <name>coDeckOption</name>
+    <message>
+        <source>comments</source>
+        <translation>Kommentare</translation>
+    </message>
+    <message>
+        <source>lines without keyword</source>
+        <translation>Zeilen ohne Schlüsselwort</translation>
+    </message>
+    <message>
+        <source>%1 &apos;%2&apos;</source>
+        <translation>%1 &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
+    <name>coDeckPatch</name>
+    <message>
+        <source>The deck &apos;%1&apos; cannot be read: %2</source>
+        <translation>Das Deck &apos;%1&apos; kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The folder of &apos;%1&apos; is locked by process %2 (%3) on %4.</source>
+        <translation>Der Ordner von &apos;%1&apos; ist von Prozess %2 (%3) auf %4 gesperrt.</translation>
+    </message>
+    <message>
+        <source>The folder of &apos;%1&apos; cannot be locked.</source>
+        <translation>Der Ordner von &apos;%1&apos; kann nicht gesperrt werden.</translation>
+    </message>
+    <message>
+        <source>The deck &apos;%1&apos; was changed by somebody else; read it again.</source>
+        <translation>Das Deck &apos;%1&apos; wurde inzwischen von jemand anderem geändert; lesen Sie es neu ein.</translation>
+    </message>
+    <message>
+        <source>No file can be written beside &apos;%1&apos;: %2</source>
+        <translation>Neben &apos;%1&apos; kann keine Datei geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The old deck cannot be kept as &apos;%1&apos;.</source>
+        <translation>Das alte Deck kann nicht als &apos;%1&apos; aufgehoben werden.</translation>
+    </message>
+    <message>
+        <source>The changed deck cannot take the place of &apos;%1&apos;: %2</source>
+        <translation>Das geänderte Deck kann &apos;%1&apos; nicht ersetzen: %2</translation>
+    </message>
+    <message>
+        <source>The changed deck cannot be written: %1</source>
+        <translation>Das geänderte Deck kann nicht geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>coDeckReader</name>
+    <message>
+        <source>keyword expected, found data.</source>
+        <translation>Schlüsselwort erwartet, Daten gefunden.</translation>
+    </message>
+    <message>
+        <source>data lines that do not belong to the option: %1.</source>
+        <translation>Datenzeilen, die nicht zur Option gehören: %1.</translation>
+    </message>
+    <message>
+        <source>the line has more than the %1 columns that the solver reads.</source>
+        <translation>die Zeile hat mehr als die %1 Spalten, die der Solver liest.</translation>
+    </message>
+    <message>
+        <source>data line expected, found &apos;%1&apos;.</source>
+        <translation>Datenzeile erwartet, &apos;%1&apos; gefunden.</translation>
+    </message>
+    <message>
+        <source>data line expected, found the end of the deck.</source>
+        <translation>Datenzeile erwartet, Ende des Decks gefunden.</translation>
+    </message>
+    <message>
+        <source>text line expected, found the end of the deck.</source>
+        <translation>Textzeile erwartet, Ende des Decks gefunden.</translation>
+    </message>
+    <message>
+        <source>&apos;time step&apos; expected, found &apos;%1&apos;.</source>
+        <translation>&apos;time step&apos; erwartet, &apos;%1&apos; gefunden.</translation>
+    </message>
+    <message>
+        <source>%1 is the number of no solver.</source>
+        <translation>%1 ist keine Nummer eines Solvers.</translation>
+    </message>
+    <message>
+        <source>2 or 3 forces expected, found %1.</source>
+        <translation>2 oder 3 Kräfte erwartet, %1 gefunden.</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>ganze Zahl</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>finite number</source>
+        <translation>endliche Zahl</translation>
+    </message>
+    <message>
+        <source>end of line expected, found &apos;%1&apos;.</source>
+        <translation>Zeilenende erwartet, &apos;%1&apos; gefunden.</translation>
+    </message>
+    <message>
+        <source>%1 expected in field %2, found nothing.</source>
+        <translation>%1 in Feld %2 erwartet, nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>%1 expected in field %2, found &apos;%3&apos;.</source>
+        <translation>%1 in Feld %2 erwartet, &apos;%3&apos; gefunden.</translation>
+    </message>
+    <message>
+        <source>field %1 is %2, where cards write %3.</source>
+        <translation>Feld %1 ist %2, wo Karten %3 schreiben.</translation>
+    </message>
+    <message>
+        <source>read method 0, 1, 2 or 3 expected, found %1.</source>
+        <translation>Leseverfahren 0, 1, 2 oder 3 erwartet, %1 gefunden.</translation>
+    </message>
+    <message>
+        <source>1 or 2 variables expected, found %1.</source>
+        <translation>1 oder 2 Variablen erwartet, %1 gefunden.</translation>
+    </message>
+    <message>
+        <source>variable %1 has no type.</source>
+        <translation>Variable %1 hat keine Art.</translation>
+    </message>
+    <message>
+        <source>a table of two variables cannot be read point by point.</source>
+        <translation>eine Tabelle zweier Variablen lässt sich nicht punktweise lesen.</translation>
+    </message>
+    <message>
+        <source>formula expected, found an empty line.</source>
+        <translation>Formel erwartet, leere Zeile gefunden.</translation>
+    </message>
+    <message>
+        <source>x must not descend, but %1 follows %2.</source>
+        <translation>x darf nicht fallen, aber %1 folgt auf %2.</translation>
+    </message>
+    <message>
+        <source>%1 points are announced, %2 follow.</source>
+        <translation>%1 Punkte sind angekündigt, %2 folgen.</translation>
+    </message>
+    <message>
+        <source>the table has no points.</source>
+        <translation>die Tabelle hat keine Punkte.</translation>
+    </message>
+    <message>
+        <source>table values</source>
+        <translation>Tabellenwerte</translation>
+    </message>
+    <message>
+        <source>values %1 and %2 of variable %3 print alike: %4.</source>
+        <translation>die Werte %1 und %2 der Variablen %3 werden gleich gedruckt: %4.</translation>
+    </message>
+    <message>
+        <source>the values of variable %1 must ascend, but %2 follows %3.</source>
+        <translation>die Werte der Variablen %1 müssen steigen, aber %2 folgt auf %3.</translation>
+    </message>
+    <message>
+        <source>values of variable %1</source>
+        <translation>Werte der Variablen %1</translation>
+    </message>
+    <message>
+        <source>%1 %2 expected, found %3.</source>
+        <translation>%1 %2 erwartet, %3 gefunden.</translation>
+    </message>
+    <message>
+        <source>finite number expected, found &apos;%1&apos;.</source>
+        <translation>endliche Zahl erwartet, &apos;%1&apos; gefunden.</translation>
+    </message>
+    <message>
+        <source>number expected, found &apos;%1&apos;.</source>
+        <translation>Zahl erwartet, &apos;%1&apos; gefunden.</translation>
+    </message>
+    <message>
+        <source>two values of a variable are too close to be told apart.</source>
+        <translation>zwei Werte einer Variablen liegen zu dicht beieinander, um sie zu unterscheiden.</translation>
+    </message>
+</context>
+<context>
+    <name>coDeckScanner</name>
+    <message>
+        <source>The deck cannot be read on after line %1: %2</source>
+        <translation>Das Deck lässt sich nach Zeile %1 nicht weiterlesen: %2</translation>
     </message>
 </context>
 <context>

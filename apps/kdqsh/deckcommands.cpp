@@ -7,7 +7,7 @@ const ShellCommandGroup& DeckCommands::group()
 {
     static const ShellCommandGroup group{"deck", "DeckCommands",
                                          QT_TR_NOOP("The solver's input deck: its lines and its cards."),
-                                         lineEntries() + cardEntries()};
+                                         lineEntries() + cardEntries() + fileEntries()};
     return group;
 }
 

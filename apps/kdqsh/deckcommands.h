@@ -16,6 +16,7 @@ public:
 private:
     static QVector<ShellCommandEntry> lineEntries();
     static QVector<ShellCommandEntry> cardEntries();
+    static QVector<ShellCommandEntry> fileEntries();
 
     static bool open(ShellCall& call);
     static bool close(ShellCall& call);
@@ -46,6 +47,12 @@ private:
     static bool autoLoad(ShellCall& call);
     static bool pointLoad(ShellCall& call);
     static bool pointCurrent(ShellCall& call);
+
+    static bool check(ShellCall& call);
+    static bool show(ShellCall& call);
+    static bool diff(ShellCall& call);
+    static bool patch(ShellCall& call);
+    static bool tables(ShellCall& call);
 
     static CFEDatLineWriter& writer();
     static bool writeCard(const cFeAbstractDatCard& card);

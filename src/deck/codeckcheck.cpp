@@ -63,7 +63,8 @@ void coDeckCheck::checkReferences()
         }
         if (!reference.nodeList.isEmpty() && !m_words.contains(reference.nodeList)) {
             finding.severity = coDeckFinding::Warning;
-            finding.text = tr("no keyword line of the deck names the node list '%1'.").arg(reference.nodeList);
+            finding.text =
+                tr("no keyword line of the deck names the node list '%1'.").arg(reference.nodeList);
             add(finding);
         }
     }

@@ -27,7 +27,8 @@ std::optional<Mode> modeByReals(const coDeckLine& line)
     const char* start = c;
     while (start != line.begin && (isDigit(start[-1]) || start[-1] == '-'))
         --start;
-    const bool isFull = c != line.end && (start == line.begin || start[-1] == ',' || (start - line.begin) % 5 == 0);
+    const bool isFull =
+        c != line.end && (start == line.begin || start[-1] == ',' || (start - line.begin) % 5 == 0);
     const char* end = isFull ? ++c : line.end;
     while (end != line.end && isDigit(*end))
         ++end;

@@ -26,8 +26,8 @@ public:
     coDeckLayout() = default;
     coDeckLayout(CFEDatLineWriter::datExtensionMode mode) : m_mode(mode), m_source(Given) { }
 
-    /// Looks through the first lines of a deck, at most some 10 000. A sequential device yields Assumed, since
-    /// it cannot be read twice; any other is left where it stood.
+    /// Looks through the first lines of a deck, at most some 10 000. A sequential device yields Assumed,
+    /// since it cannot be read twice; any other is left where it stood.
     static coDeckLayout find(QIODevice& deck);
 
     CFEDatLineWriter::datExtensionMode mode() const { return m_mode; }

@@ -50,7 +50,8 @@ const Keyword* findKeyword(const coDeckLine& line)
 /// A table's name may follow its keyword at once; the parameter section's key "table" is followed by numbers.
 bool isTableSection(const coDeckLine& line, int start)
 {
-    const QByteArray rest = QByteArray(line.begin + start, line.length() - start).replace(',', ' ').simplified();
+    const QByteArray rest =
+        QByteArray(line.begin + start, line.length() - start).replace(',', ' ').simplified();
     return rest == "0 0 2 1 1 0 0 1";
 }
 

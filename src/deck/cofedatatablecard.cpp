@@ -138,6 +138,29 @@ bool coFeDataTableCard::setGrid(const kdDataTable& table, const IndependentVarUs
     return takeGrid(table, variable2, &xUnit, &yUnit);
 }
 
+kdDataTable coFeDataTableCard::toTable() const
+{
+    const auto& variable1 = static_cast<const IndependentVarUsingValues&>(independentVariable1());
+    const auto* variable2 = static_cast<const IndependentVarUsingValues*>(independentVariable2());
+    const QList<double>& x = variable2 ? variable1.distinctValues() : variable1.values();
+    const QList<double> names = variable2 ? variable2->distinctValues() : QList<double>{0.0};
+    const auto columnOf = [](const QList<double>& values) {
+        kdDataColumn column;
+        column.setValues(QVector<double>(values.begin(), values.end()));
+        return column;
+    };
+    kdDataTable table;
+    table.setName(tableName());
+    table.appendColumn(columnOf(x));
+    for (int i = 0; i < names.size(); ++i) {
+        kdDataColumn column = columnOf(m_ownValues.mid(i * x.size(), x.size()));
+        if (variable2)
+            column.setName(number(names.at(i)));
+        table.appendColumn(column);
+    }
+    return table;
+}
+
 void coFeDataTableCard::setOwnValues(const QList<double>& values)
 {
     m_ownValues = values;

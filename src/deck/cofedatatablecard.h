@@ -42,6 +42,10 @@ public:
     bool setGrid(const kdDataTable& table, const IndependentVarUsingValues& variable2,
                  const kdUnitSystem& xUnit, const kdUnitSystem& yUnit);
 
+    /// The card's values as a table: X and Y; of a grid one further column for each value of the second
+    /// variable, which is its name. Without units: a card keeps none.
+    kdDataTable toTable() const;
+
     /// Takes dependent values as they are; whether they fit the variables shows in write() only.
     void setOwnValues(const QList<double>& values);
 

@@ -1,6 +1,5 @@
-#include "deckcomments_p.h"
-
 #include "dattext_p.h"
+#include "deckcomments_p.h"
 
 namespace {
 
@@ -36,7 +35,8 @@ void DeckComments::splitPointLoad(coDeckOption& pointLoad, QString& component, Q
     if (begin == end)
         return;
     const auto isComponent = [&](const QString& text) {
-        return text.startsWith(prefix) && text.endsWith(suffix) && text.size() > prefix.size() + suffix.size();
+        return text.startsWith(prefix) && text.endsWith(suffix)
+            && text.size() > prefix.size() + suffix.size();
     };
     QString text = QString::fromLocal8Bit(paragraph(begin, end));
     const int before = beginOfParagraph(begin);
@@ -57,7 +57,8 @@ int DeckComments::beginOfParagraph(int end) const
     if (end == 0 || !m_lines.at(end - 1).isPlain)
         return end;
     int begin = end - 1;
-    while (begin > 0 && m_lines.at(begin - 1).isPlain && isFull(m_lines.at(begin - 1).text, m_lines.at(begin).text))
+    while (begin > 0 && m_lines.at(begin - 1).isPlain
+           && isFull(m_lines.at(begin - 1).text, m_lines.at(begin).text))
         --begin;
     return begin;
 }

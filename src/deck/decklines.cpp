@@ -4,7 +4,8 @@
 
 namespace {
 
-// Neither the mark behind a full line nor the commas of a data line count: the writer fills lines with fields.
+// Neither the mark behind a full line nor the commas of a data line count: the writer fills lines with
+// fields.
 std::ptrdiff_t width(const coDeckLine& line)
 {
     const char* const end = line.endOfFields();
@@ -65,7 +66,8 @@ const coDeckLine* DeckLines::takeData(coDeckOption& option)
     }
     if (const coDeckLine* line = ahead())
         error(option, 1,
-              tr("data line expected, found '%1'.").arg(QString::fromLocal8Bit(line->begin, qMin(line->length(), 40))));
+              tr("data line expected, found '%1'.")
+                  .arg(QString::fromLocal8Bit(line->begin, qMin(line->length(), 40))));
     else
         error(option, 0, tr("data line expected, found the end of the deck."));
     return nullptr;

@@ -32,7 +32,8 @@ public:
     const coDeckScanner& scanner() const { return m_scanner; }
 
 private:
-    void report(coDeckFinding::Severity severity, const coDeckOption& option, int column, const QString& text);
+    void report(coDeckFinding::Severity severity, const coDeckOption& option, int column,
+                const QString& text);
 
     coDeckScanner m_scanner;
     CFEDatLineWriter::datExtensionMode m_mode;

@@ -1,6 +1,5 @@
-#include "decknumber_p.h"
-
 #include "datreal_p.h"
+#include "decknumber_p.h"
 #include "numbertext.h"
 
 #include <algorithm>

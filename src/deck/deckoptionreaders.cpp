@@ -1,11 +1,10 @@
-#include "deckcardreader_p.h"
-
 #include "cfeautoloadcard.h"
 #include "cfepointcurrentcard.h"
 #include "cofeautoforgecard.h"
 #include "cofeparametersectiontable.h"
 #include "cofesolvercard.h"
 #include "cpointloadcard.h"
+#include "deckcardreader_p.h"
 
 #include <kdQCore/coMarcSolverType>
 

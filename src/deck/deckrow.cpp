@@ -1,6 +1,5 @@
-#include "deckrow_p.h"
-
 #include "decknumber_p.h"
+#include "deckrow_p.h"
 
 #include <cmath>
 
@@ -97,7 +96,8 @@ DeckRow& DeckRow::end()
     if (!m_ok || m_fields.atEnd())
         return *this;
     const coDeckFields::Field& field = m_fields.takeRest();
-    m_lines.error(m_option, field.column, tr("end of line expected, found '%1'.").arg(field.text().trimmed()));
+    m_lines.error(m_option, field.column,
+                  tr("end of line expected, found '%1'.").arg(field.text().trimmed()));
     m_ok = false;
     return *this;
 }
@@ -107,8 +107,9 @@ void DeckRow::fail(const QString& expected)
     const coDeckFields::Field& field = m_fields.field();
     const QString number = QString::number(m_number);
     m_lines.error(m_option, field.column,
-                  field.isEmpty() ? tr("%1 expected in field %2, found nothing.").arg(expected, number)
-                                  : tr("%1 expected in field %2, found '%3'.").arg(expected, number, field.text()));
+                  field.isEmpty()
+                      ? tr("%1 expected in field %2, found nothing.").arg(expected, number)
+                      : tr("%1 expected in field %2, found '%3'.").arg(expected, number, field.text()));
     m_ok = false;
 }
 
@@ -116,7 +117,7 @@ void DeckRow::notOurs(const QString& expected)
 {
     m_isOurs = false;
     const coDeckFields::Field& field = m_fields.field();
-    m_lines.warning(m_option, field.column,
-                    tr("field %1 is %2, where cards write %3.")
-                        .arg(QString::number(m_number), field.text(), expected));
+    m_lines.warning(
+        m_option, field.column,
+        tr("field %1 is %2, where cards write %3.").arg(QString::number(m_number), field.text(), expected));
 }

@@ -1,7 +1,6 @@
-#include "deckcardreader_p.h"
-
 #include "cofedatatablecard.h"
 #include "cofetablecardusingformula.h"
+#include "deckcardreader_p.h"
 #include "decknumber_p.h"
 
 #include <cmath>
@@ -35,7 +34,12 @@ void DeckCardReader::readTable()
 
 bool DeckCardReader::readTableHead(TableHead& head)
 {
-    if (!note(nextRow().integer(m_option.id).integer(head.variables).constants(0, 2).integer(head.readMethod).end()))
+    if (!note(nextRow()
+                  .integer(m_option.id)
+                  .integer(head.variables)
+                  .constants(0, 2)
+                  .integer(head.readMethod)
+                  .end()))
         return false;
     if (head.variables != 1 && head.variables != 2) {
         m_lines.error(m_option, 0, tr("1 or 2 variables expected, found %1.").arg(head.variables));
@@ -65,7 +69,9 @@ void DeckCardReader::readFormula(const TableHead& head)
     for (int i = 0; i < head.variables; ++i)
         m_isOurs = m_isOurs && head.variable[i].points == 0 && head.variable[i].isExtrapolated;
     using Variable = coFeTableCardBase::IndependentVarBase;
-    const auto type = [&head](int i) { return static_cast<nMarc::e_TableVariableType>(head.variable[i].type); };
+    const auto type = [&head](int i) {
+        return static_cast<nMarc::e_TableVariableType>(head.variable[i].type);
+    };
     coFeTableCardUsingFormula card(m_option.name, m_option.id, Variable(type(0)));
     if (head.variables == 2)
         card.setIndependentVariable2(Variable(type(1)));
@@ -88,7 +94,8 @@ void DeckCardReader::readPoints(TableHead& head)
             continue;
         }
         if (count > 0 && x < lastX) {
-            m_lines.error(m_option, 1, tr("x must not descend, but %1 follows %2.").arg(number(x), number(lastX)));
+            m_lines.error(m_option, 1,
+                          tr("x must not descend, but %1 follows %2.").arg(number(x), number(lastX)));
             isGood = false;
         }
         lastX = x;
@@ -134,12 +141,11 @@ bool DeckCardReader::readGridVariable(TableVariable& variable, int number)
     const auto take = [&](double value, qint64 index, int column) {
         if (index > 0 && value <= last) {
             m_lines.error(m_option, column,
-                          value == last
-                              ? tr("values %1 and %2 of variable %3 print alike: %4.")
-                                    .arg(QString::number(index), QString::number(index + 1), QString::number(number),
-                                         ::number(value))
-                              : tr("the values of variable %1 must ascend, but %2 follows %3.")
-                                    .arg(QString::number(number), ::number(value), ::number(last)));
+                          value == last ? tr("values %1 and %2 of variable %3 print alike: %4.")
+                                              .arg(QString::number(index), QString::number(index + 1),
+                                                   QString::number(number), ::number(value))
+                                        : tr("the values of variable %1 must ascend, but %2 follows %3.")
+                                              .arg(QString::number(number), ::number(value), ::number(last)));
             isGood = false;
         }
         last = value;
@@ -165,8 +171,9 @@ bool DeckCardReader::readList(qint64 expected, const QString& what, const Taker&
     }
     if (count == expected)
         return isGood;
-    m_lines.errorInLine(m_option, firstLine,
-                        tr("%1 %2 expected, found %3.").arg(QString::number(expected), what, QString::number(count)));
+    m_lines.errorInLine(
+        m_option, firstLine,
+        tr("%1 %2 expected, found %3.").arg(QString::number(expected), what, QString::number(count)));
     return false;
 }
 
@@ -203,7 +210,8 @@ void DeckCardReader::keepTable(const TableHead& head, const QList<double>& value
     coFeDataTableCard card(m_option.name, m_option.id, variable(0));
     card.setOwnValues(values);
     if (head.variables == 2) {
-        card.setDefaultReadMethodForMoreThan1IndependentVar(static_cast<nMarc::e_TableReadMethod>(head.readMethod));
+        card.setDefaultReadMethodForMoreThan1IndependentVar(
+            static_cast<nMarc::e_TableReadMethod>(head.readMethod));
         card.coFeTableCard::setIndependentVariable2(variable(1));
         if (card.requiredNumberOfVariableDependentValues() != values.size())
             return m_lines.error(m_option, 0, tr("two values of a variable are too close to be told apart."));

@@ -113,8 +113,10 @@ private Q_SLOTS:
                   "solver reads."),
              text("line 3, column 161: error: coordinates: the line has more than the 160 columns that the "
                   "solver reads.")});
-        row("NUL bytes", with(pointTable, "3.55000E+8", "3.55").replace("3.55", QByteArray("3.55000\0+8", 10)),
-            {QStringLiteral("line 4, column 11: error: table 'k': number expected in field 2, found '3.55000%1+8'.")
+        row("NUL bytes",
+            with(pointTable, "3.55000E+8", "3.55").replace("3.55", QByteArray("3.55000\0+8", 10)),
+            {QStringLiteral(
+                 "line 4, column 11: error: table 'k': number expected in field 2, found '3.55000%1+8'.")
                  .arg(QChar(0))});
     }
 

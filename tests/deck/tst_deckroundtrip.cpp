@@ -4,13 +4,13 @@
 
 #include <kdQCore/cFeAutoLoadCard>
 #include <kdQCore/cFePointCurrentCard>
-#include <kdQCore/cPointLoadCard>
 #include <kdQCore/coDeckReader>
 #include <kdQCore/coFeAutoforgeCard>
 #include <kdQCore/coFeDataTableCard>
 #include <kdQCore/coFeParameterSectionTable>
 #include <kdQCore/coFeSolverCard>
 #include <kdQCore/coFeTableCardUsingFormula>
+#include <kdQCore/cPointLoadCard>
 
 #include <QBuffer>
 
@@ -297,9 +297,10 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, text);
         QBuffer device;
-        device.setData("tablet\n         1         1         0         0         2\n         1         1         2\n"
-                       "1.000000000000000E+0"
-                       + text.leftJustified(20) + '\n');
+        device.setData(
+            "tablet\n         1         1         0         0         2\n         1         1         2\n"
+            "1.000000000000000E+0"
+            + text.leftJustified(20) + '\n');
         QVERIFY(device.open(QIODevice::ReadOnly));
         coDeckReader reader(device, CFEDatLineWriter::extended);
         coDeckOption option;
