@@ -166,7 +166,8 @@ bool check(const QString& path)
 int main()
 {
     const QString memory = QStringLiteral("/dev/shm");
-    const QTemporaryDir folder(QDir(QDir(memory).exists() ? memory : QDir::tempPath()).filePath(QStringLiteral("decks-XXXXXX")));
+    const QTemporaryDir folder(
+        QDir(QDir(memory).exists() ? memory : QDir::tempPath()).filePath(QStringLiteral("decks-XXXXXX")));
     const QString realsPath = folder.filePath(QStringLiteral("reals.dat"));
     const QString tablesPath = folder.filePath(QStringLiteral("tables.dat"));
     writeReals(realsPath);

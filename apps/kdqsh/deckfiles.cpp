@@ -1,5 +1,4 @@
 #include "deckcommands.h"
-
 #include "shellsession.h"
 
 #include <kdQCore/coDeckCheck>
@@ -17,16 +16,17 @@ QVector<ShellCommandEntry> DeckCommands::fileEntries()
     using Entry = ShellCommandEntry;
     return {
         {"check", "FILE [standard|extended]",
-         QT_TR_NOOP("Says what the solver would stumble over in a deck; fails on errors, not on warnings."), 1, 2,
-         Entry::Query, check},
-        {"show", "FILE [standard|extended]", QT_TR_NOOP("Lists what a deck holds: line, lines, option."), 1, 2,
-         Entry::Query, show},
+         QT_TR_NOOP("Says what the solver would stumble over in a deck; fails on errors, not on warnings."),
+         1, 2, Entry::Query, check},
+        {"show", "FILE [standard|extended]", QT_TR_NOOP("Lists what a deck holds: line, lines, option."), 1,
+         2, Entry::Query, show},
         {"diff", "FILE FILE [tolerance T] [standard|extended]",
-         QT_TR_NOOP("Compares two decks option by option, numbers within a relative tolerance."), 2, 5, Entry::Query,
-         diff},
+         QT_TR_NOOP("Compares two decks option by option, numbers within a relative tolerance."), 2, 5,
+         Entry::Query, diff},
         {"patch", "FILE replace|before|after|remove OPTION [with LINESFILE] [number N] [keep]",
-         QT_TR_NOOP("Changes one option of a deck and nothing else; the new lines come from a file. OPTION as in "
-                    "'deck show', the N-th of several; keep: the old deck stays as FILE.bak."),
+         QT_TR_NOOP(
+             "Changes one option of a deck and nothing else; the new lines come from a file. OPTION as in "
+             "'deck show', the N-th of several; keep: the old deck stays as FILE.bak."),
          3, 8, Entry::CannotUndo, patch},
         {"tables", "FILE [standard|extended]",
          QT_TR_NOOP("Loads the tables of a deck into the session, under their names, without units."), 1, 2,
@@ -127,7 +127,8 @@ bool DeckCommands::diff(ShellCall& call)
     if (isStandard || isExtended)
         given = coDeckLayout(isStandard ? CFEDatLineWriter::standard : CFEDatLineWriter::extended);
     coDeckCompare compare(tolerance);
-    if (compare.run(first.file(), given.value_or(first.layout()), second.file(), given.value_or(second.layout())))
+    if (compare.run(first.file(), given.value_or(first.layout()), second.file(),
+                    given.value_or(second.layout())))
         return true;
     if (!compare.errorText().isEmpty())
         return call.fail(compare.errorText());
@@ -181,10 +182,12 @@ bool DeckCommands::tables(ShellCall& call)
         const auto card = option.card.dynamicCast<coFeDataTableCard>();
         if (!card)
             continue;
-        const QString name = card->tableName().isEmpty() ? QStringLiteral("table_%1").arg(card->tableId()) : card->tableName();
+        const QString name =
+            card->tableName().isEmpty() ? QStringLiteral("table_%1").arg(card->tableId()) : card->tableName();
         ShellSession::I().tables.put(name, card->toTable());
         names.append(name);
     }
-    call.tell(tr("Tables of '%1': %2.").arg(call.text(0), names.isEmpty() ? tr("none") : names.join(QStringLiteral(", "))));
+    call.tell(tr("Tables of '%1': %2.")
+                  .arg(call.text(0), names.isEmpty() ? tr("none") : names.join(QStringLiteral(", "))));
     return endOf(call, reader);
 }

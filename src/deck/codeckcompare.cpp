@@ -24,7 +24,8 @@ bool coDeckCompare::run(QIODevice& first, const coDeckLayout& firstLayout, QIODe
     for (int i = 0; i < a.options.size(); ++i) {
         const coDeckOption& option = a.options.at(i);
         if (partners.at(i) < 0) {
-            m_differences.append({Difference::OnlyInFirst, option.text(), option.firstLine, 0, {}, {}, 1, 0.0});
+            m_differences.append(
+                {Difference::OnlyInFirst, option.text(), option.firstLine, 0, {}, {}, 1, 0.0});
             continue;
         }
         isMatched[partners.at(i)] = true;
@@ -34,7 +35,8 @@ bool coDeckCompare::run(QIODevice& first, const coDeckLayout& firstLayout, QIODe
     for (int i = 0; i < b.options.size(); ++i) {
         const coDeckOption& option = b.options.at(i);
         if (!isMatched.at(i))
-            m_differences.append({Difference::OnlyInSecond, option.text(), 0, option.firstLine, {}, {}, 1, 0.0});
+            m_differences.append(
+                {Difference::OnlyInSecond, option.text(), 0, option.firstLine, {}, {}, 1, 0.0});
     }
     return m_differences.isEmpty();
 }
@@ -68,7 +70,7 @@ QVector<int> coDeckCompare::match(const Deck& first, const Deck& second)
 /// All but a longest run of partners that ascends stand elsewhere.
 void coDeckCompare::findMoved(const Deck& first, const Deck& second, const QVector<int>& partners)
 {
-    QVector<int> ends;                               // of the best run of each length, as indices of the first
+    QVector<int> ends; // of the best run of each length, as indices of the first
     QVector<int> previous(partners.size(), -1);
     for (int i = 0; i < partners.size(); ++i) {
         if (partners.at(i) < 0)
@@ -88,8 +90,14 @@ void coDeckCompare::findMoved(const Deck& first, const Deck& second, const QVect
         if (partners.at(i) < 0 || isInRun.at(i))
             continue;
         const coDeckOption& option = first.options.at(i);
-        m_differences.append({Difference::Moved, option.text(), option.firstLine,
-                              second.options.at(partners.at(i)).firstLine, {}, {}, 1, 0.0});
+        m_differences.append({Difference::Moved,
+                              option.text(),
+                              option.firstLine,
+                              second.options.at(partners.at(i)).firstLine,
+                              {},
+                              {},
+                              1,
+                              0.0});
     }
 }
 
@@ -129,12 +137,14 @@ bool coDeckCompare::isSame(const QByteArray& a, const QByteArray& b, double& rel
         return true;
     int wholeA = 0;
     int wholeB = 0;
-    const bool isWhole = nDeckNumber::readInt(a.begin(), a.end(), wholeA) && nDeckNumber::readInt(b.begin(), b.end(), wholeB);
+    const bool isWhole =
+        nDeckNumber::readInt(a.begin(), a.end(), wholeA) && nDeckNumber::readInt(b.begin(), b.end(), wholeB);
     if (isWhole)
         return wholeA == wholeB;
     double valueA = 0.0;
     double valueB = 0.0;
-    if (!nDeckNumber::readReal(a.begin(), a.end(), valueA) || !nDeckNumber::readReal(b.begin(), b.end(), valueB))
+    if (!nDeckNumber::readReal(a.begin(), a.end(), valueA)
+        || !nDeckNumber::readReal(b.begin(), b.end(), valueB))
         return false;
     if (valueA == valueB || (std::isnan(valueA) && std::isnan(valueB)))
         return true;

@@ -42,7 +42,7 @@ public:
         qint64 secondLine = 0;
         QString first; ///< the words that differ, empty where one deck has no more
         QString second;
-        qint64 count = 1;          ///< words of the option that differ
+        qint64 count = 1;           ///< words of the option that differ
         double largestRelative = 0; ///< of the numbers among them
     };
 

@@ -26,7 +26,7 @@ coDeckFields::coDeckFields(const coDeckLine& line, CFEDatLineWriter::datExtensio
 
 coDeckFields::coDeckFields(const coDeckLine& line, CFEDatLineWriter::datExtensionMode mode,
                            CFEDatLineWriter::datFormat format, int start)
-    : m_begin(line.begin), m_next(line.begin + std::min(start, line.length())), m_end(line.endOfFields()),
+    : m_begin(line.begin), m_next(line.begin + std::min(start, line.length())), m_end(line.endOfFields),
       m_isFree(format != CFEDatLineWriter::fixed), m_isStandard(mode == CFEDatLineWriter::standard)
 {
 }
@@ -69,7 +69,7 @@ const coDeckFields::Field& coDeckFields::takeRest()
     return m_field;
 }
 
-bool coDeckFields::atEnd() const
+bool coDeckFields::isRestBlank() const
 {
     return std::all_of(m_next, m_end, isBlank);
 }

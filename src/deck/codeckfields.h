@@ -47,10 +47,11 @@ public:
     const Field& takeRest();
 
     /// Whether nothing but blanks is left.
-    bool atEnd() const;
+    bool atEnd() const { return m_next == m_end || ((*m_next == ' ' || *m_next == '\t') && isRestBlank()); }
 
 private:
     const Field& take(int width);
+    bool isRestBlank() const;
 
     const char* m_begin = nullptr; ///< of the line
     const char* m_next = nullptr;

@@ -22,8 +22,8 @@ class QIODevice;
 ///     return fail(patch.errorText());
 /// \endcode
 ///
-/// apply() writes a temporary file beside the deck, while it holds the lock of the deck's folder, and moves it
-/// over the deck only when all of it is on disk: who reads the deck sees the old one or the new one, and a
+/// apply() writes a temporary file beside the deck, while it holds the lock of the deck's folder, and moves
+/// it over the deck only when all of it is on disk: who reads the deck sees the old one or the new one, and a
 /// crash costs neither. Nothing is done where somebody else changed the deck after read(). A link is
 /// followed, permissions stay.
 ///

@@ -61,7 +61,7 @@ class coDeckReader::Private {
 public:
     Private(QIODevice& deck, CFEDatLineWriter::datExtensionMode mode, Wanted wanted,
             const coDeckFindingSink& sink)
-        : lines(deck, mode, sink), wantsCards(wanted == Cards)
+        : lines(deck, mode, wanted == Cards, sink)
     {
     }
 
@@ -83,7 +83,6 @@ private:
     void readSurplus(coDeckOption& option);
     void readOther(coDeckOption& option);
 
-    bool wantsCards;
     DeckComments comments; ///< read, but not yet handed out
     coDeckOption pointLoad;
     QString pointLoadComponent;
@@ -151,7 +150,7 @@ void coDeckReader::Private::readKnown(coDeckOption& option, const Keyword& keywo
     if (isFree)
         option.format = CFEDatLineWriter::free;
     const int start = length + (isFree ? 1 : 0);
-    DeckCardReader reader(lines, option, wantsCards);
+    DeckCardReader reader(lines, option);
     switch (keyword.kind) {
     case coDeckOption::Title:
     case coDeckOption::LoadCase:

@@ -37,25 +37,16 @@ coDeckLine::Kind kindOf(const char* begin, const char* end)
     return beginsNumber(first, end) ? coDeckLine::Data : coDeckLine::Keyword;
 }
 
-const char* withoutBlanks(const char* begin, const char* end)
+const char* endOfFields(const char* begin, const char* end)
 {
-    while (end != begin && (end[-1] == ' ' || end[-1] == '\t'))
-        --end;
-    return end;
+    const char* last = end;
+    while (last != begin && (last[-1] == ' ' || last[-1] == '\t'))
+        --last;
+    const bool isContinued = last - begin >= 2 && (last[-1] == 'c' || last[-1] == 'C') && last[-2] == ' ';
+    return isContinued ? last - 2 : end;
 }
 
 } // namespace
-
-bool coDeckLine::isContinued() const
-{
-    const char* last = withoutBlanks(begin, end);
-    return kind == Data && last - begin >= 2 && (last[-1] == 'c' || last[-1] == 'C') && last[-2] == ' ';
-}
-
-const char* coDeckLine::endOfFields() const
-{
-    return isContinued() ? withoutBlanks(begin, end) - 2 : end;
-}
 
 bool coDeckLine::isFree() const
 {
@@ -100,6 +91,7 @@ void coDeckScanner::take(const char* begin, const char* end, qint64 size)
     m_line.begin = begin;
     m_line.end = end;
     m_line.kind = kindOf(begin, end);
+    m_line.endOfFields = m_line.kind == coDeckLine::Data ? endOfFields(begin, end) : end;
 }
 
 // Moves the rest of the buffer to its front and reads on behind it.

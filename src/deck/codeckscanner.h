@@ -19,18 +19,17 @@ struct coDeckLine {
 
     Kind kind = Blank;
     const char* begin = nullptr;
-    const char* end = nullptr; ///< without line end
-    qint64 number = 0;         ///< counted from 1
-    qint64 offset = 0;         ///< of the first byte in the deck
-    qint64 size = 0;           ///< in bytes, line end included
-    bool isCut = false;        ///< too long to be kept whole: \a end is not its end
+    const char* end = nullptr;         ///< without line end
+    const char* endOfFields = nullptr; ///< before the continuation mark of a continued line, else end
+    qint64 number = 0;                 ///< counted from 1
+    qint64 offset = 0;                 ///< of the first byte in the deck
+    qint64 size = 0;                   ///< in bytes, line end included
+    bool isCut = false;                ///< too long to be kept whole: \a end is not its end
 
     int length() const { return static_cast<int>(end - begin); }
     QByteArray bytes() const { return QByteArray(begin, length()); }
     /// Whether the next line goes on with this one's record.
-    bool isContinued() const;
-    /// Where the fields end: before the continuation mark of a continued line.
-    const char* endOfFields() const;
+    bool isContinued() const { return endOfFields != end; }
     /// Whether fields are separated by commas.
     bool isFree() const;
 };

@@ -3,8 +3,6 @@
 #include "decklines_p.h"
 #include "deckrow_p.h"
 
-#include <functional>
-
 /// Reads the data lines of the options that this library's cards write. Each function is called with the
 /// option's keyword line taken; it takes the option's other lines, reports what is wrong with them, and sets
 /// the card where there is nothing wrong and cards are wanted.
@@ -12,10 +10,7 @@ class DeckCardReader {
     Q_DECLARE_TR_FUNCTIONS(coDeckReader)
 
 public:
-    DeckCardReader(DeckLines& lines, coDeckOption& option, bool wantsCards)
-        : m_lines(lines), m_option(option), m_wantsCards(wantsCards)
-    {
-    }
+    DeckCardReader(DeckLines& lines, coDeckOption& option) : m_lines(lines), m_option(option) { }
 
     void readTableSection();
     void readProcess();
@@ -46,7 +41,7 @@ private:
     template <typename Card>
     void keep(const Card& card)
     {
-        if (m_wantsCards && m_isOurs)
+        if (m_lines.readsCards() && m_isOurs)
             m_option.card = QSharedPointer<Card>::create(card);
     }
 
@@ -56,13 +51,16 @@ private:
     void readPoints(TableHead& head);
     void readGrid(TableHead& head);
     bool readGridVariable(TableVariable& variable, int number);
-    using Taker = std::function<void(double value, qint64 index, int column)>;
+    /// \a taker takes value, index and column.
+    template <typename Taker>
     bool readList(qint64 expected, const QString& what, const Taker& taker);
+    template <typename Taker>
     bool readListLine(const coDeckLine& line, qint64& count, const Taker& taker);
+    bool readValue(coDeckFields& fields, double& value);
+    bool isAtEnd(coDeckFields& fields);
     void keepTable(const TableHead& head, const QList<double>& values);
 
     DeckLines& m_lines;
     coDeckOption& m_option;
-    bool m_wantsCards;
     bool m_isOurs = true;
 };

@@ -1,4 +1,5 @@
 #include "decklines_p.h"
+#include "decknumber_p.h"
 
 #include <algorithm>
 
@@ -8,17 +9,16 @@ namespace {
 // fields.
 std::ptrdiff_t width(const coDeckLine& line)
 {
-    const char* const end = line.endOfFields();
-    const std::ptrdiff_t length = end - line.begin;
-    if (line.kind != coDeckLine::Data || length <= CFEDatLineWriter::maxLineWidth)
-        return length;
-    return length - std::count(line.begin, end, ',');
+    const std::ptrdiff_t commas =
+        line.kind == coDeckLine::Data ? std::count(line.begin, line.endOfFields, ',') : 0;
+    return line.endOfFields - line.begin - commas;
 }
 
 } // namespace
 
-DeckLines::DeckLines(QIODevice& deck, CFEDatLineWriter::datExtensionMode mode, const coDeckFindingSink& sink)
-    : m_scanner(deck), m_mode(mode), m_sink(sink)
+DeckLines::DeckLines(QIODevice& deck, CFEDatLineWriter::datExtensionMode mode, bool readsCards,
+                     const coDeckFindingSink& sink)
+    : m_scanner(deck), m_mode(mode), m_readsCards(readsCards), m_sink(sink)
 {
 }
 
@@ -45,7 +45,8 @@ const coDeckLine& DeckLines::take(coDeckOption& option)
     }
     ++option.lines;
     option.size = line.offset + line.size - option.offset;
-    if (width(line) > CFEDatLineWriter::maxLineWidth)
+    if (Q_UNLIKELY(line.length() > CFEDatLineWriter::maxLineWidth
+                   && width(line) > CFEDatLineWriter::maxLineWidth))
         report(line.kind == coDeckLine::Data ? coDeckFinding::Error : coDeckFinding::Warning, option,
                CFEDatLineWriter::maxLineWidth + 1,
                tr("the line has more than the %1 columns that the solver reads.")
@@ -82,6 +83,12 @@ bool DeckLines::takeText(coDeckOption& option, QString& text)
     const coDeckLine& line = take(option);
     text = QString::fromLocal8Bit(line.begin, line.length());
     return true;
+}
+
+bool DeckLines::readReal(const coDeckFields::Field& field, double& value) const
+{
+    return m_readsCards ? nDeckNumber::readCardReal(field.begin, field.end, value)
+                        : nDeckNumber::readReal(field.begin, field.end, value);
 }
 
 void DeckLines::error(const coDeckOption& option, int column, const QString& text)

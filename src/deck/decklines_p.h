@@ -10,7 +10,13 @@ class DeckLines {
     Q_DECLARE_TR_FUNCTIONS(coDeckReader)
 
 public:
-    DeckLines(QIODevice& deck, CFEDatLineWriter::datExtensionMode mode, const coDeckFindingSink& sink);
+    DeckLines(QIODevice& deck, CFEDatLineWriter::datExtensionMode mode, bool readsCards,
+              const coDeckFindingSink& sink);
+
+    /// Whether values are for cards, and kept.
+    bool readsCards() const { return m_readsCards; }
+    /// As cards read, or nearest; see nDeckNumber.
+    bool readReal(const coDeckFields::Field& field, double& value) const;
 
     /// The line ahead; null at the end of the deck.
     const coDeckLine* ahead();
@@ -37,6 +43,7 @@ private:
 
     coDeckScanner m_scanner;
     CFEDatLineWriter::datExtensionMode m_mode;
+    bool m_readsCards;
     coDeckFindingSink m_sink;
     bool m_isAhead = false;
     qint64 m_knownFormat = 0; ///< first line of the option whose format is known

@@ -57,8 +57,7 @@ DeckRow& DeckRow::real(double& value)
     if (!m_ok)
         return *this;
     ++m_number;
-    const coDeckFields::Field& field = m_fields.takeReal();
-    if (!nDeckNumber::readCardReal(field.begin, field.end, value))
+    if (!m_lines.readReal(m_fields.takeReal(), value))
         fail(tr("number"));
     else if (!std::isfinite(value))
         fail(tr("finite number"));

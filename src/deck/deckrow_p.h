@@ -19,7 +19,6 @@ public:
     /// A number that our cards always write. Another one is read, but no card can hold it.
     DeckRow& constant(int expected);
     DeckRow& constants(int expected, int count);
-    /// As cards read: see nDeckNumber.
     DeckRow& real(double& value);
     DeckRow& constantReal(double expected);
     /// What is left of the line.

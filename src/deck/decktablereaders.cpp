@@ -1,7 +1,6 @@
 #include "cofedatatablecard.h"
 #include "cofetablecardusingformula.h"
 #include "deckcardreader_p.h"
-#include "decknumber_p.h"
 
 #include <cmath>
 
@@ -13,6 +12,44 @@ QString number(double value)
 }
 
 } // namespace
+
+template <typename Taker>
+bool DeckCardReader::readListLine(const coDeckLine& line, qint64& count, const Taker& taker)
+{
+    coDeckFields fields(line, m_lines.mode(), m_option.format);
+    bool isGood = true;
+    for (; !fields.atEnd(); ++count) {
+        double value = 0.0;
+        if (readValue(fields, value))
+            taker(value, count, fields.field().column);
+        else
+            isGood = false;
+    }
+    return isGood;
+}
+
+template <typename Taker>
+bool DeckCardReader::readList(qint64 expected, const QString& what, const Taker& taker)
+{
+    qint64 count = 0;
+    qint64 firstLine = 0;
+    bool isGood = true;
+    bool isContinued = true;
+    while (isContinued) {
+        const coDeckLine* line = m_lines.takeData(m_option);
+        if (!line)
+            return false;
+        firstLine = firstLine == 0 ? line->number : firstLine;
+        isContinued = line->isContinued();
+        isGood = readListLine(*line, count, taker) && isGood;
+    }
+    if (count == expected)
+        return isGood;
+    m_lines.errorInLine(
+        m_option, firstLine,
+        tr("%1 %2 expected, found %3.").arg(QString::number(expected), what, QString::number(count)));
+    return false;
+}
 
 void DeckCardReader::readTable()
 {
@@ -88,8 +125,8 @@ void DeckCardReader::readPoints(TableHead& head)
     for (; m_lines.isDataAhead(); ++count) {
         double x = 0.0;
         double y = 0.0;
-        DeckRow row = nextRow();
-        if (!note(row.real(x).real(y).end())) {
+        coDeckFields fields(m_lines.take(m_option), m_lines.mode(), m_option.format);
+        if (!readValue(fields, x) || !readValue(fields, y) || !isAtEnd(fields)) {
             isGood = false;
             continue;
         }
@@ -99,7 +136,7 @@ void DeckCardReader::readPoints(TableHead& head)
             isGood = false;
         }
         lastX = x;
-        if (m_wantsCards) {
+        if (m_lines.readsCards()) {
             head.variable[0].values.append(x);
             values.append(y);
         }
@@ -125,7 +162,7 @@ void DeckCardReader::readGrid(TableHead& head)
     QList<double> values;
     isGood = readList(expected, tr("table values"),
                       [&](double value, qint64, int) {
-                          if (m_wantsCards)
+                          if (m_lines.readsCards())
                               values.append(value);
                       })
         && isGood;
@@ -149,58 +186,37 @@ bool DeckCardReader::readGridVariable(TableVariable& variable, int number)
             isGood = false;
         }
         last = value;
-        if (m_wantsCards)
+        if (m_lines.readsCards())
             variable.values.append(value);
     };
     return readList(variable.points, tr("values of variable %1").arg(number), take) && isGood;
 }
 
-bool DeckCardReader::readList(qint64 expected, const QString& what, const Taker& taker)
+bool DeckCardReader::readValue(coDeckFields& fields, double& value)
 {
-    qint64 count = 0;
-    qint64 firstLine = 0;
-    bool isGood = true;
-    bool isContinued = true;
-    while (isContinued) {
-        const coDeckLine* line = m_lines.takeData(m_option);
-        if (!line)
-            return false;
-        firstLine = firstLine == 0 ? line->number : firstLine;
-        isContinued = line->isContinued();
-        isGood = readListLine(*line, count, taker) && isGood;
-    }
-    if (count == expected)
-        return isGood;
-    m_lines.errorInLine(
-        m_option, firstLine,
-        tr("%1 %2 expected, found %3.").arg(QString::number(expected), what, QString::number(count)));
+    const bool isNumber = m_lines.readReal(fields.takeReal(), value);
+    if (Q_LIKELY(isNumber && std::isfinite(value)))
+        return true;
+    const coDeckFields::Field& field = fields.field();
+    m_lines.error(m_option, field.column,
+                  isNumber ? tr("finite number expected, found '%1'.").arg(field.text())
+                           : tr("number expected, found '%1'.").arg(field.text()));
     return false;
 }
 
-bool DeckCardReader::readListLine(const coDeckLine& line, qint64& count, const Taker& taker)
+bool DeckCardReader::isAtEnd(coDeckFields& fields)
 {
-    coDeckFields fields(line, m_lines.mode(), m_option.format);
-    bool isGood = true;
-    for (; !fields.atEnd(); ++count) {
-        double value = 0.0;
-        const coDeckFields::Field& field = fields.takeReal();
-        const bool isNumber = m_wantsCards ? nDeckNumber::readCardReal(field.begin, field.end, value)
-                                           : nDeckNumber::readReal(field.begin, field.end, value);
-        if (isNumber && std::isfinite(value)) {
-            taker(value, count, field.column);
-            continue;
-        }
-        isGood = false;
-        m_lines.error(m_option, field.column,
-                      isNumber ? tr("finite number expected, found '%1'.").arg(field.text())
-                               : tr("number expected, found '%1'.").arg(field.text()));
-    }
-    return isGood;
+    if (fields.atEnd())
+        return true;
+    const coDeckFields::Field& field = fields.takeRest();
+    m_lines.error(m_option, field.column,
+                  tr("end of line expected, found '%1'.").arg(field.text().trimmed()));
+    return false;
 }
 
 void DeckCardReader::keepTable(const TableHead& head, const QList<double>& values)
 {
-    if (!m_wantsCards || !m_isOurs || values.isEmpty())
+    if (!m_lines.readsCards() || !m_isOurs || values.isEmpty())
         return;
     using Variable = coFeTableCard::IndependentVarUsingValues;
     const auto variable = [&head](int i) {

@@ -46,9 +46,9 @@ bool DeckWords::nextLine()
     if (line.kind == coDeckLine::Keyword && skipped == 0 && isWhole)
         m_words.append(line.bytes().trimmed());
     else if (line.isFree())
-        splitFree(line.begin + skipped, line.endOfFields());
+        splitFree(line.begin + skipped, line.endOfFields);
     else
-        splitFixed(line.begin + skipped, line.endOfFields());
+        splitFixed(line.begin + skipped, line.endOfFields);
     return true;
 }
 
@@ -100,7 +100,8 @@ void DeckWords::addRun(const char* begin, const char* end)
     const bool isReal = std::memchr(begin, '.', static_cast<std::size_t>(end - begin)) != nullptr;
     const int field = (isReal ? 10 : 5) * (m_mode == CFEDatLineWriter::standard ? 1 : 2);
     auto length = static_cast<int>(end - begin);
-    for (int first = isNumeric ? length % field : length; length > 0; length -= first, begin += first, first = field)
+    for (int first = isNumeric ? length % field : length; length > 0;
+         length -= first, begin += first, first = field)
         if (first > 0)
             m_words.append(QByteArray(begin, first));
 }

@@ -61,7 +61,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("other");
         QTest::addColumn<double>("tolerance");
         QTest::addColumn<QByteArray>("report");
-        const auto row = [](const char* name, const QByteArray& other, double tolerance, const QByteArray& report) {
+        const auto row = [](const char* name, const QByteArray& other, double tolerance,
+                            const QByteArray& report) {
             QTest::newRow(name) << other << tolerance << report;
         };
         row("other layout", freeDeck, 0.0, "");
@@ -89,8 +90,7 @@ private Q_SLOTS:
         QBuffer b(&other);
         QVERIFY(a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly));
         coDeckCompare compare(tolerance);
-        const bool isSame =
-            compare.run(a, CFEDatLineWriter::standard, b, CFEDatLineWriter::standard);
+        const bool isSame = compare.run(a, CFEDatLineWriter::standard, b, CFEDatLineWriter::standard);
         QTEST(compare.report().toUtf8(), "report");
         QCOMPARE(isSame, compare.report().isEmpty());
     }
@@ -144,11 +144,13 @@ private Q_SLOTS:
             coProjectPathLockFile other(m_folder.path());
             QVERIFY(other.tryLock(0));
             QVERIFY(!patch.apply());
-            QVERIFY2(patch.errorText().contains(QStringLiteral("locked by process")), qPrintable(patch.errorText()));
+            QVERIFY2(patch.errorText().contains(QStringLiteral("locked by process")),
+                     qPrintable(patch.errorText()));
         }
         write(deck + "end\n");
         QVERIFY(!patch.apply());
-        QVERIFY2(patch.errorText().contains(QStringLiteral("changed by somebody else")), qPrintable(patch.errorText()));
+        QVERIFY2(patch.errorText().contains(QStringLiteral("changed by somebody else")),
+                 qPrintable(patch.errorText()));
         QCOMPARE(content(m_path), deck + "end\n");
         QVERIFY(!coDeckPatch(m_folder.filePath(QStringLiteral("missing.dat"))).read());
     }
