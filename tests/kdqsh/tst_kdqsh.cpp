@@ -15,6 +15,7 @@ private Q_SLOTS:
     void deck_data();
     void deck();
     void scriptStopsOrGoesOn_data();
+    void decksAreReadBack();
     void scriptStopsOrGoesOn();
     void commandLine_data();
     void commandLine();
@@ -596,6 +597,26 @@ void TestKdqsh::exportIsReadBack()
         S("table import curve.csv as c; %1; table remove c; %2; table show d").arg(write, read), {S("-q")}));
     QCOMPARE(shell.errors, QString());
     QCOMPARE(shell.output, expected);
+}
+
+void TestKdqsh::decksAreReadBack()
+{
+    KdqshRun shell;
+    prepare(shell);
+    QVERIFY(shell.runCommands(S("table import curve.csv as c; deck open a.dat free standard; "
+                                "deck table c id 3 variable 1 name t1; deck solver mumps; deck close; "
+                                "deck open b.dat fixed standard; deck table c id 3 variable 1 name t1; "
+                                "deck solver mumps nonsymmetric; deck close")));
+    QVERIFY(shell.runCommands(S("deck diff a.dat b.dat")) && shell.status == 1);
+    QVERIFY2(shell.output.contains(S("solver: words that differ: 1")), qPrintable(shell.output));
+    QVERIFY(shell.write(S("lines.txt"), "solver\n12,1,0,0,0,0,0,0,\noptimize,11,\n"));
+    QVERIFY(shell.runCommands(S("deck patch a.dat replace solver with lines.txt keep; deck diff a.dat b.dat; "
+                                "deck check a.dat; deck tables a.dat; table lookup t1 0.5")));
+    QVERIFY2(shell.status == 0 && shell.output.endsWith(S("70\n")), qPrintable(shell.output + shell.errors));
+    QVERIFY(shell.write(S("bad.dat"), "solver\n7,0,0,0,0,0,0,0,\n"));
+    QVERIFY(shell.runCommands(S("deck check bad.dat")) && shell.status == 1);
+    QVERIFY2(shell.output.contains(S("line 2, column 1: error: solver: 7 is the number of no solver.")),
+             qPrintable(shell.output));
 }
 
 void TestKdqsh::csv_data()
