@@ -12,10 +12,11 @@ namespace {
 struct Line {
     Line()
     {
-        client.bind(QHostAddress::LocalHost);
-        server.bind(QHostAddress::LocalHost);
-        client.connectToHost(QHostAddress::LocalHost, server.localPort());
-        server.connectToHost(QHostAddress::LocalHost, client.localPort());
+        const QHostAddress loopback(QHostAddress::LocalHost);
+        client.bind(loopback);
+        server.bind(loopback);
+        client.connectToHost(loopback, server.localPort());
+        server.connectToHost(loopback, client.localPort());
     }
 
     QUdpSocket client;

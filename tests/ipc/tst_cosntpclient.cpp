@@ -156,7 +156,7 @@ void tst_cosntpclient::nobodyIsThere()
     quint16 port = 0;
     {
         QUdpSocket socket;
-        QVERIFY(socket.bind(QHostAddress::LocalHost));
+        QVERIFY(socket.bind(QHostAddress(QHostAddress::LocalHost)));
         port = socket.localPort();
     }
     client = coSntpClient(QStringLiteral("127.0.0.1"), port);
