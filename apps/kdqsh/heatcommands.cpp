@@ -104,7 +104,8 @@ HeatCommands::Stage HeatCommands::findStage(const ShellCall& call, const coHeatT
     Stage stage = isNumber ? process.getStage(number) : Stage();
     if (stage.isNull()) {
         QStringList numbers;
-        for (const int possible : process.getStageIndices())
+        const QList<int> indices = process.getStageIndices();
+        for (const int possible : indices)
             numbers.append(QString::number(possible));
         call.fail(tr("There is no stage '%1', only %2.").arg(index, numbers.join(QLatin1String(", "))));
     }
@@ -146,14 +147,15 @@ bool HeatCommands::create(ShellCall& call)
 bool HeatCommands::listProcesses(ShellCall& call)
 {
     const ShellProcesses& processes = ShellSession::I().processes;
-    for (const QString& name : processes.names()) {
+    const QStringList names = processes.names();
+    for (const QString& name : names) {
         const ShellProcesses::Process process = processes.find(name);
         call.show(tr("Process '%1': %2, %3 stages, %4.")
                       .arg(name, process->fieldOfApplication().translatedDisplayName(),
                            QString::number(process->stages().size()),
                            ::text(process->durationSumOfEnabledStages())));
     }
-    if (processes.names().isEmpty())
+    if (names.isEmpty())
         call.tell(tr("No processes."));
     return true;
 }
@@ -167,7 +169,8 @@ bool HeatCommands::list(ShellCall& call)
         return false;
     QVector<QStringList> rows{
         {tr("stage"), tr("name"), tr("start"), tr("duration"), tr("temperature"), tr("rate"), tr("state")}};
-    for (const int index : process->getStageIndices()) {
+    const QList<int> indices = process->getStageIndices();
+    for (const int index : indices) {
         const Stage stage = process->getStage(index);
         const kdUnitSystem unit = stage->duration().unitSystem();
         const kdUnitValue rate = process->avgTempRateOfStage(index);

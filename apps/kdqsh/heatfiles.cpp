@@ -76,7 +76,8 @@ bool HeatCommands::compare(ShellCall& call)
         return true;
     }
     QStringList different;
-    for (const int index : first->getStageIndices()) {
+    const QList<int> indices = first->getStageIndices();
+    for (const int index : indices) {
         const Stage other = second->getStage(index);
         if (other.isNull() || *first->getStage(index) != *other)
             different.append(QString::number(index));

@@ -126,7 +126,8 @@ bool HeatCommands::readTable(const ShellCall& call, const QString& name, coTable
 bool HeatCommands::readPasses(const ShellCall& call, int index, coHeatTreatmentStage& stage)
 {
     nHeatTreatment::AnalysisPassFlags passes;
-    for (const QString& name : call.text(index).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+    const QStringList names = call.text(index).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString& name : names) {
         const coEnumData::Row* const row = nHeatTreatment::AnalysisPassFlagEnumData.find(name.trimmed());
         if (!row)
             return call.fail(

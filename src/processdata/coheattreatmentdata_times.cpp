@@ -20,7 +20,8 @@ public:
         const double duration = nStageTemperature::seconds(stage);
         if (duration > 0.0 && nStageTemperature::kelvinAt(stage, 0.0)) {
             addPoint(stage, m_table.isEmpty() ? 0.0 : std::min(longestJump, duration / 1000.0), 0.0);
-            for (const double time : nStageTemperature::corners(stage))
+            const QVector<double> corners = nStageTemperature::corners(stage);
+            for (const double time : corners)
                 addPoint(stage, time, time);
             addPoint(stage, duration, duration);
         }

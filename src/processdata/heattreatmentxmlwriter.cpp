@@ -79,7 +79,8 @@ void coHeatTreatmentData::Xml::Writer::writeXml(QXmlStreamWriter& writer, const 
     writer.writeStartElement(xmlElementName());
     writer.writeAttribute(QStringLiteral("factoryName"), data.fieldOfApplication().name());
     writer.writeStartElement(QStringLiteral("stages"));
-    for (const int index : data.getStageIndices())
+    const QList<int> indices = data.getStageIndices();
+    for (const int index : indices)
         writeStage(writer, *data.getStage(index));
     writer.writeEndElement();
     writer.writeEndElement();
