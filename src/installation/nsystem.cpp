@@ -44,21 +44,26 @@ void requireMapped(const MappedFile& mapped, const QString& file)
     throw cWindowsError(context.arg(file), mapped.errorCode());
 }
 
-ByteView versionBlock(const MappedFile& mapped, const QString& file)
+QString sizeFailure(const QString& file)
+{
+    return Texts::tr("Could not get size of version info of file '%1'.").arg(file);
+}
+
+/// Empty where the file itself holds no version resource.
+std::optional<ByteView> versionBlock(const MappedFile& mapped, const QString& file)
 {
     constexpr quint32 versionType = 16;
-    const QString sizeContext = Texts::tr("Could not get size of version info of file '%1'.").arg(file);
     if (mapped.failure() != MappedFile::Failure::None)
-        throw cWindowsError(sizeContext, mapped.errorCode());
+        throw cWindowsError(sizeFailure(file), mapped.errorCode());
     const PeImage image(bytesOf(mapped));
     if (!image.isValid())
-        throw cWindowsError(sizeContext, errorCodeOf(DataFault::BadExecutable));
+        throw cWindowsError(sizeFailure(file), errorCodeOf(DataFault::BadExecutable));
     ByteView block;
     switch (image.findResource(versionType, block)) {
     case PeImage::Lookup::Found:
         break;
     case PeImage::Lookup::Missing:
-        throw cWindowsError(sizeContext, errorCodeOf(DataFault::ResourceMissing));
+        return std::nullopt;
     case PeImage::Lookup::Damaged:
         throw cWindowsError(Texts::tr("Could not get version info of file '%1'.").arg(file),
                             errorCodeOf(DataFault::ResourceMissing));
@@ -99,7 +104,11 @@ coVersionNumber getFileVersionFromStringFileInfo(const QString& file)
 {
     static const QRegularExpression separators(QStringLiteral("\\s*[.,]\\s*"));
     const MappedFile mapped(file);
-    const QString text = fileVersionText(VersionResource(versionBlock(mapped, file)));
+    const auto block = versionBlock(mapped, file);
+    const QString text =
+        block ? fileVersionText(VersionResource(*block)) : nPlatform::fileVersionBySystem(file);
+    if (!block && text.isEmpty())
+        throw cWindowsError(sizeFailure(file), errorCodeOf(DataFault::ResourceMissing));
     const QString numbers = text.trimmed().replace(separators, QStringLiteral("."));
     return coVersionNumber::fromString(numbers.section(QLatin1Char(' '), 0, 0));
 }

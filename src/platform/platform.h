@@ -35,6 +35,11 @@ enum class DataFault {
 /// The system's own error code for such a fault.
 unsigned long errorCodeOf(DataFault fault);
 
+/// The "FileVersion" of an executable in its first language as the system itself reads it, which also knows
+/// files whose texts lie elsewhere (language packs, 16-bit programs). Empty where the file has none, and on
+/// systems that read no such resources.
+QString fileVersionBySystem(const QString& path);
+
 /// What is known of this machine and its user.
 struct SystemInformation {
     QString operatingSystem;
@@ -43,7 +48,7 @@ struct SystemInformation {
     int cores = 0;              ///< logical processors
     quint64 physicalMemory = 0; ///< bytes
     QString hostName;
-    QString userName; ///< account name
+    QString userName; ///< account name; on Windows with its domain, "DOMAIN\\name", where one is known
     QString hostId;   ///< stays the same over restarts; empty where the system keeps none
 };
 

@@ -236,6 +236,11 @@ unsigned long errorCodeOf(DataFault fault)
     return fault == DataFault::BadExecutable ? ENOEXEC : ENODATA;
 }
 
+QString fileVersionBySystem(const QString&)
+{
+    return QString();
+}
+
 const SystemInformation& systemInformation()
 {
     static const SystemInformation information = collectSystemInformation();

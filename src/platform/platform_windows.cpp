@@ -2,9 +2,14 @@
 
 #include <QDir>
 #include <QSysInfo>
+#include <QtEndian>
 
 #include <climits>
 #include <windows.h>
+
+#define SECURITY_WIN32
+#include <security.h>
+#include <winver.h>
 
 namespace nPlatform {
 
@@ -122,9 +127,39 @@ QString computerName()
 
 QString accountName()
 {
-    wchar_t name[257] = {};
-    DWORD size = 257;
-    return GetUserNameW(name, &size) ? QString::fromWCharArray(name) : QString();
+    constexpr DWORD longest = 1024;
+    wchar_t name[longest] = {};
+    ULONG size = longest;
+    if (GetUserNameExW(NameSamCompatible, name, &size))
+        return QString::fromWCharArray(name);
+    DWORD plainSize = longest;
+    return GetUserNameW(name, &plainSize) ? QString::fromWCharArray(name) : QString();
+}
+
+QByteArray versionBlock(const QString& path)
+{
+    const QString file = systemPath(path);
+    DWORD ignored = 0;
+    QByteArray block(static_cast<int>(GetFileVersionInfoSizeW(wide(file), &ignored)), '\0');
+    if (block.isEmpty()
+        || !GetFileVersionInfoW(wide(file), 0, static_cast<DWORD>(block.size()), block.data()))
+        block.clear();
+    return block;
+}
+
+/// The bytes of one value; they live as long as the block.
+QByteArray versionValue(const QByteArray& block, const QString& key, int bytesPerUnit)
+{
+    void* value = nullptr;
+    UINT units = 0;
+    if (!VerQueryValueW(block.constData(), wide(key), &value, &units))
+        return QByteArray();
+    return QByteArray::fromRawData(static_cast<const char*>(value), static_cast<int>(units) * bytesPerUnit);
+}
+
+QString hexadecimal(quint16 number)
+{
+    return QStringLiteral("%1").arg(number, 4, 16, QLatin1Char('0'));
 }
 
 SystemInformation collectSystemInformation()
@@ -235,6 +270,24 @@ unsigned long lastErrorCode()
 unsigned long errorCodeOf(DataFault fault)
 {
     return fault == DataFault::BadExecutable ? ERROR_BAD_EXE_FORMAT : ERROR_RESOURCE_DATA_NOT_FOUND;
+}
+
+QString fileVersionBySystem(const QString& path)
+{
+    const QByteArray block = versionBlock(path);
+    if (block.isEmpty())
+        return QString();
+    const QByteArray pair = versionValue(block, QStringLiteral("\\VarFileInfo\\Translation"), 1);
+    if (pair.size() < 4)
+        return QString();
+    const QString table = hexadecimal(qFromLittleEndian<quint16>(pair.constData()))
+        + hexadecimal(qFromLittleEndian<quint16>(pair.constData() + 2));
+    const QByteArray text =
+        versionValue(block, QStringLiteral("\\StringFileInfo\\%1\\FileVersion").arg(table), sizeof(wchar_t));
+    // The length may count the closing NUL or not.
+    return QString::fromWCharArray(reinterpret_cast<const wchar_t*>(text.constData()),
+                                   text.size() / static_cast<int>(sizeof(wchar_t)))
+        .section(QChar::Null, 0, 0);
 }
 
 const SystemInformation& systemInformation()
