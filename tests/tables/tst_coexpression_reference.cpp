@@ -128,18 +128,6 @@ private Q_SLOTS:
         QVERIFY(failures > 1000);
     }
 
-    void printingIsStable()
-    {
-        for (const Reference& reference : qAsConst(m_references)) {
-            // The forms without parentheses do not keep their meaning as operands.
-            const QString& text = reference.printed;
-            if (text.contains(QLatin1String("or ")) || text.contains(QLatin1String("not "))
-                || text.contains(QLatin1String("if(")) || text.contains(QLatin1String("(-")))
-                continue;
-            QCOMPARE(coExpression(text).toString(), text);
-        }
-    }
-
     // With and without errors among the values, and with a rest that fills no block.
     void batchAgrees()
     {
