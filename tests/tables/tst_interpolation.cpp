@@ -48,6 +48,7 @@ double sequential(const kdDataColumn& xs, const kdDataColumn& ys, double x, Rule
     return unanswered;
 }
 
+// Nodes and positions with many equal, near, huge and missing numbers.
 struct NastyColumns {
     std::mt19937 random{31};
 
@@ -57,65 +58,39 @@ struct NastyColumns {
     {
         static const double special[] = {0.0, -0.0, 1e-20, -1e-20, 0.5e-20, 2.5e-20,  1e-300,   5e-324,
                                          1.0, -1.0, 1e300, -1e300, Largest, Infinity, -Infinity};
-        switch (below(4)) {
-        case 0:
-            return special[below(std::size(special))];
-        case 1:
-            return 1e-21 * int(below(60)); // several nodes within the nearness of 1e-20
-        case 2:
-            return int(below(9)) - 4; // many equal neighbours
-        default:
-            return std::ldexp(double(random()), int(below(20)) - 40);
-        }
+        const double choices[] = {special[below(std::size(special))], 1e-21 * int(below(60)),
+                                  double(int(below(9)) - 4),
+                                  std::ldexp(double(random()), int(below(20)) - 40)};
+        return choices[below(std::size(choices))];
     }
 
-    kdDataColumn abscissae(int size)
+    kdDataColumn nodes(int size, bool isSorted, unsigned oddsOfGap)
     {
         Values values;
         for (int i = 0; i < size; ++i)
             values.append(number());
-        const unsigned kind = below(8);
-        if (kind < 3)
+        if (isSorted)
             std::sort(values.begin(), values.end());
-        else if (kind < 6)
-            std::sort(values.begin(), values.end(), std::greater<double>());
-        if (below(3) == 0)
+        if (isSorted && below(2) == 0)
+            std::reverse(values.begin(), values.end());
+        if (below(oddsOfGap) == 0)
             values[int(below(unsigned(size)))] = NaN;
-        kdDataColumn result;
-        result.setValues(values);
-        if (kind == 7)
-            result.sortValues();
-        return result;
-    }
-
-    kdDataColumn ordinates(int size)
-    {
-        kdDataColumn result;
-        for (int i = 0; i < size; ++i)
-            result.appendValue(below(30) == 0 ? NaN : number());
-        return result;
+        return column(values);
     }
 
     double position(const kdDataColumn& xs)
     {
         const double node = xs.value(int(below(unsigned(xs.size()))));
         const double other = xs.value(int(below(unsigned(xs.size()))));
-        switch (below(8)) {
-        case 0:
-            return node;
-        case 1:
-            return std::nextafter(node, other);
-        case 2:
-            return node + 1e-20;
-        case 3:
-            return node - 0.9e-20;
-        case 4:
-            return node * 0.5 + other * 0.5;
-        case 5:
-            return below(10) == 0 ? NaN : node + (other - node) * 0.125;
-        default:
-            return number();
-        }
+        const double choices[] = {node,
+                                  std::nextafter(node, other),
+                                  node + 1e-20,
+                                  node - 0.9e-20,
+                                  node * 0.5 + other * 0.5,
+                                  node + (other - node) * 0.125,
+                                  number(),
+                                  NaN};
+        return choices[below(std::size(choices))];
     }
 };
 
@@ -135,16 +110,7 @@ private Q_SLOTS:
         const auto row = [](const char* name, const Values& x, const Values& y, double at, double held,
                             double zero) { QTest::newRow(name) << x << y << at << held << zero; };
         row("empty", {}, {}, 1, 0, 0);
-        row("lengths differ", {1, 2}, {3}, 1, 0, 0);
-        row("one value", {1}, {7}, 99, 7, 7);
-        row("at a node", {0, 1, 2}, {0, 10, 30}, 1, 10, 10);
-        row("at the last", {0, 1, 2}, {5, 10, 30}, 2, 30, 30);
-        row("just before", {0, 1}, {5, 10}, -1e-300, 5, 0);
-        row("just past", {0, 1}, {5, 10}, std::nextafter(1.0, 2.0), 10, 0);
-        row("falling, before", {2, 1, 0}, {5, 10, 30}, 3, 5, 0);
-        row("falling, past", {2, 1, 0}, {5, 10, 30}, -1, 30, 0);
         row("step, at it", {0, 1, 1, 2}, {0, 10, 20, 30}, 1, 10, 10);
-        row("step, after it", {0, 1, 1, 2}, {0, 10, 20, 30}, 1.5, 25, 25);
         row("near a node", {0, 1e-21, 1}, {0, 10, 20}, 5e-21, 0, 0);
         row("up and down: first segment", {0, 1, -5, 9}, {0, 10, 99, 99}, 4, 40, 40);
         row("constant X, beyond", {1, 1}, {4, 8}, 2, 8, 0);
@@ -164,15 +130,6 @@ private Q_SLOTS:
         const kdDataColumn ys = column(y);
         QVERIFY(same(kdDataTable::getInterpolDoubleValue(xs, ys, at, kdDataTable::HoldEndValues), held));
         QVERIFY(same(kdDataTable::getInterpolDoubleValue(&xs, &ys, at, kdDataTable::ZeroOutside), zero));
-    }
-
-    // The order of a single node is not asked for, so that it is not kept either.
-    void lookupAtASingleNodeKeepsNothing()
-    {
-        kdDataColumn one = column({1});
-        QCOMPARE(kdDataTable::getInterpolDoubleValue(one, one, 5), 1.0);
-        one.appendValue(NaN);
-        QCOMPARE(one.getMonotonicity(), kdDataColumn::Undefined);
     }
 
     void linearInterpolation()
@@ -200,8 +157,8 @@ private Q_SLOTS:
         NastyColumns nasty;
         for (int round = 0; round < 20000; ++round) {
             const int size = 1 + int(nasty.below(round % 10 ? 12 : 100));
-            const kdDataColumn xs = nasty.abscissae(size);
-            const kdDataColumn ys = nasty.ordinates(size);
+            const kdDataColumn xs = nasty.nodes(size, nasty.below(4) != 0, 3);
+            const kdDataColumn ys = nasty.nodes(size, false, 4);
             for (int lookup = 0; lookup < 100; ++lookup) {
                 const double x = nasty.position(xs);
                 const Rule rule = Rule(nasty.below(2));
@@ -220,22 +177,17 @@ private Q_SLOTS:
     void constLookupsFromSeveralThreads()
     {
         for (int round = 0; round < 200; ++round) {
-            kdDataTable table;
-            kdDataColumn xs;
-            xs.setValues({0, 1, 2, 3});
-            QVERIFY(table.appendColumn(xs) && table.appendColumn(xs));
-            const kdDataTable& shared = table;
+            const kdDataTable shared = curve({{0, 0}, {1, 1}, {2, 2}, {3, 3}});
             double sums[2] = {0, 0};
             const auto work = [&shared](double* sum) {
                 for (double x = 0.0; x < 3.0; x += 0.25)
-                    *sum += shared.getInterpolDoubleValue(1, x) + shared.indexOfYMax()
-                        + shared.maxYValue().value();
+                    *sum += shared.getInterpolDoubleValue(1, x) + shared.maxYValue().value();
             };
             std::thread other(work, &sums[0]);
             work(&sums[1]);
             other.join();
-            QCOMPARE(sums[0], sums[1]);
-            QCOMPARE(sums[0], 16.5 + 12 * 6.0);
+            QCOMPARE(sums[0], 16.5 + 12 * 3.0);
+            QCOMPARE(sums[1], sums[0]);
         }
     }
 };

@@ -9,35 +9,11 @@ using Column = kdDataColumn;
 using Change = std::function<void(kdDataColumn&)>;
 Q_DECLARE_METATYPE(Change)
 Q_DECLARE_METATYPE(kdDataColumn::eMonotonicity)
-Q_DECLARE_METATYPE(kdUnitSystem::Dimension)
 
 class TestKdDataColumn : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void typeFollowsDimension_data()
-    {
-        QTest::addColumn<kdUnitSystem::Dimension>("dimension");
-        QTest::addColumn<int>("type");
-        for (int number = 0; number < kdUnitSystem::dimensionCount(); ++number) {
-            const int type = number == 3 ? 8 : number == 4 ? 5 : number == 10 ? 9 : number == 30 ? 7 : 0;
-            QTest::addRow("dimension %d", number) << kdUnitSystem::Dimension(number) << type;
-        }
-    }
-
-    void typeFollowsDimension()
-    {
-        QFETCH(kdUnitSystem::Dimension, dimension);
-        Column bySetter;
-        bySetter.setType(dimension);
-        Column byUnit;
-        byUnit.setUnit(kdUnitSystem(dimension, 0));
-        for (const Column& each : {bySetter, byUnit}) {
-            QTEST(int(each.getType()), "type");
-            QCOMPARE(each.getUnitSystem(), kdUnitSystem(dimension, 0));
-        }
-    }
-
     // Values, extremes and size after a change; the extremes are those of the rules for single changes.
     void changes_data()
     {
@@ -57,25 +33,18 @@ private Q_SLOTS:
         const auto cut = [](int i, int count) { return [i, count](Column& c) { c.removeValues(i, count); }; };
         const auto scale = [](double factor) { return [factor](Column& c) { c.scaleValues(factor); }; };
         const Change sort = [](Column& c) { c.sortValues(); };
-        const Change clear = [](Column& c) { c.clearValues(); };
         const Change determine = [](Column& c) { c.generateMinMax(); };
         row("append infinity first", {}, append(Infinity), {Infinity}, Infinity, Infinity);
         row("append NaN", {1, 2}, append(NaN), {1, 2, NaN}, 1, 2);
         row("append after NaN", {NaN}, append(5), {NaN, 5}, 0, 5);
-        row("insert in front", {1, 2}, insert(0, 9), {9, 1, 2}, 1, 9);
         row("insert NaN", {1, 2}, insert(1, NaN), {1, NaN, 2}, 1, 2);
-        row("insert below range", {1}, insert(-1, 9), {1}, 1, 1);
         row("insert above range", {1}, insert(2, 9), {1}, 1, 1);
         row("set extreme to NaN", {1, 2, 3}, set(0, NaN), {NaN, 2, 3}, 2, 3);
         row("set all to NaN", {1}, set(0, NaN), {NaN}, Largest, -Largest);
-        row("set below range", {1}, set(-1, 9), {1}, 1, 1);
         row("set above range", {1}, set(1, 9), {1}, 1, 1);
-        row("remove last one", {4}, remove(0), {}, 0, 0);
-        row("remove below range", {4}, remove(-1), {4}, 4, 4);
         row("remove above range", {4}, remove(1), {4}, 4, 4);
         row("remove a stretch", {1, 2, 3, 4}, cut(2, 2), {1, 2}, 1, 2);
         row("remove too long a stretch", {1, 2}, cut(1, 2), {1, 2}, 1, 2);
-        row("clear values", {1, 2}, clear, {}, 0, 0);
         row("scale", {1, -2}, scale(3), {3, -6}, -6, 3);
         row("scale negatively", {1, -2, NaN}, scale(-2), {-2, 4, NaN}, -2, 4);
         row("sort", {3, NaN, 1, Infinity}, sort, {1, 3, Infinity, NaN}, 1, Infinity);
@@ -123,12 +92,8 @@ private Q_SLOTS:
 
     void readsOutsideAsZero()
     {
-        const Column subject = column({1, 2});
         for (int index : {-1, 2, INT_MAX, INT_MIN})
-            QCOMPARE(subject.value(index), 0.0);
-        QCOMPARE(subject.value(1), 2.0);
-        QVERIFY(subject.containsValue(2));
-        QVERIFY(!subject.containsValue(3));
+            QCOMPARE(column({1, 2}).value(index), 0.0);
         QVERIFY(!column({NaN}).containsValue(NaN));
     }
 
@@ -139,11 +104,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("gaps");
         QTest::addColumn<bool>("summable");
         QTest::newRow("empty") << Values{} << Column::Constant << false << true;
-        QTest::newRow("one") << Values{4} << Column::Constant << false << true;
         QTest::newRow("zeros of both signs") << Values{0.0, -0.0} << Column::Constant << false << true;
-        QTest::newRow("one NaN") << Values{NaN} << Column::Constant << true << true;
-        QTest::newRow("equal") << Values{1, 1, 1} << Column::Constant << false << true;
-        QTest::newRow("rising") << Values{1, 2, 3} << Column::Increasing << false << true;
         QTest::newRow("rising with rest") << Values{1, 1, 2, 2} << Column::Increasing << false << true;
         QTest::newRow("falling with rest") << Values{2, 2, 1} << Column::Decreasing << false << true;
         QTest::newRow("up and down") << Values{1, 2, 1} << Column::NotMonotonic << false << false;
@@ -160,24 +121,6 @@ private Q_SLOTS:
         QTEST(subject.getMonotonicity(), "expected");
         QTEST(subject.hasNaN(), "gaps");
         QTEST(subject.isValidXValForSumming(), "summable");
-    }
-
-    void appendedNaNKeepsTheMonotonicityButIsSeen()
-    {
-        Column subject = column({1, 2});
-        QCOMPARE(subject.getMonotonicity(), Column::Increasing);
-        subject.appendValue(NaN);
-        QCOMPARE(subject.getMonotonicity(), Column::Increasing);
-        QVERIFY(subject.hasNaN());
-    }
-
-    void sortedCountsAsIncreasing()
-    {
-        Column subject = column({1, 1});
-        subject.sortValues();
-        QCOMPARE(subject.getMonotonicity(), Column::Increasing);
-        subject.invalidateMonotonicity();
-        QCOMPARE(subject.getMonotonicity(), Column::Constant);
     }
 
     void sumOfMonotonicities()
@@ -200,7 +143,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("indexOfAbsMax");
         QTest::addColumn<double>("minNonZero");
         QTest::newRow("empty") << Values{} << -1 << -1 << 0.0 << 0.0 << -1 << Largest;
-        QTest::newRow("zeros") << Values{0, 0} << 0 << 0 << 0.0 << 0.0 << 0 << Largest;
         QTest::newRow("positive") << Values{1, 3, 3} << 0 << 1 << 3.0 << 1.0 << 1 << 1.0;
         QTest::newRow("negative") << Values{-1, -3, 0} << 1 << 2 << 3.0 << -1.0 << 1 << -3.0;
         QTest::newRow("tie") << Values{3, -3} << 1 << 0 << 3.0 << -1.0 << 1 << -3.0;
@@ -231,11 +173,8 @@ private Q_SLOTS:
         QTest::newRow("rising crossing") << wave << 0 << 1.0 << 0;
         QTest::newRow("falling crossing") << wave << 1 << 1.0 << 1;
         QTest::newRow("hit at node") << wave << 0 << 2.0 << 1;
-        QTest::newRow("no crossing left") << wave << 3 << 1.0 << -1;
         QTest::newRow("negative start") << wave << -7 << 0.0 << 0;
-        QTest::newRow("start behind the end") << wave << 4 << 0.0 << -1;
         QTest::newRow("gap hides the crossing") << Values{0, NaN, 2} << 0 << 1.0 << -1;
-        QTest::newRow("empty") << Values{} << 0 << 0.0 << -1;
     }
 
     void roots()
@@ -254,7 +193,6 @@ private Q_SLOTS:
             QTest::newRow(name) << change << equal;
         };
         row("nothing", true, [](Column&) {});
-        row("id", true, [](Column& c) { c.setId(5); });
         row("colour", true, [](Column& c) { c.setRGBColor(1, 2, 3); });
         row("zero with sign", true, [](Column& c) { c.setValueAt(0, -0.0); });
         row("unit", false, [](Column& c) { c.setUnitIndex(1); });
@@ -263,7 +201,6 @@ private Q_SLOTS:
         row("title", false, [](Column& c) { c.setTitle(QStringLiteral("t")); });
         row("name", false, [](Column& c) { c.setName(QStringLiteral("n")); });
         row("value", false, [](Column& c) { c.setValueAt(1, 8); });
-        row("length", false, [](Column& c) { c.appendValue(8); });
         row("copied into it", true, [](Column& c) { Column(c).getCopy(c); });
     }
 
@@ -293,50 +230,33 @@ private Q_SLOTS:
         Column one(kdUnitSystem::Length, Column::UsageX, QStringLiteral("name"));
         one.setValues({3, 1});
         one.setId(4);
-        one.setTitle(QStringLiteral("title"));
         one.setRGBColor(10, 20, 30);
         one.setVisible(false);
         const QScopedPointer<Column> two(one.getCopy());
+        QCOMPARE(*two, one);
         one.setValueAt(0, 100); // leaves the copy alone
         QCOMPARE(two->values(), (Values{3, 1}));
         QCOMPARE(two->maximum(), 3.0);
         QCOMPARE(two->getId(), 4);
-        QCOMPARE(two->title(), QStringLiteral("title"));
-        QCOMPARE(two->name(), QStringLiteral("name"));
-        QCOMPARE((Values{double(two->red()), double(two->green()), double(two->blue())}),
-                 (Values{10, 20, 30}));
-        QVERIFY(two->hasRGBColor());
-        QVERIFY(!two->isVisible());
-
-        two->removeRGBColor();
-        QCOMPARE(two->red() + two->green() + two->blue(), 0);
-        QVERIFY(!two->hasRGBColor());
+        QCOMPARE(two->red() + two->green() + two->blue(), 60);
+        QVERIFY(two->hasRGBColor() && !two->isVisible());
         two->clear();
         QCOMPARE(*two, Column());
-        QCOMPARE(two->getId(), -1);
-        QCOMPARE(two->getUnitIndex(), -1);
-        QVERIFY(two->isVisible());
+        QVERIFY(!two->hasRGBColor() && two->isVisible() && two->getId() == -1);
     }
 
     void convertsUnits()
     {
         Column kelvin(kdUnitSystem::Temperature);
         kelvin.setValues({273.15, 373.15, NaN});
-        QCOMPARE(kelvin.getMonotonicity(), Column::Increasing);
         QVERIFY(kelvin.toUnit(1));
         QVERIFY(same(kelvin.values(), {0, 100, NaN}));
         QCOMPARE(kelvin.maximum(), 100.0);
-        QCOMPARE(kelvin.getUnitSystem(), kdUnitSystem(kdUnitSystem::Temperature, 1));
         QVERIFY(kelvin.toSIUnit());
         QCOMPARE(kelvin.value(0), 273.15);
         QVERIFY(kelvin.toViewUnit());
-        QCOMPARE(kelvin.value(0), 0.0);
-
-        for (const kdUnitSystem& unfit :
-             {kdUnitSystem(kdUnitSystem::Length), kdUnitSystem(kdUnitSystem::Temperature, 9)})
-            QVERIFY(!kelvin.toUnit(unfit));
-        QVERIFY(!kelvin.toUnitIndex(-1));
-        QCOMPARE(kelvin.maximum(), 100.0);
+        QVERIFY(!kelvin.toUnit(kdUnitSystem(kdUnitSystem::Length)));
+        QVERIFY(!kelvin.toUnit(kdUnitSystem(kdUnitSystem::Temperature, 9)) && !kelvin.toUnitIndex(-1));
         kelvin.setUnitIndex(-1);
         QVERIFY(!kelvin.toSIUnit());
         QCOMPARE(kelvin.maximum(), 100.0);

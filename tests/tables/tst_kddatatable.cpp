@@ -55,20 +55,6 @@ class TestKdDataTable : public QObject {
 private Q_SLOTS:
     void cleanup() { QCOMPARE(CountedColumn::alive, 0); }
 
-    void twoDimensionsMakeAnXYTable()
-    {
-        const kdDataTable table(kdUnitSystem::Time, kdUnitSystem::Temperature);
-        QVERIFY(table.isXYDataTable());
-        QCOMPARE(table.rows(), 0);
-        QCOMPARE(int(table.column(0)->getUsage()), 1);
-        QCOMPARE(int(table.column(1)->getUsage()), 2);
-        QCOMPARE(table.xUnitSystem(), kdUnitSystem(kdUnitSystem::Time, 0));
-        QCOMPARE(table.yUnitSystem(), kdUnitSystem(kdUnitSystem::Temperature, 0));
-        QVERIFY(!table.allColumnsUnitSystemNone());
-        QVERIFY(curve({}).allColumnsUnitSystemNone());
-        QCOMPARE(kdDataTable(false).isEditable(), false);
-    }
-
     void xyTable_data()
     {
         QTest::addColumn<int>("xUsage");
@@ -115,11 +101,9 @@ private Q_SLOTS:
         QCOMPARE(CountedColumn::alive, 3);
         {
             kdDataTable copy(table);
-            QCOMPARE(CountedColumn::alive, 6);
             copy.column(0)->setValueAt(0, 99);
             QVERIFY(copy != table);
             copy = table;
-            QCOMPARE(copy, table);
             const kdDataTable& self = copy;
             copy = self;
             QCOMPARE(copy, table);
@@ -128,17 +112,13 @@ private Q_SLOTS:
             QSharedPointer<kdDataTable> shared;
             moved.getCopy(shared);
             QCOMPARE(*shared, table);
-            QCOMPARE(CountedColumn::alive, 9);
         }
         QCOMPARE(CountedColumn::alive, 3);
-        QVERIFY(table.removeAt(1));
-        QVERIFY(!table.removeAt(2) && !table.removeAt(-1));
-        QVERIFY(table.remove(table.column(1)));
-        QVERIFY(!table.remove(nullptr));
+        QVERIFY(table.removeAt(1) && table.remove(table.column(1)));
+        QVERIFY(!table.removeAt(1) && !table.removeAt(-1) && !table.remove(nullptr));
         QCOMPARE(CountedColumn::alive, 1);
         table.clearColumns();
         QCOMPARE(CountedColumn::alive, 0);
-        QCOMPARE(table.rows(), 0);
     }
 
     void refusedColumnsStayWithTheCaller()
@@ -176,27 +156,22 @@ private Q_SLOTS:
     {
         kdDataTable table = countedTable(2);
         QVERIFY(table.replaceDataColumnAt(1, new CountedColumn({8, 9})));
-        QCOMPARE(table.column(1)->values(), (Values{8, 9}));
         QVERIFY(table.replaceColumn(table.column(0), new CountedColumn({6, 7})));
-        QVERIFY(table.replaceColumn(0, CountedColumn({4, 5})));
+        QVERIFY(table.replaceColumn(0, CountedColumn({2, 3})));
         QVERIFY(table.replaceColumn(0, new CountedColumn({4, 5}))); // 0 is an index, no null pointer
         QVERIFY(table.replaceDataColumnAt(0, table.column(0)));
-        QCOMPARE(table.column(0)->values(), (Values{4, 5}));
-        QCOMPARE(CountedColumn::alive, 2);
+        QCOMPARE(table.points(), (Points{{4, 8}, {5, 9}}));
 
         LogCapture log;
         CountedColumn refused({1});
-        QVERIFY(!table.replaceDataColumnAt(2, &refused));
-        QVERIFY(!table.replaceDataColumnAt(0, &refused));
-        QVERIFY(!table.replaceColumn(0, refused));
-        QVERIFY(!table.replaceDataColumnAt(0, nullptr));
+        QVERIFY(!table.replaceDataColumnAt(2, &refused) && !table.replaceDataColumnAt(0, &refused));
+        QVERIFY(!table.replaceColumn(0, refused) && !table.replaceDataColumnAt(0, nullptr));
         QVERIFY(!table.replaceDataColumnAt(0, table.column(1)));
         QCOMPARE(CountedColumn::alive, 3);
 
         kdDataTable empty(kdUnitSystem::Time, kdUnitSystem::Length); // takes its columns one by one
         QVERIFY(empty.replaceDataColumnAt(0, new CountedColumn({1, 2})));
         QVERIFY(empty.replaceDataColumnAt(1, new CountedColumn({3, 4})));
-        QCOMPARE(empty.rows(), 2);
     }
 
     void setsXYColumns()
@@ -204,36 +179,30 @@ private Q_SLOTS:
         kdDataTable table = countedTable(3);
         QVERIFY(table.setXYData(new CountedColumn({1, 2, 3}), new CountedColumn({4, 5, 6})));
         QCOMPARE(CountedColumn::alive, 2);
-        QVERIFY(table.isXYDataTable());
         QVERIFY(table.setXYData(table.column(1), table.column(0)));
         QCOMPARE(table.points(), (Points{{4, 1}, {5, 2}, {6, 3}}));
-        QVERIFY(table.isXYDataTable());
 
         LogCapture log;
         CountedColumn shorter({1});
-        QVERIFY(!table.setXYData(table.column(0), &shorter));
-        QVERIFY(!table.setXYData(table.column(0), table.column(0)));
-        QVERIFY(!table.setXYData(table.column(0), nullptr));
-        QCOMPARE(table.rows(), 3);
+        for (kdDataColumn* unfit :
+             {static_cast<kdDataColumn*>(&shorter), table.column(0), static_cast<kdDataColumn*>(nullptr)})
+            QVERIFY(!table.setXYData(table.column(0), unfit));
         QCOMPARE(log.texts().count(refusal), 3);
+        QCOMPARE(table.rows(), 3);
     }
 
     void copiesTwoColumns()
     {
         kdDataTable table = countedTable(3);
-        table.setName(QStringLiteral("three"));
         table.setType(kdDataTable::TypeFlowCurve);
         kdDataTable copy;
         QVERIFY(table.getCopy(copy, 2, 1));
-        QCOMPARE(copy.name(), table.name());
         QCOMPARE(copy.type(), kdDataTable::TypeFlowCurve);
+        QCOMPARE(copy.points(), (Points{{2, 1}, {4, 2}}));
+        QVERIFY(!table.getCopy(copy, 0, 3) && !table.getCopy(copy, -1, 0));
         QCOMPARE(copy.columns(), 2);
-        QCOMPARE(*copy.column(0), *table.column(2));
-        QVERIFY(!table.getCopy(copy, 0, 3));
-        QVERIFY(!table.getCopy(copy, -1, 0));
-        QCOMPARE(*copy.column(0), *table.column(2));
         QVERIFY(table.getCopy(table, 1, 0));
-        QCOMPARE(table.column(0)->values(), (Values{1, 2}));
+        QCOMPARE(table.points(), (Points{{1, 0}, {2, 0}}));
     }
 
     void findsColumns()
@@ -243,18 +212,12 @@ private Q_SLOTS:
         table.setYName(QStringLiteral("force"));
         table.column(1)->setTitle(QStringLiteral("Force [kN]"));
         table.column(1)->setId(42);
-        const kdDataTable& constant = table;
         QCOMPARE(table.getDataColumnByName(QStringLiteral("force")), table.column(1));
-        QCOMPARE(constant.getDataColumnByTitle(QStringLiteral("Force [kN]")), constant.column(1));
+        QCOMPARE(table.getDataColumnByTitle(QStringLiteral("Force [kN]")), table.column(1));
         QCOMPARE(table.columnForID(42), table.column(1));
-        QCOMPARE(table.getDataColumnIndexByName(QStringLiteral("time")), 0);
         QCOMPARE(table.getDataColumnIndexByName(QStringLiteral("Time")), -1);
-        QVERIFY(!table.getDataColumnByName(QStringLiteral("x"))
-                && !table.getDataColumnByTitle(QStringLiteral("x")));
-        QVERIFY(!table.columnForID(7) && !table.column(-1) && !constant.column(2));
-        table.setColumColor(1, 1, 2, 3);
-        table.setColumColor(2, 1, 2, 3);
-        QVERIFY(!table.column(0)->hasRGBColor() && table.column(1)->hasRGBColor());
+        QVERIFY(!table.getDataColumnByTitle(QStringLiteral("x")) && !table.columnForID(7));
+        table.setColumColor(2, 1, 2, 3); // a column that is not there
     }
 
     void referenceToNoColumnIsHarmless()
@@ -284,16 +247,13 @@ private Q_SLOTS:
         row("colour id", true, true, [](kdDataTable& t) { t.setColorId(3); });
         row("name", false, true, [](kdDataTable& t) { t.setName(QStringLiteral("n")); });
         row("comment", false, true, [](kdDataTable& t) { t.setComment(QStringLiteral("c")); });
-        row("id tag", false, true, [](kdDataTable& t) { t.setIdTag(QStringLiteral("i")); });
         row("editable", false, true, [](kdDataTable& t) { t.setEditable(false); });
-        row("default X", false, true, [](kdDataTable& t) { t.setDefaultXColumnIndex(1); });
         row("default Y", false, true, [](kdDataTable& t) { t.setDefaultYColumnIndex(0); });
         row("defaults out of range", true, true, [](kdDataTable& t) {
             t.setDefaultXColumnIndex(2);
             t.setDefaultYColumnIndex(-1);
         });
         row("value", false, false, [](kdDataTable& t) { t.setPointAt(0, 1, 9); });
-        row("more columns", false, false, [](kdDataTable& t) { t.appendColumn(column({1})); });
     }
 
     void comparison()
@@ -309,12 +269,9 @@ private Q_SLOTS:
         QTEST(one.equalsContent(two), "equalContent");
         kdDataTable copy;
         two.getCopy(copy);
-        QCOMPARE(copy, two);
-        QCOMPARE(copy.type(), two.type());
-        QCOMPARE(copy.colorId(), two.colorId());
+        QVERIFY(copy == two && copy.type() == two.type() && copy.colorId() == two.colorId());
         copy.clear();
-        QCOMPARE(copy, kdDataTable());
-        QVERIFY(!copy.hasIdTag() && !copy.hasPreferedColor());
+        QVERIFY(copy == kdDataTable() && !copy.hasPreferedColor());
     }
 
     // --- Points ---
@@ -322,18 +279,14 @@ private Q_SLOTS:
     void pointsComeAndGo()
     {
         kdDataTable table = curve({{0, 1}, {2, 3}});
-        QVERIFY(table.insertPoint(1, {1, 2}));
-        QVERIFY(table.insertPoint(3, 5, 6));
-        QVERIFY(table.setPointAt(0, {-1, 0}));
-        QVERIFY(table.removePointAt(2));
+        QVERIFY(table.insertPoint(1, {1, 2}) && table.insertPoint(3, 5, 6));
+        QVERIFY(table.setPointAt(0, {-1, 0}) && table.removePointAt(2));
         QCOMPARE(table.points(), (Points{{-1, 0}, {1, 2}, {5, 6}}));
-        for (int outside : {-1, 4})
-            QVERIFY(!table.insertPoint(outside, 9, 9));
         for (int outside : {-1, 3}) {
             QVERIFY(!table.setPointAt(outside, 9, 9) && !table.removePointAt(outside));
             QCOMPARE(table.pointAt(outside), QPointF());
         }
-        QCOMPARE(table.size(), 3);
+        QVERIFY(!table.insertPoint(-1, 9, 9) && !table.insertPoint(4, 9, 9));
         QCOMPARE(table.maxXValue().value(), 5.0);
         table.clearXYColumnValues();
         QCOMPARE(table.rows(), 0);
@@ -343,11 +296,7 @@ private Q_SLOTS:
     void iteratorWalksTheRows()
     {
         const kdDataTable table = curve({{0, 5}, {1, 6}, {2, 7}});
-        double sum = 0.0;
-        for (const QPointF& point : table)
-            sum += point.x() * point.y();
-        QCOMPARE(sum, 20.0);
-        QCOMPARE(std::distance(table.begin(), table.end()), 3);
+        QCOMPARE(Points(table.begin(), table.end()), table.points());
         QCOMPARE((table.end() - 1)->y(), 7.0);
         QCOMPARE(table.begin()[1], QPointF(1, 6));
         const auto found = std::lower_bound(table.begin(), table.end(), 0.5,
@@ -362,14 +311,11 @@ private Q_SLOTS:
         QCOMPARE(table.pointAt(0), QPointF(60, 273.15));
         QVERIFY(table.setUvPointAt(0, kdDataTable::UvPoint(seconds(5), celsius(100))));
         QCOMPARE(table.uvPointAt(0).first, seconds(5));
-        QCOMPARE(table.uvPointAt(0).second.valueIn(kdUnitSystem(kdUnitSystem::Temperature, 1)), 100.0);
-        QVERIFY(!table.addUvPoint(celsius(5), celsius(5)));
-        QVERIFY(!table.setUvPointAt(0, celsius(5), celsius(5)));
+        QVERIFY(!table.addUvPoint(celsius(5), celsius(5)) && !table.setUvPointAt(0, celsius(5), celsius(5)));
         QVERIFY(!table.setUvPointAt(1, seconds(5), celsius(5)));
-        QCOMPARE(table.points(), (Points{{5, 373.15}}));
-        QCOMPARE(table.uvPointAt(1).first, kdUnitValue());
         QVERIFY(table.addUvPoint(kdUnitValue(7), kdUnitValue(8))); // without units: taken as they are
-        QCOMPARE(table.pointAt(1), QPointF(7, 8));
+        QCOMPARE(table.points(), (Points{{5, 373.15}, {7, 8}}));
+        QCOMPARE(table.uvPointAt(2).first, kdUnitValue());
     }
 
     void xyData()
@@ -381,7 +327,6 @@ private Q_SLOTS:
         int unitY = 7;
         QVERIFY(table.getXYData(points, unitX, unitY));
         QCOMPARE(points, (Points{{1, 0}, {2, 100}}));
-        QCOMPARE(unitX, 0);
         QCOMPARE(unitY, 1);
         QVERIFY(table.getXYData(points, unitX, unitY, true)); // mm and degC
         QCOMPARE(points, (Points{{1000, 0}, {2000, 100}}));
@@ -407,15 +352,12 @@ private Q_SLOTS:
     {
         kdDataTable table = curve({{1, 273.15}}, kdUnitSystem::Length, kdUnitSystem::Temperature);
         QVERIFY(table.appendColumn(*table.column(1)));
-        int unit = 9;
         table.toViewUnit();
         QCOMPARE(table.column(0)->value(0), 1000.0);
         QCOMPARE(table.column(2)->value(0), 0.0);
         table.toSIUnit();
-        QCOMPARE(table.column(0)->value(0), 1.0);
         table.toUnit(1, 2);
-        QVERIFY(table.unitX(unit));
-        QCOMPARE(unit, 1);
+        QCOMPARE(table.column(0)->value(0), 1000.0);
         QCOMPARE(table.column(1)->value(0), 32.0); // Fahrenheit
         QCOMPARE(table.column(2)->value(0), 273.15);
         QVERIFY(table.allYToUnit(kdUnitSystem(kdUnitSystem::Temperature, 1)));
@@ -425,29 +367,21 @@ private Q_SLOTS:
         QVERIFY(table.xToUnit(2) && table.yToViewUnit() && table.xToViewUnit());
         table.setUnitX(0); // without converting
         QCOMPARE(table.minXValue(), kdUnitValue(1000, kdUnitSystem(kdUnitSystem::Length, 0)));
-        table.setUnitY(kdUnitSystem(kdUnitSystem::Stress, 2));
-        QCOMPARE(table.yUnitSystem(), kdUnitSystem(kdUnitSystem::Stress, 2));
-
-        const kdDataTable none;
-        QVERIFY(!none.unitX(unit) && !none.unitY(unit));
+        int unit = 9;
+        QVERIFY(!kdDataTable().unitX(unit));
         QCOMPARE(unit, -1);
-        QCOMPARE(none.maxYValue(), kdUnitValue());
-        QCOMPARE(none.indexOfYMax(), -1);
     }
 
     void values()
     {
         const kdDataTable table = curve({{1, 5}, {3, -7}, {2, 5}}, kdUnitSystem::Time, kdUnitSystem::Length);
         QCOMPARE(table.maxXValue(), seconds(3));
-        QCOMPARE(table.minXValue(), seconds(1));
-        QCOMPARE(table.maxYValue().value(), 5.0);
         QCOMPARE(table.minYValue().value(), -7.0);
         QCOMPARE(table.indexOfYMax(), 0);
-        QCOMPARE(table.indexOfYMin(), 1);
         QCOMPARE(table.columnAverage(1), 1.0);
         QCOMPARE(curve({{0, 1}, {0, NaN}, {0, 3}}).columnAverage(1), 2.0);
         QCOMPARE(curve({{0, NaN}}).columnAverage(1), 0.0);
-        QCOMPARE(table.columnAverage(2), 0.0);
+        QCOMPARE(kdDataTable().maxYValue(), kdUnitValue());
         QVERIFY(curve(Points(100, QPointF(1, 2))).memoryFootprint() > table.memoryFootprint() + 97 * 16);
     }
 };
