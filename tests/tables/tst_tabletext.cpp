@@ -3,13 +3,10 @@
 #include <kdQCore/kdDataTable>
 #include <kdQCore/kdTypedException>
 
-#include <QFile>
 #include <QLocale>
-#include <QRandomGenerator>
 #include <QTextStream>
 
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 namespace {
@@ -82,28 +79,19 @@ private Q_SLOTS:
         QTest::addColumn<Columns>("columns");
         const Columns two{{1.5, -2.0}, {3.0, 4e3}};
         QTest::newRow("semicolons") << "1.5;3\n-2;4e3\n" << two;
-        QTest::newRow("tabs") << "1.5\t3\n-2\t4e3\n" << two;
         QTest::newRow("bars") << "1,5|3\n|\n-2|4e3|\n" << two;
-        QTest::newRow("commas") << "1.5,3\n-2,4e3\n" << two;
         QTest::newRow("blanks") << "  1.5   3\n-2 4e3  \n" << two;
         QTest::newRow("decimal comma, semicolons") << "1,5;3,0\n-2;4e3\n" << two;
-        QTest::newRow("decimal comma, tabs") << "1,5\t3\n-2,0\t4,0e3\n" << two;
-        QTest::newRow("CRLF, no end of line") << "1.5;3\r\n-2;4e3" << two;
         QTest::newRow("CR alone") << "\r1.5;3\r-2;4e3\r" << two;
         QTest::newRow("separator named above") << "\ufeffsep=;\n1,5;3\n-2;4e3\n" << two;
-        QTest::newRow("byte order mark") << "\ufeff1.5;3\n-2;4e3" << two;
         QTest::newRow("byte order mark read as Latin-1") << "\u00ef\u00bb\u00bf1.5;3\n-2;4e3" << two;
         QTest::newRow("separators at the end") << "1.5;3;\n-2;4e3;;\n" << two;
         QTest::newRow("empty lines") << "\n1.5;3\n\n;;\n  \n-2;4e3\n\n" << two;
         QTest::newRow("comments") << "# a\n// b\n1.5;3\n% c\n! d\n  # 1;2\n$ e\n* f\n-2;4e3\n" << two;
-        QTest::newRow("quotation marks") << "\"1,5\";\"3\"\n\"-2\";\"4e3\"\n" << two;
         QTest::newRow("quoted fields between commas") << "\"1.5\",\"3\"\n\" -2 \",\"4e3\"\n" << two;
         QTest::newRow("Fortran, plus, minus sign") << "1.5D0 +3\n\u22122 4d+03\n" << two;
-        QTest::newRow("one column") << "1\n2\n" << Columns{{1.0, 2.0}};
-        QTest::newRow("infinite") << "inf;-INF\n" << Columns{{INFINITY}, {-INFINITY}};
         QTest::newRow("too small for a double") << "1e-400" << Columns{{0.0}};
         QTest::newRow("nothing") << "" << Columns{};
-        QTest::newRow("only comments") << "# 1\n\n" << Columns{};
     }
 
     void readsFilesAsPeopleHaveThem()
@@ -119,31 +107,21 @@ private Q_SLOTS:
         const QStringList usual{QStringLiteral("temperature:°C"), QStringLiteral("yield stress:MPa")};
         QTest::newRow("brackets") << "temperature [degC];yield stress [MPa]\n1;2" << usual;
         QTest::newRow("round brackets") << "temperature (°C);yield stress (MPa)\n1;2" << usual;
-        QTest::newRow("bars") << "temperature [degC] | yield stress [MPa]\n1|2" << usual;
         QTest::newRow("slash") << "temperature / °C;yield stress / MPa\n1;2" << usual;
-        QTest::newRow("row of units") << "temperature;yield stress\ndegC;MPa\n1;2" << usual;
         QTest::newRow("row of units in brackets") << "temperature;yield stress\n[degC];[MPa]\n1;2" << usual;
-        QTest::newRow("quoted") << "\"temperature [degC]\",\"yield stress [MPa]\"\n1,2" << usual;
         QTest::newRow("doubled quotation marks") << "\"1/2\"\" bar\";b\n1;2" << texts({"1/2\" bar:-", "b:-"});
         QTest::newRow("blanks") << "temperature [degC] yield stress [MPa]\n1 2" << usual;
-        QTest::newRow("two blanks and more") << "temperature [degC]   yield stress [MPa]\n1 2" << usual;
         QTest::newRow("header with semicolons, values with blanks")
             << "temperature [degC];yield stress [MPa]\n1 2" << usual;
         QTest::newRow("comment right above")
             << "# S355, rolled\n# temperature [degC]; yield stress [MPa]\n1;2" << usual;
         QTest::newRow("prose above") << "# 20 degC; rolled\n1;2" << texts({":-", ":-"});
-        QTest::newRow("per cent") << "strain;stress\n%;MPa\n1;2" << texts({"strain:%", "stress:MPa"});
-        QTest::newRow("unit with separators")
-            << "conductivity [W/(m K)] t [s]\n1 2" << texts({"conductivity:W/(m·K)", "t:s"});
         QTest::newRow("brackets within round brackets")
             << "c (mean) (J/(kg K)),t\n1,2" << texts({"c (mean):J/(kg·K)", "t:-"});
         QTest::newRow("unknown units")
             << "speed [furlong];x (mean)\n1;2" << texts({"speed [furlong]:-", "x (mean):-"});
-        QTest::newRow("letters of exponents") << "E1;D2\n1;2" << texts({"E1:-", "D2:-"});
-        QTest::newRow("words between blanks") << "a b c\n1 2 3" << texts({"a:-", "b:-", "c:-"});
         QTest::newRow("table over two variables")
             << "strain \\ T;20;200\n0;1;2" << texts({"strain \\ T:-", "20:-", "200:-"});
-        QTest::newRow("empty corner") << ";20;200\n0;1;2" << texts({":-", "20:-", "200:-"});
         QTest::newRow("export, no number sign")
             << "dimension=4;unit=1;name=a;b \ndimension=0;unit=-1;name=\n1;2" << texts({"a;b :mm", ":"});
         QTest::newRow("export, symbol of the unit")
@@ -167,16 +145,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         QTest::newRow("no number") << "# a\nx;y\n1;2\n1;2a\n"
                                    << 4 << 2 << "row 4, column 2: '2a' is not a number";
-        QTest::newRow("first line of values") << "1;x" << 1 << 2 << "row 1, column 2: 'x' is not a number";
-        QTest::newRow("missing value") << "1;2;3\n1;;3" << 2 << 2 << "row 2, column 2: '' is not a number";
         QTest::newRow("too few") << "1;2\n3;" << 2 << 2 << "row 2 has 1 value, the table has 2 columns";
         QTest::newRow("too many") << "1;2\n3;4;5" << 2 << 3 << "row 2 has 3 values, the table has 2 columns";
         QTest::newRow("header too long")
             << "a;b;c\n\n1;2" << 3 << 3 << "row 3 has 2 values, the header in row 1 names 3 columns";
         QTest::newRow("described otherwise")
             << "#dimension=4;unit=1;name=a\n1;2" << 2 << 2 << "row 2 has 2 values, the table has 1 column";
-        QTest::newRow("text after the values")
-            << "1;2\n#x\ny" << 3 << 1 << "row 3, column 1: 'y' is not a number";
         QTest::newRow("no such dimension") << "#dimension=99;unit=0;name=a\n1" << 1 << 1
                                            << "row 1 does not describe a column by dimension, unit and name";
         QTest::newRow("no such unit") << "#dimension=4;unit=77;name=a\n1" << 1 << 1
@@ -186,7 +160,6 @@ private Q_SLOTS:
         QTest::newRow("digit groups, no header")
             << "1 000;2\n500;3" << 1 << 1 << "row 1, column 1: '1 000' is not a number";
         QTest::newRow("too large") << "1e999" << 1 << 1 << "row 1, column 1: '1e999' is not a number";
-        QTest::newRow("hexadecimal") << "1\n0x10" << 2 << 1 << "row 2, column 1: '0x10' is not a number";
         QTest::newRow("only a header") << "\na;b\n" << 2 << 1 << "row 2: no values follow the header";
         QTest::newRow("two headers") << "a;b\nc;d\n1;2" << 2 << 1 << "row 2, column 1: 'c' is not a number";
         QTest::newRow("very long field")
@@ -211,36 +184,18 @@ private Q_SLOTS:
         QVERIFY(table == measuredCurve());
     }
 
-    void exportReadsBack_data()
-    {
-        QTest::addColumn<QString>("separator");
-        QTest::addColumn<bool>("germanNumbers");
-        for (const char* separator : {";", "\t", ",", " ", "  ", "|", ", ", " ; ", "§"})
-            for (const bool german : {false, true})
-                QTest::addRow("'%s' %s", separator, german ? "comma" : "point")
-                    << QString::fromUtf8(separator) << german;
-    }
-
     void exportReadsBack()
     {
-        QFETCH(QString, separator);
-        QFETCH(bool, germanNumbers);
         const QLocale german(QLocale::German, QLocale::Germany);
-        QRandomGenerator random(99);
-        kdDataTable table = measuredCurve();
-        for (int i = 0; i < 2000; ++i) {
-            const quint64 bits[] = {random.generate64(), random.generate64()};
-            double point[2];
-            std::memcpy(point, bits, sizeof point);
-            if (!std::isnan(point[0]) && !std::isnan(point[1]))
-                table.addPoint(point[0], point[1]);
-        }
-        const QString text = exported(table, separator, true, germanNumbers ? &german : nullptr);
-        QCOMPARE(text.contains(QLatin1String("0,3333333333")),
-                 germanNumbers && !separator.contains(QLatin1Char(',')));
-        QVERIFY(imported(text) == table);
-        QString plain = text;
-        QVERIFY(imported(plain.remove(QLatin1Char('#'))) == table);
+        for (const char* separator : {";", "\t", ",", " ", "  ", "|", ", ", " ; ", "§"})
+            for (const QLocale* locale : {static_cast<const QLocale*>(nullptr), &german}) {
+                const QString mark = QString::fromUtf8(separator);
+                QString text = exported(measuredCurve(), mark, true, locale);
+                QCOMPARE(text.contains(QLatin1String("0,3333333333")),
+                         locale && !mark.contains(QLatin1Char(',')));
+                QVERIFY2(imported(text) == measuredCurve(), separator);
+                QVERIFY2(imported(text.remove(QLatin1Char('#'))) == measuredCurve(), separator);
+            }
     }
 
     void exportLayout()
@@ -254,38 +209,10 @@ private Q_SLOTS:
         QVERIFY(exported(table, QStringLiteral("\t"), false, nullptr).startsWith(QLatin1String("0\t20\n")));
     }
 
-    void missingValuesReadBack()
-    {
-        kdDataTable table(kdUnitSystem::Time, kdUnitSystem::Length);
-        table.addPoint(std::numeric_limits<double>::quiet_NaN(), -INFINITY);
-        const kdDataTable result = imported(exported(table, QStringLiteral(";"), true, nullptr));
-        QVERIFY(std::isnan(result.columnRef(0).value(0)));
-        QCOMPARE(result.columnRef(1).value(0), -INFINITY);
-    }
-
-    void uselessSeparators_data()
-    {
-        QTest::addColumn<QString>("separator");
-        for (const char* separator : {"", ".", "-", "+", "e", "0", "=", "#", "\n", "\"", ";\r"})
-            QTest::newRow(separator) << QString::fromLatin1(separator);
-    }
-
     void uselessSeparators()
     {
-        QFETCH(QString, separator);
-        QString text;
-        QTextStream stream(&text);
-        QVERIFY(!measuredCurve().exportValuesToTextStream(stream, separator));
-        QCOMPARE(text, QString());
-    }
-
-    void deviceThatRefuses()
-    {
-        QFile full(QStringLiteral("/dev/full"));
-        if (!full.open(QIODevice::WriteOnly))
-            QSKIP("This system has no device that is always full.");
-        QTextStream stream(&full);
-        QVERIFY(!measuredCurve().exportValuesToTextStream(stream));
+        for (const char* separator : {"", ".", "-", "+", "e", "0", "=", "#", "\n", "\"", ";\r"})
+            QCOMPARE(exported(measuredCurve(), QString::fromLatin1(separator), true, nullptr), QString());
     }
 
     void bareTexts()
@@ -307,12 +234,10 @@ private Q_SLOTS:
     {
         kdDataTable table = measuredCurve();
         table.setName(QStringLiteral("mine"));
-        table.setEditable(false);
         QString text = QStringLiteral("1;2;3");
         QTextStream stream(&text);
         kdDataTable::importFromTextStream(stream, table);
         QCOMPARE(table.name(), QStringLiteral("mine"));
-        QCOMPARE(table.isEditable(), false);
         QCOMPARE(int(table.columnRef(0).getUsage()), int(kdDataColumn::UsageX));
         QCOMPARE(int(table.columnRef(2).getUsage()), int(kdDataColumn::UsageY));
     }

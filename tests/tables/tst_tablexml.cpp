@@ -52,9 +52,6 @@ QString xml(const QByteArray& columnsAndRows)
 
 const QByteArray twoColumns = "<columndata/><columndata/>";
 
-using Write = QByteArray (*)(const kdDataTable&);
-using Read = bool (*)(const QByteArray&, kdDataTable&);
-
 QByteArray writtenToDevice(const kdDataTable& table)
 {
     QBuffer device;
@@ -69,126 +66,85 @@ QByteArray writtenForJes(const kdDataTable& table)
     return table.writeXMLForJES(writer) ? result : QByteArray();
 }
 
-QByteArray writtenToString(const kdDataTable& table)
-{
-    return table.toXml().toUtf8();
-}
-
 bool readFromXml(const QByteArray& text, kdDataTable& table)
 {
     QXmlStreamReader reader(text);
     return table.readXML(reader);
 }
 
-bool readForJes(const QByteArray& text, kdDataTable& table)
-{
-    QXmlStreamReader reader(text);
-    return table.readXMLForJES(reader);
-}
-
-bool readFromString(const QByteArray& text, kdDataTable& table)
-{
-    bool ok = false;
-    table = kdDataTable::fromXml(QString::fromUtf8(text), &ok);
-    return ok;
-}
-
 } // namespace
-
-Q_DECLARE_METATYPE(Write)
-Q_DECLARE_METATYPE(Read)
 
 class TestTableXml : public QObject {
     Q_OBJECT
 
-private:
-    static void forms()
-    {
-        QTest::addColumn<Write>("write");
-        QTest::addColumn<Read>("read");
-        QTest::newRow("device") << &writtenToDevice << &readFromXml;
-        QTest::newRow("string") << &writtenToString << &readFromString;
-        QTest::newRow("job editor") << &writtenForJes << &readForJes;
-    }
-
 private Q_SLOTS:
-    void roundTrip_data() { forms(); }
     void roundTrip()
     {
-        QFETCH(Write, write);
-        QFETCH(Read, read);
-        const kdDataTable table = flowCurve();
-        kdDataTable result;
-        QVERIFY(read(write(table), result));
-        QVERIFY(result == table);
-        QCOMPARE(int(result.type()), int(table.type()));
-        const kdDataTable withoutColumns;
-        QVERIFY(read(write(withoutColumns), result));
-        QVERIFY(result == withoutColumns);
+        for (const kdDataTable& table : {flowCurve(), kdDataTable()}) {
+            kdDataTable result;
+            QVERIFY(readFromXml(writtenToDevice(table), result));
+            QVERIFY(result == table && result.type() == table.type());
+            QXmlStreamReader reader(writtenForJes(table));
+            QVERIFY(result.readXMLForJES(reader));
+            QVERIFY(result == table && result.type() == table.type());
+        }
     }
 
     // A device gets the bytes that a writer with automatic formatting gives it.
-    void deviceAndWriterAgree_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<int>("columns");
-        QTest::newRow("no columns") << 0 << 0;
-        QTest::newRow("no rows") << 0 << 2;
-        QTest::newRow("one row") << 1 << 1;
-        QTest::newRow("several blocks") << 20000 << 3;
-    }
     void deviceAndWriterAgree()
     {
-        QFETCH(int, rows);
-        QFETCH(int, columns);
-        kdDataTable table;
-        table.setComment(QStringLiteral("ε > 0"));
-        for (int i = 0; i < columns; ++i)
-            table.appendColumn(column(kdUnitSystem(), QString(), QVector<double>(rows, 1.0 / (i + 3))));
-        QByteArray expected;
-        QXmlStreamWriter writer(&expected);
-        writer.setAutoFormatting(true);
-        writer.writeStartDocument();
-        QVERIFY(table.writeXML(writer));
-        writer.writeEndDocument();
-        QCOMPARE(writtenToDevice(table), expected);
+        for (const int rows : {0, 1, 20000}) { // the last in several blocks
+            kdDataTable table;
+            table.setComment(QStringLiteral("ε > 0"));
+            for (int i = 0; i < 3; ++i)
+                table.appendColumn(column(kdUnitSystem(), QString(), QVector<double>(rows, 1.0 / (i + 3))));
+            QByteArray expected;
+            QXmlStreamWriter writer(&expected);
+            writer.setAutoFormatting(true);
+            writer.writeStartDocument();
+            QVERIFY(table.writeXML(writer));
+            writer.writeEndDocument();
+            QCOMPARE(writtenToDevice(table), expected);
+        }
     }
 
     // Special values and random bits: the text of each is that of QString::number, and reads back as it does.
-    void values_data() { forms(); }
     void values()
     {
-        QFETCH(Write, write);
-        QFETCH(Read, read);
-        QVector<double> values{0.0,       -0.0,    1.5,     5e-324, -1.7976931348623157e308,
-                               0.1,       1e15,    1e16,    1e-5,   infinity,
-                               -infinity, missing, -missing};
-        for (const double tie :
-             {4239147494527480.5, 5.9604644775390625e-08, 0.00012345671653747559, 1.0009765625,
-              2.2204460492503131e-16, 999999999999999.95, 9999999999999998.0})
-            values << tie << -tie;
+        QVector<double> values{-0.0,
+                               5e-324,
+                               -1.7976931348623157e308,
+                               1e15,
+                               1e16,
+                               1e-5,
+                               infinity,
+                               -infinity,
+                               missing,
+                               -4239147494527480.5,
+                               5.9604644775390625e-08,
+                               1.0009765625,
+                               999999999999999.95};
         QRandomGenerator random(20240607);
-        for (int i = 0; i < 20000; ++i)
-            values.append(random.bounded(1e16) / (quint64(1) << random.bounded(30)));
         while (values.size() < 40000) {
             const quint64 bits = random.generate64();
             double value;
             std::memcpy(&value, &bits, sizeof value);
-            values.append(std::isnan(value) ? 0.1 * values.size() : value);
+            values << (std::isnan(value) ? 0.1 * values.size() : value);
+            values << random.bounded(1e16)
+                    / (quint64(1) << random.bounded(30)); // often half way between two texts
         }
         kdDataTable table;
         table.appendColumn(column(kdUnitSystem(), QString(), values));
-        const QByteArray text = write(table);
+        const QByteArray text = writtenToDevice(table);
         kdDataTable result;
-        QVERIFY(read(text, result));
-        QCOMPARE(result.rows(), values.size());
+        QVERIFY(readFromXml(text, result));
         int position = 0;
         for (int i = 0; i < values.size(); ++i) {
             const QString number = QString::number(values.at(i), 'g', 16);
             position =
                 text.indexOf("nb=\"" + QByteArray::number(i + 1) + "\">" + number.toLatin1(), position);
             QVERIFY2(position > 0, qPrintable(number));
-            QCOMPARE(QString::number(result.column(0)->value(i), 'g', 16), number);
+            QCOMPARE(QString::number(result.columnRef(0).value(i), 'g', 16), number);
         }
     }
 
@@ -217,11 +173,8 @@ private Q_SLOTS:
     }
 
     // Whatever the catalogue holds, and pairs that it does not hold.
-    void everyUnitReturns_data() { forms(); }
     void everyUnitReturns()
     {
-        QFETCH(Write, write);
-        QFETCH(Read, read);
         kdDataTable table;
         for (int number = 0; number < kdUnitSystem::dimensionCount() + 2; ++number) {
             const auto dimension = kdUnitSystem::Dimension(number);
@@ -231,25 +184,23 @@ private Q_SLOTS:
         table.column(3)->setType(kdDataColumn::Type(77));
         table.column(3)->setUsage(kdDataColumn::Usage(-5));
         kdDataTable result;
-        QVERIFY(read(write(table), result));
+        QVERIFY(readFromXml(writtenToDevice(table), result));
         QVERIFY(result == table);
     }
 
-    void textsThatXmlCannotHold_data() { forms(); }
     void textsThatXmlCannotHold()
     {
-        QFETCH(Write, write);
-        QFETCH(Read, read);
         const QString replacement(QChar(QChar::ReplacementCharacter));
         kdDataTable table(kdUnitSystem::Time, kdUnitSystem::Length);
         table.setName(QLatin1String("a\x01") + QChar(0xd800) + QChar(0xfffe) + QChar(0));
         table.setComment(QString(QChar(0xdc00)) + QString::fromUtf8("\xf0\x9f\x94\xa5"));
         table.setXName(QStringLiteral("]]>&#0;"));
         kdDataTable result;
-        QVERIFY(read(write(table), result));
+        QVERIFY(readFromXml(writtenToDevice(table), result));
         QCOMPARE(result.name(), QLatin1Char('a') + replacement.repeated(4));
         QCOMPARE(result.comment(), replacement + QString::fromUtf8("\xf0\x9f\x94\xa5"));
         QCOMPARE(result.column(0)->name(), table.column(0)->name());
+        QVERIFY(kdDataTable::fromXml(table.toXml()) == result);
     }
 
     void unitOfForeignColumns_data()
@@ -260,14 +211,11 @@ private Q_SLOTS:
         QTest::newRow("type code") << "type='8' fffunit='2' unit_symbol='min'" << 3 << 2;
         QTest::newRow("type code, order of units differs")
             << "type='9' fffunit='0' unit_symbol='°C'" << 10 << 1;
-        QTest::newRow("type code, index only") << "type='5' fffunit='1'" << 4 << 1;
         QTest::newRow("symbol only") << "type='0' fffunit='3' unit_symbol='MPa'" << 30 << 2;
-        QTest::newRow("typed symbol") << "type='7' fffunit='0' unit_symbol='N/mm2'" << 30 << 4;
         QTest::newRow("dimension before type")
             << "type='7' fffunit='1' unit_symbol='mm' dimension='4'" << 4 << 1;
         QTest::newRow("symbol before index") << "fffunit='0' unit_symbol='ft' dimension='4'" << 4 << 5;
         QTest::newRow("unknown symbol, no dimension") << "fffunit='1' unit_symbol='furlong'" << 0 << 1;
-        QTest::newRow("nothing") << "" << 0 << -1;
         QTest::newRow("dimension of a later version") << "fffunit='7' dimension='99'" << 99 << 7;
         QTest::newRow("dimension of a later version, known symbol")
             << "unit_symbol='Pa' dimension='99'" << 30 << 0;
@@ -305,15 +253,6 @@ private Q_SLOTS:
         QCOMPARE(table.columnRef(1).values(), (QVector<double>{2, 4}));
     }
 
-    void elementsGoBeforeAttributes()
-    {
-        const kdDataTable table = kdDataTable::fromXml(
-            QStringLiteral("<kdDataTable name='a' type='1'><name>b</name><type>2</type></kdDataTable>"));
-        QCOMPARE(table.name(), QStringLiteral("b"));
-        QCOMPARE(int(table.type()), 2);
-        QCOMPARE(kdDataTable::fromXml(xml(QByteArray())).name(), QStringLiteral("t"));
-    }
-
     void broken_data()
     {
         QTest::addColumn<QString>("document");
@@ -322,18 +261,8 @@ private Q_SLOTS:
                                          << "row 2 of 't' has 3 values, the table has 2 columns";
         QTest::newRow("too few values, first row") << xml(twoColumns + "<row>1</row><row>1;2</row>")
                                                    << "row 1 of 't' has 1 value, the table has 2 columns";
-        QTest::newRow("too few values, columns last")
-            << xml("<row>1</row>" + twoColumns) << "row 1 of 't' has 1 value, the table has 2 columns";
-        QTest::newRow("empty row") << xml("<columndata/><row/>")
-                                   << "row 1 of 't' has 0 values, the table has 1 column";
-        QTest::newRow("no columns") << xml("<row>1</row>")
-                                    << "row 1 of 't' has 1 value, the table has 0 columns";
         QTest::newRow("no number") << xml(twoColumns + "<row>1;2</row><row>1;a2</row>")
                                    << "row 2, column 2: 'a2' is not a number";
-        QTest::newRow("missing value")
-            << xml(twoColumns + "<row>;2</row>") << "row 1, column 1: '' is not a number";
-        QTest::newRow("decimal comma")
-            << xml("<columndata/><row>1,5</row>") << "row 1, column 1: '1,5' is not a number";
         QTest::newRow("too large") << xml("<columndata/><row>1e999</row>")
                                    << "row 1, column 1: '1e999' is not a number";
         QTest::newRow("column type") << xml("<columndata type='length'/>")
@@ -356,12 +285,8 @@ private Q_SLOTS:
         bool ok = true;
         QVERIFY(kdDataTable::fromXml(document, &ok) == kdDataTable());
         QVERIFY(!ok);
-    }
-
-    void garbageBehindTheTable()
-    {
-        bool ok = true;
-        kdDataTable::fromXml(flowCurve().toXml() + QLatin1String("<x/>"), &ok);
+        ok = true;
+        kdDataTable::fromXml(flowCurve().toXml() + QLatin1String("<x/>"), &ok); // garbage behind the table
         QVERIFY(!ok);
     }
 
@@ -392,13 +317,9 @@ private Q_SLOTS:
     {
         kdDataTable table = flowCurve();
         table.setEditable(false);
-        table.setColorId(3);
-        table.setDefaultYColumnIndex(0);
-        QVERIFY(readFromXml(writtenToDevice(flowCurve()), table));
-        QCOMPARE(table.isEditable(), false);
-        QCOMPARE(table.colorId(), 3);
-        QCOMPARE(table.defaultYColumnIndex(), 0);
         table.setDefaultXColumnIndex(1);
+        QVERIFY(readFromXml(writtenToDevice(flowCurve()), table));
+        QVERIFY(!table.isEditable() && table.defaultXColumnIndex() == 1);
         QVERIFY(readFromXml(xml("<columndata/>").toUtf8(), table));
         QCOMPARE(table.defaultXColumnIndex(), 0);
     }
