@@ -1695,6 +1695,10 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
         <source>The changed deck cannot be written: %1</source>
         <translation>Das geänderte Deck kann nicht geschrieben werden: %1</translation>
     </message>
+    <message>
+        <source>The deck &apos;%1&apos; stays as it was: there are no new lines.</source>
+        <translation>Das Deck &apos;%1&apos; bleibt, wie es war: Es gibt keine neuen Zeilen.</translation>
+    </message>
 </context>
 <context>
     <name>coDeckReader</name>

@@ -6,7 +6,8 @@ QString coDeckOption::text() const
         return tr("comments");
     if (keyword.isEmpty())
         return tr("lines without keyword");
+    const QString known = kind == Other ? keyword : keyword.toLower();
     if (kind == Element || kind == Feature || kind == Nodal)
-        return keyword + QLatin1Char(' ') + QString::number(id);
-    return name.isEmpty() ? keyword : tr("%1 '%2'").arg(keyword, name);
+        return known + QLatin1Char(' ') + QString::number(id);
+    return name.isEmpty() ? known : tr("%1 '%2'").arg(known, name);
 }

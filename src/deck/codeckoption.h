@@ -54,6 +54,6 @@ public:
     /// card, where the reader found an error in it, and where no cards were asked for.
     QSharedPointer<cFeAbstractDatCard> card;
 
-    /// For people: "table 'yield_stress'".
+    /// For people, and the same in any letter case of a known keyword: "table 'yield_stress'".
     QString text() const;
 };

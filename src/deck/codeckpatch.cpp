@@ -40,6 +40,7 @@ bool coDeckPatch::read()
 {
     m_options.clear();
     m_edits.clear();
+    m_lacksLines = false;
     m_errorText.clear();
     QFile file(m_path);
     const QFileInfo info(m_path);
@@ -80,38 +81,40 @@ QByteArray coDeckPatch::bytesOf(const cFeAbstractDatCard& card, int like) const
 
 void coDeckPatch::replace(int index, const QByteArray& lines)
 {
-    add(m_options.at(index).offset, m_options.at(index).size, lines);
+    add(index, Instead, lines);
 }
 
 void coDeckPatch::remove(int index)
 {
-    m_edits.append({m_options.at(index).offset, m_options.at(index).size, QByteArray()});
+    m_edits.append({index, Instead, QByteArray()});
 }
 
 void coDeckPatch::insertBefore(int index, const QByteArray& lines)
 {
-    add(m_options.at(index).offset, 0, lines);
+    add(index, Before, lines);
 }
 
 void coDeckPatch::insertAfter(int index, const QByteArray& lines)
 {
-    const coDeckOption& option = m_options.at(index);
-    add(option.offset + option.size, 0, lines);
+    add(index, After, lines);
 }
 
-void coDeckPatch::add(qint64 offset, qint64 removed, const QByteArray& lines)
+void coDeckPatch::add(int index, Place place, const QByteArray& lines)
 {
+    m_lacksLines = m_lacksLines || lines.isEmpty();
     QByteArray text = lines;
     if (!text.endsWith('\n'))
         text.append('\n');
     if (m_hasCrLf)
         text.replace("\r\n", "\n").replace("\n", "\r\n");
-    m_edits.append({offset, removed, text});
+    m_edits.append({index, place, text});
 }
 
 bool coDeckPatch::apply(Old old, int timeout)
 {
     m_errorText.clear();
+    if (m_lacksLines)
+        return fail(tr("The deck '%1' stays as it was: there are no new lines.").arg(m_path));
     coProjectPathLockFile lock(QFileInfo(m_path).absolutePath());
     if (!lock.tryLock(timeout)) {
         coSysLockFile::Info owner;
@@ -151,17 +154,21 @@ bool coDeckPatch::replaceFile(Old old)
 
 bool coDeckPatch::write(QIODevice& from, QIODevice& to)
 {
-    std::stable_sort(m_edits.begin(), m_edits.end(),
-                     [](const Edit& a, const Edit& b) { return a.offset < b.offset; });
+    std::stable_sort(m_edits.begin(), m_edits.end(), [](const Edit& a, const Edit& b) {
+        return a.index != b.index ? a.index < b.index : a.place < b.place;
+    });
     m_endsInLine = true;
     for (const Edit& edit : qAsConst(m_edits)) {
-        if (!copy(from, to, edit.offset - from.pos()))
+        const coDeckOption& option = m_options.at(edit.index);
+        const qint64 offset = option.offset + (edit.place == After ? option.size : 0);
+        if (!copy(from, to, offset - from.pos()))
             return false;
         if (!edit.lines.isEmpty() && !m_endsInLine && !put(m_hasCrLf ? "\r\n" : "\n", to))
             return false;
         if (!put(edit.lines, to))
             return false;
-        from.seek(from.pos() + edit.removed);
+        if (edit.place == Instead)
+            from.seek(offset + option.size);
     }
     return copy(from, to, m_size - from.pos());
 }

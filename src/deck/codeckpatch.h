@@ -56,7 +56,8 @@ public:
 
     /// \name Changes
     /// By index into options(), each option once at most; they take effect in apply(). Lines get the deck's
-    /// line ends, a missing last one is added.
+    /// line ends, a missing last one is added. Without any, as a
+    /// card that refuses gives them, apply() fails.
     /// @{
     void replace(int index, const QByteArray& lines);
     void remove(int index);
@@ -71,15 +72,16 @@ public:
     QString errorText() const { return m_errorText; }
 
 private:
+    enum Place { Before, Instead, After };
     struct Edit {
-        qint64 offset;
-        qint64 removed;
+        int index;
+        Place place;
         QByteArray lines;
     };
 
     bool fail(const QString& text);
     bool isUnchanged() const;
-    void add(qint64 offset, qint64 removed, const QByteArray& lines);
+    void add(int index, Place place, const QByteArray& lines);
     bool write(QIODevice& from, QIODevice& to);
     bool copy(QIODevice& from, QIODevice& to, qint64 count);
     bool put(const QByteArray& bytes, QIODevice& to);
@@ -93,6 +95,7 @@ private:
     QDateTime m_time;
     QVector<coDeckOption> m_options;
     QVector<Edit> m_edits;
+    bool m_lacksLines = false;
     bool m_endsInLine = true; ///< what was written so far
     QString m_errorText;
 };

@@ -127,14 +127,15 @@ bool coDeckReader::Private::isPointLoadAhead()
 
 void coDeckReader::Private::readOption(coDeckOption& option)
 {
+    // Before the line is taken, so that a finding about it has a name.
+    if (lines.ahead()->kind == coDeckLine::Keyword)
+        option.keyword = QString::fromLocal8Bit(lines.ahead()->bytes()).trimmed();
     const coDeckLine& line = lines.take(option);
     const Keyword* keyword = line.kind == coDeckLine::Keyword ? findKeyword(line) : nullptr;
     if (keyword) {
         readKnown(option, *keyword);
     } else {
-        if (line.kind == coDeckLine::Keyword)
-            option.keyword = QString::fromLocal8Bit(line.bytes()).trimmed();
-        else
+        if (line.kind != coDeckLine::Keyword)
             lines.error(option, 1, tr("keyword expected, found data."));
         readOther(option);
     }
@@ -150,6 +151,7 @@ void coDeckReader::Private::readKnown(coDeckOption& option, const Keyword& keywo
     if (isFree)
         option.format = CFEDatLineWriter::free;
     const int start = length + (isFree ? 1 : 0);
+    const qint64 errors = lines.errors();
     DeckCardReader reader(lines, option);
     switch (keyword.kind) {
     case coDeckOption::Title:
@@ -182,9 +184,16 @@ void coDeckReader::Private::readKnown(coDeckOption& option, const Keyword& keywo
             reader.readTableSection();
         } else {
             option.name = QString::fromLocal8Bit(line.begin + start, line.length() - start);
+            if (isFree && lines.isDataAhead() && !lines.ahead()->isFree()) {
+                // In fixed columns the comma is the name's.
+                option.format = CFEDatLineWriter::fixed;
+                option.name.prepend(QLatin1Char(','));
+            }
             reader.readTable();
         }
     }
+    if (lines.errors() > errors)
+        reader.passOver();
     readSurplus(option);
 }
 

@@ -2,11 +2,13 @@
 
 #include <QIODevice>
 
+#include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace {
 
-constexpr int bufferSize = 4 * coDeckScanner::longestLine;
+constexpr qint64 bufferSize = 4 * coDeckScanner::longestLine;
 
 bool isLetter(char c)
 {
@@ -53,7 +55,12 @@ bool coDeckLine::isFree() const
     return begin != end && std::memchr(begin, ',', static_cast<std::size_t>(length())) != nullptr;
 }
 
-coDeckScanner::coDeckScanner(QIODevice& deck) : m_deck(deck), m_buffer(bufferSize, Qt::Uninitialized) { }
+coDeckScanner::coDeckScanner(QIODevice& deck) : coDeckScanner(deck, std::numeric_limits<qint64>::max()) { }
+
+coDeckScanner::coDeckScanner(QIODevice& deck, qint64 most)
+    : m_deck(deck), m_left(most), m_buffer(static_cast<int>(std::min(bufferSize, most)), Qt::Uninitialized)
+{
+}
 
 bool coDeckScanner::next()
 {
@@ -100,12 +107,15 @@ bool coDeckScanner::fill()
     std::memmove(m_buffer.data(), m_buffer.constData() + m_begin, static_cast<std::size_t>(m_end - m_begin));
     m_end -= m_begin;
     m_begin = 0;
-    const qint64 count = m_deck.read(m_buffer.data() + m_end, m_buffer.size() - m_end);
+    const qint64 count =
+        m_deck.read(m_buffer.data() + m_end, std::min<qint64>(m_left, m_buffer.size() - m_end));
     if (count < 0 && !m_deck.atEnd())
         m_errorText = tr("The deck cannot be read on after line %1: %2")
                           .arg(QString::number(m_line.number), m_deck.errorString());
-    if (count > 0)
+    if (count > 0) {
         m_end += static_cast<int>(count);
+        m_left -= count;
+    }
     return count > 0;
 }
 

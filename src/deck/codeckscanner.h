@@ -54,6 +54,8 @@ public:
     static constexpr int longestLine = 64 * 1024;
 
     explicit coDeckScanner(QIODevice& deck);
+    /// Only the next \a most bytes; needs no more memory than those.
+    coDeckScanner(QIODevice& deck, qint64 most);
     Q_DISABLE_COPY(coDeckScanner)
 
     /// Goes to the next line; false at the end of the deck and when reading fails.
@@ -70,6 +72,7 @@ private:
     void take(const char* begin, const char* end, qint64 size);
 
     QIODevice& m_deck;
+    qint64 m_left; ///< bytes still to be read
     QByteArray m_buffer;
     QByteArray m_longLine;
     int m_begin = 0; ///< of what is not yet read, in the buffer

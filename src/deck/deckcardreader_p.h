@@ -19,6 +19,8 @@ public:
     void readTable();
     void readPointLoad(const QString& component, const QString& comment);
     void readPointCurrent();
+    /// Takes what is left of an option after an error in it, as far as its kind tells.
+    void passOver();
 
 private:
     struct TableVariable {
@@ -35,19 +37,25 @@ private:
         TableVariable variable[2];
     };
 
-    DeckRow nextRow() { return DeckRow(m_lines, m_option); }
+    DeckRow nextRow()
+    {
+        ++m_rows;
+        return DeckRow(m_lines, m_option);
+    }
     DeckRow keywordRow(int keywordLength);
     bool note(const DeckRow& row);
     template <typename Card>
     void keep(const Card& card)
     {
-        if (m_lines.readsCards() && m_isOurs)
+        if (m_lines.readsCards() && m_isOurs && m_lines.isWhole(m_option))
             m_option.card = QSharedPointer<Card>::create(card);
     }
 
+    bool isAhead(const char* keyword);
     bool readSolverExtras(class coFeSolverCard& card, int solverId);
     bool readTableHead(TableHead& head);
     void readFormula(const TableHead& head);
+    bool isPointAhead(bool isExpected);
     void readPoints(TableHead& head);
     void readGrid(TableHead& head);
     bool readGridVariable(TableVariable& variable, int number);
@@ -63,4 +71,5 @@ private:
     DeckLines& m_lines;
     coDeckOption& m_option;
     bool m_isOurs = true;
+    int m_rows = 0;
 };

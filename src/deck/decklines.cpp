@@ -43,6 +43,8 @@ const coDeckLine& DeckLines::take(coDeckOption& option)
         option.firstLine = line.number;
         option.offset = line.offset;
     }
+    if (Q_UNLIKELY(line.isCut))
+        m_cutOption = option.firstLine;
     ++option.lines;
     option.size = line.offset + line.size - option.offset;
     if (Q_UNLIKELY(line.length() > CFEDatLineWriter::maxLineWidth
@@ -54,10 +56,15 @@ const coDeckLine& DeckLines::take(coDeckOption& option)
     return line;
 }
 
-const coDeckLine* DeckLines::takeData(coDeckOption& option)
+void DeckLines::takeComments(coDeckOption& option)
 {
     while (ahead() && ahead()->kind == coDeckLine::Comment)
         take(option);
+}
+
+const coDeckLine* DeckLines::takeData(coDeckOption& option)
+{
+    takeComments(option);
     if (isDataAhead()) {
         const coDeckLine& line = take(option);
         if (m_knownFormat != option.firstLine && line.isFree())
@@ -76,6 +83,7 @@ const coDeckLine* DeckLines::takeData(coDeckOption& option)
 
 bool DeckLines::takeText(coDeckOption& option, QString& text)
 {
+    takeComments(option);
     if (!ahead()) {
         error(option, 0, tr("text line expected, found the end of the deck."));
         return false;
@@ -98,8 +106,9 @@ void DeckLines::error(const coDeckOption& option, int column, const QString& tex
 
 void DeckLines::errorInLine(const coDeckOption& option, qint64 line, const QString& text)
 {
+    ++m_errors;
     if (m_sink)
-        m_sink({coDeckFinding::Error, line, 0, option.text(), text});
+        m_sink({coDeckFinding::Error, line, 0, nameOf(option), text});
 }
 
 void DeckLines::warning(const coDeckOption& option, int column, const QString& text)
@@ -107,9 +116,20 @@ void DeckLines::warning(const coDeckOption& option, int column, const QString& t
     report(coDeckFinding::Warning, option, column, text);
 }
 
+// Names may be as long as lines, and findings many: one text serves all of an option.
+const QString& DeckLines::nameOf(const coDeckOption& option)
+{
+    const int length = option.keyword.size() + option.name.size();
+    if (m_named.line != option.firstLine || m_named.kind != option.kind || m_named.length != length)
+        m_named = {option.firstLine, option.kind, length, option.text()};
+    return m_named.text;
+}
+
 void DeckLines::report(coDeckFinding::Severity severity, const coDeckOption& option, int column,
                        const QString& text)
 {
+    if (severity == coDeckFinding::Error)
+        ++m_errors;
     if (m_sink)
-        m_sink({severity, m_scanner.line().number, column, option.text(), text});
+        m_sink({severity, m_scanner.line().number, column, nameOf(option), text});
 }

@@ -24,20 +24,27 @@ public:
     /// Makes the line ahead the option's and the current one.
     const coDeckLine& take(coDeckOption& option);
 
+    void takeComments(coDeckOption& option);
     /// Goes past comments to the option's next data line, whose commas decide the option's format where it is
     /// the first. Without one that is an error, and null.
     const coDeckLine* takeData(coDeckOption& option);
-    /// The next line as it is: a name, a formula.
+    /// The next line that is no comment as it is: a name, a formula.
     bool takeText(coDeckOption& option, QString& text);
 
     void error(const coDeckOption& option, int column, const QString& text);
     void errorInLine(const coDeckOption& option, qint64 line, const QString& text);
     void warning(const coDeckOption& option, int column, const QString& text);
 
+    /// How many were reported.
+    qint64 errors() const { return m_errors; }
+    /// Whether none of the option's lines was too long to be kept.
+    bool isWhole(const coDeckOption& option) const { return m_cutOption != option.firstLine; }
+
     CFEDatLineWriter::datExtensionMode mode() const { return m_mode; }
     const coDeckScanner& scanner() const { return m_scanner; }
 
 private:
+    const QString& nameOf(const coDeckOption& option);
     void report(coDeckFinding::Severity severity, const coDeckOption& option, int column,
                 const QString& text);
 
@@ -45,6 +52,15 @@ private:
     CFEDatLineWriter::datExtensionMode m_mode;
     bool m_readsCards;
     coDeckFindingSink m_sink;
+    struct Named {
+        qint64 line = -1;
+        int kind = 0;
+        int length = 0;
+        QString text;
+    };
+    Named m_named;
+    qint64 m_errors = 0;
+    qint64 m_cutOption = 0;
     bool m_isAhead = false;
     qint64 m_knownFormat = 0; ///< first line of the option whose format is known
 };

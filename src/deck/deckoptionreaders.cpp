@@ -8,6 +8,37 @@
 
 #include <kdQCore/coMarcSolverType>
 
+namespace {
+
+const char* const optimisation = "optimize";
+const char* const timeStep = "time step";
+constexpr int pointRows = 5;
+
+} // namespace
+
+bool DeckCardReader::isAhead(const char* keyword)
+{
+    const coDeckLine* line = m_lines.ahead();
+    const auto length = static_cast<int>(qstrlen(keyword));
+    return line && line->length() >= length
+        && qstrnicmp(line->begin, keyword, static_cast<uint>(length)) == 0;
+}
+
+void DeckCardReader::passOver()
+{
+    for (; m_lines.isDataAhead(); ++m_rows)
+        m_lines.take(m_option);
+    const bool isPoint =
+        m_option.kind == coDeckOption::PointLoad || m_option.kind == coDeckOption::PointCurrent;
+    if ((m_option.kind == coDeckOption::Solver && isAhead(optimisation))
+        || (m_option.kind == coDeckOption::AutoLoad && isAhead(timeStep))
+        || (isPoint && m_rows == pointRows && m_lines.ahead()
+            && m_lines.ahead()->kind == coDeckLine::Keyword))
+        m_lines.take(m_option);
+    while (m_lines.isDataAhead())
+        m_lines.take(m_option);
+}
+
 DeckRow DeckCardReader::keywordRow(int keywordLength)
 {
     const coDeckLine& line = m_lines.scanner().line();
@@ -74,7 +105,7 @@ void DeckCardReader::readAutoLoad()
         QString keyword;
         if (!m_lines.takeText(m_option, keyword))
             return;
-        if (keyword != QLatin1String("time step"))
+        if (keyword.trimmed().compare(QLatin1String(timeStep), Qt::CaseInsensitive) != 0)
             return m_lines.error(m_option, 1, tr("'time step' expected, found '%1'.").arg(keyword));
         if (!note(nextRow().constantReal(1.0).end()))
             return;
@@ -130,15 +161,13 @@ bool DeckCardReader::readSolverExtras(coFeSolverCard& card, int solverId)
     }
     if (!coFeSolverCard::hasOptimisation(solverId))
         return true;
-    const coDeckLine* line = m_lines.ahead();
-    constexpr int keyLength = 8;
-    if (!line || qstrnicmp(line->begin, "optimize", static_cast<uint>(qMin(keyLength, line->length()))) != 0
-        || line->length() < keyLength) {
+    m_lines.takeComments(m_option);
+    if (!isAhead(optimisation)) {
         m_isOurs = false;
         return true;
     }
     m_lines.take(m_option);
-    return note(keywordRow(keyLength).constant(isSparse ? 9 : 11).end());
+    return note(keywordRow(static_cast<int>(qstrlen(optimisation))).constant(isSparse ? 9 : 11).end());
 }
 
 void DeckCardReader::readPointLoad(const QString& component, const QString& comment)

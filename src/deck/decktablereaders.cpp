@@ -116,13 +116,21 @@ void DeckCardReader::readFormula(const TableHead& head)
     keep(card);
 }
 
+// Comments behind the last announced point are the next option's.
+bool DeckCardReader::isPointAhead(bool isExpected)
+{
+    if (isExpected)
+        m_lines.takeComments(m_option);
+    return m_lines.isDataAhead();
+}
+
 void DeckCardReader::readPoints(TableHead& head)
 {
     QList<double> values;
     double lastX = 0.0;
     bool isGood = true;
     int count = 0;
-    for (; m_lines.isDataAhead(); ++count) {
+    for (; isPointAhead(count < head.variable[0].points); ++count) {
         double x = 0.0;
         double y = 0.0;
         coDeckFields fields(m_lines.take(m_option), m_lines.mode(), m_option.format);
@@ -216,7 +224,7 @@ bool DeckCardReader::isAtEnd(coDeckFields& fields)
 
 void DeckCardReader::keepTable(const TableHead& head, const QList<double>& values)
 {
-    if (!m_lines.readsCards() || !m_isOurs || values.isEmpty())
+    if (!m_lines.readsCards() || !m_isOurs || !m_lines.isWhole(m_option) || values.isEmpty())
         return;
     using Variable = coFeTableCard::IndependentVarUsingValues;
     const auto variable = [&head](int i) {

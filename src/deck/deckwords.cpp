@@ -1,3 +1,4 @@
+#include "codeckfields.h"
 #include "deckwords_p.h"
 
 #include <QIODevice>
@@ -7,6 +8,10 @@
 
 namespace {
 
+// Of point loads and currents.
+constexpr int labelLine = 3;
+constexpr int nodeListLine = 7;
+
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t';
@@ -15,7 +20,7 @@ bool isBlank(char c)
 } // namespace
 
 DeckWords::DeckWords(QIODevice& deck, const coDeckOption& option, CFEDatLineWriter::datExtensionMode mode)
-    : m_scanner(deck), m_option(option), m_mode(mode), m_left(option.size)
+    : m_scanner(deck, option.size), m_option(option), m_mode(mode)
 {
     deck.seek(option.offset);
 }
@@ -31,19 +36,23 @@ bool DeckWords::next(DeckWord& word)
 
 bool DeckWords::nextLine()
 {
-    if (m_left <= 0 || !m_scanner.next())
+    if (!m_scanner.next())
         return false;
     m_words.clear();
     m_next = 0;
     const coDeckLine& line = m_scanner.line();
-    m_left -= line.size;
     if (line.kind == coDeckLine::Comment || line.kind == coDeckLine::Blank)
         return true;
-    const int skipped = m_isKeywordSeen ? 0 : keywordLength();
-    m_isKeywordSeen = true;
+    const int skipped = m_lines++ > 0 ? 0 : keywordLength();
     // The names and further keywords of our own options are fields; a formula or another's text is a whole.
     const bool isWhole = m_option.kind == coDeckOption::Other || m_option.kind == coDeckOption::FormulaTable;
-    if (line.kind == coDeckLine::Keyword && skipped == 0 && isWhole)
+    const bool isPoint =
+        m_option.kind == coDeckOption::PointLoad || m_option.kind == coDeckOption::PointCurrent;
+    if (isPoint && m_lines == labelLine)
+        splitText(line, 6);
+    else if (isPoint && m_lines == nodeListLine)
+        splitText(line, 0);
+    else if (line.kind == coDeckLine::Keyword && skipped == 0 && isWhole)
         m_words.append(line.bytes().trimmed());
     else if (line.isFree())
         splitFree(line.begin + skipped, line.endOfFields);
@@ -64,6 +73,21 @@ int DeckWords::keywordLength() const
     default:
         return m_scanner.line().length();
     }
+}
+
+// A text touches the integer before it, and may hold blanks and commas itself.
+void DeckWords::splitText(const coDeckLine& line, int integers)
+{
+    coDeckFields fields(line, m_mode, m_option.format);
+    for (int i = 0; i < integers; ++i)
+        m_words.append(fields.takeInt().text().toLocal8Bit());
+    const char* const begin = fields.takeRest().begin;
+    QByteArray text(begin, static_cast<int>(line.end - begin));
+    const bool isField =
+        m_option.kind == coDeckOption::PointCurrent && m_option.format != CFEDatLineWriter::fixed;
+    if (isField && text.endsWith(','))
+        text.chop(1);
+    m_words.append(text);
 }
 
 void DeckWords::splitFree(const char* begin, const char* end)

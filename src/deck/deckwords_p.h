@@ -28,6 +28,7 @@ public:
 private:
     bool nextLine();
     int keywordLength() const;
+    void splitText(const coDeckLine& line, int integers);
     void splitFree(const char* begin, const char* end);
     void splitFixed(const char* begin, const char* end);
     void addRun(const char* begin, const char* end);
@@ -35,8 +36,7 @@ private:
     coDeckScanner m_scanner;
     coDeckOption m_option;
     CFEDatLineWriter::datExtensionMode m_mode;
-    qint64 m_left; ///< bytes
-    bool m_isKeywordSeen = false;
+    int m_lines = 0; ///< without comments
     QVector<QByteArray> m_words;
     int m_next = 0;
 };

@@ -19,13 +19,22 @@ const QByteArray deck = "titleplate\n"
                         "6.73149E+2-5.0000E-1\n"
                         "mesh\n"
                         "    1    2    3\n"
+                        "point current\n"
+                        "    0    0\n"
+                        "    1    0    0    0    0    0weld, c\n"
+                        "1.25000E+40.00000E+00.00000E+0\n"
+                        "    4    0    0\n"
+                        "    2\n"
+                        "node 1\n"
                         "solver\n"
                         "   11    0    0    0    0    0    0    0\n"
                         "optimize     11\n";
 
-const QByteArray freeDeck = "title,plate\n"
-                            "table,k\n4,1,0,0,2,\n12,2,2,\n2.93149E+2,3.55000E+8,\n6.73149E+2,-5.0000E-1,\n"
-                            "mesh\n1,2,3,\nsolver\n11,0,0,0,0,0,0,0,\noptimize,11,\n";
+const QByteArray freeDeck =
+    "title,plate\n"
+    "table,k\n4,1,0,0,2,\n12,2,2,\n2.93149E+2,3.55000E+8,\n6.73149E+2,-5.0000E-1,\n"
+    "mesh\n1,2,3,\npoint current\n0,0,\n1,0,0,0,0,0,weld, c,\n"
+    "1.25000E+4,0.00000E+0,0.00000E+0,\n4,0,0,\n2,\nnode 1,\nsolver\n11,0,0,0,0,0,0,0,\noptimize,11,\n";
 
 QByteArray with(const char* what, const char* by)
 {
@@ -77,8 +86,11 @@ private Q_SLOTS:
             "mesh: words that differ: 1, the first:\n- line 9: \n+ line 9: 4\n");
         row("renamed", with("tablek", "tablem"), 0.0,
             "table 'k': only in the first deck, line 3\ntable 'm': only in the second deck, line 3\n");
+        row("broken option", with("   11    0", "   1x    0"), 0.0,
+            "solver: words that differ: 1, the first:\n- line 18: 11\n+ line 18: 1x\n");
+        row("other case", with("solver", "SOLVER"), 0.0, "");
         row("moved", with("mesh\n    1    2    3\n", "") + "mesh\n    1    2    3\n", 0.0,
-            "mesh: at another place: line 8, line 11\n");
+            "mesh: at another place: line 8, line 18\n");
     }
 
     void comparison()
@@ -99,15 +111,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QByteArray>("after");
+        const int point = deck.indexOf("point");
         const QByteArray changed = "titleplate\n"
                                    "$ yield stress\n"
                                    "feature    7\n"
                                    "mesh\n"
                                    "    1    2    3\n"
-                                   "solver\n"
-                                   "    8    0    0    0    0    0    0    0\n"
-                                   "optimize     11\n"
-                                   "end\n";
+            + deck.mid(point, deck.indexOf("solver") - point)
+            + "nodal    1\n"
+              "solver\n"
+              "    8    0    0    0    0    0    0    0\n"
+              "optimize     11\n"
+              "end\n";
         QTest::newRow("LF") << deck << changed;
         QTest::newRow("CR LF") << QByteArray(deck).replace("\n", "\r\n")
                                << QByteArray(changed).replace("\n", "\r\n");
@@ -126,6 +141,7 @@ private Q_SLOTS:
         QCOMPARE(patch.find(QStringLiteral("table 'k'"), 1), -1);
         patch.insertAfter(solver, "end");
         patch.replace(solver, patch.bytesOf(coFeSolverCard(nSolver::MultifrontalDirect), solver));
+        patch.insertBefore(solver, "nodal    1");
         patch.insertBefore(table, "feature    7\n");
         patch.remove(table);
         QVERIFY2(patch.apply(coDeckPatch::KeepOld), qPrintable(patch.errorText()));
@@ -152,6 +168,10 @@ private Q_SLOTS:
         QVERIFY2(patch.errorText().contains(QStringLiteral("changed by somebody else")),
                  qPrintable(patch.errorText()));
         QCOMPARE(content(m_path), deck + "end\n");
+        QVERIFY(patch.read());
+        patch.replace(0, QByteArray());
+        QVERIFY(!patch.apply());
+        QVERIFY2(patch.errorText().contains(QStringLiteral("no new lines")), qPrintable(patch.errorText()));
         QVERIFY(!coDeckPatch(m_folder.filePath(QStringLiteral("missing.dat"))).read());
     }
 };

@@ -78,11 +78,11 @@ private Q_SLOTS:
         row("not finite", with(pointTable, "3.55000E+8", "       nan"),
             {text("line 4, column 18: error: table 'k': finite number expected, found 'nan'.")});
         row("field missing", with(pointTable, "    0    2\n", "\n"),
-            {text("line 2, column 16: error: table 'k': whole number expected in field 4, found nothing."),
-             text("line 3: error: table 'k': data lines that do not belong to the option: 3.")});
+            {text("line 2, column 16: error: table 'k': whole number expected in field 4, found nothing.")});
         row("extrapolation code", with(pointTable, "    2    2\n", "    2    3\n"),
-            {text("line 3, column 15: error: table 'k': 1 or 2 expected in field 3, found '3'."),
-             text("line 4: error: table 'k': data lines that do not belong to the option: 2.")});
+            {text("line 3, column 15: error: table 'k': 1 or 2 expected in field 3, found '3'.")});
+        row("comments between the lines", with(pointTable, "\n", "\n$ x\n"), {});
+        row("upper case", "AUTO LOAD\n0,0,10,1,0,1.,1.,\nTIME STEP\n1.0,\n", {});
         row("deck ends early", pointTable.left(20),
             {text("line 2, column 14: error: table 'k': whole number expected in field 3, found nothing.")});
         row("grid values missing", with(gridTable, "5.00000E+0,", ""),

@@ -72,7 +72,7 @@ public:
     QString text(int longest)
     {
         const QString characters = QString::fromUtf8("abc XYZ_09-,.'$äöß%1€");
-        QString result(1 + below(longest), QLatin1Char('n'));
+        QString result(1 + below(longest), QLatin1Char(longest < 100 && coin() ? ',' : 'n'));
         for (int i = 1; i < result.size(); ++i)
             result[i] = characters.at(below(characters.size()));
         return result;
