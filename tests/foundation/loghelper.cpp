@@ -1,31 +1,27 @@
 // A small application of the family for tests of the debug log, which can be created only in a fresh process.
-// Usage: loghelper <mode>
+// Usage: loghelper <step>..., where a digit logs a line of that severity.
 
 #include <kdQCore/kdDebugLog>
 #include <kdQCore/kdLog>
 
 #include <QCoreApplication>
-#include <QVector>
 
 #include <atomic>
 #include <cstdio>
-#include <cstring>
+#include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace {
 
-using Mode = void (*)(int argc, char** argv);
-
-class CountingSink : public kdLog::Sink {
+class PassingSink : public kdLog::Sink {
 public:
-    CountingSink() { attach(); }
-    ~CountingSink() override { detach(); }
-    void received(const kdLog::Record& record) override { m_characters += record.text.size(); }
-
-private:
-    int m_characters = 0;
+    PassingSink() { attach(); }
+    ~PassingSink() override { detach(); }
+    void received(const kdLog::Record&) override { }
 };
 
 void log(int severity, const QString& text)
@@ -33,67 +29,8 @@ void log(int severity, const QString& text)
     KD_LOG(kdLog::Severity(severity), kdLog::Socket, text);
 }
 
-void severities(int argc, char** argv)
+void logTextsFromOutside()
 {
-    kdDebugLog::createInstance(argc, argv, false);
-    for (int severity = kdLog::Trace; severity <= kdLog::Critical; ++severity)
-        log(severity, QStringLiteral("severity %1").arg(severity));
-    kdDebugLog::removeInstance();
-}
-
-void withApplication(int argc, char** argv)
-{
-    QCoreApplication application(argc, argv);
-    kdDebugLog::createInstance(argc, argv, false);
-    std::printf("%s\n", kdDebugLog::logFilePath().toLocal8Bit().constData());
-    kdDebugLog::removeInstance();
-}
-
-void withoutArguments(int, char**)
-{
-    kdDebugLog::createInstance(0, nullptr, false);
-    log(2, QStringLiteral("nameless"));
-    kdDebugLog::removeInstance();
-}
-
-void currentDirectory(int argc, char** argv)
-{
-    kdDebugLog::createInstance(argc, argv, true);
-    log(2, QStringLiteral("here"));
-    kdDebugLog::removeInstance();
-}
-
-void echo(int argc, char** argv)
-{
-    kdDebugLog::setAlsoLogToStdErrorEnabled(true);
-    severities(argc, argv);
-}
-
-void aroundLife(int argc, char** argv)
-{
-    log(5, QStringLiteral("before"));
-    kdDebugLog::flush();
-    severities(argc, argv);
-    kdDebugLog::flush();
-    log(6, QStringLiteral("after"));
-}
-
-void createAndRemoveTwice(int argc, char** argv)
-{
-    kdDebugLog::removeInstance();
-    kdDebugLog::createInstance(argc, argv, false);
-    kdDebugLog::createInstance(argc, argv, false);
-    log(0, QStringLiteral("first life"));
-    kdDebugLog::removeInstance();
-    kdDebugLog::removeInstance();
-    kdDebugLog::createInstance(argc, argv, false);
-    log(0, QStringLiteral("second life"));
-    kdDebugLog::removeInstance();
-}
-
-void textsFromOutside(int argc, char** argv)
-{
-    kdDebugLog::createInstance(argc, argv, false);
     log(2,
         QStringLiteral(
             "two\n6 20260101 00:00:00.000000 1 forged.cpp:1] Socket           lines\r\nand three"));
@@ -102,63 +39,57 @@ void textsFromOutside(int argc, char** argv)
     log(2, QString(40000, QChar(0xE4)));
     log(2, QString(40000, QLatin1Char('\n')));
     log(2, QString());
-    kdDebugLog::removeInstance();
 }
 
-/// Says when the line is written, then waits to be killed.
-void untilKilled(int argc, char** argv)
+void logFromManyThreads()
 {
-    kdDebugLog::createInstance(argc, argv, false);
-    log(argv[2][0] - '0', QStringLiteral("last words"));
-    if (std::strcmp(argv[3], "flush") == 0)
-        kdDebugLog::flush();
-    std::puts("written");
-    std::fflush(stdout);
-    std::getchar();
-}
-
-void manyThreads(int argc, char** argv)
-{
-    kdDebugLog::createInstance(argc, argv, false);
-    constexpr int threadCount = 4;
-    constexpr int lineCount = 250;
-    std::atomic<int> running{threadCount};
+    std::atomic<int> running{4};
     std::vector<std::thread> threads;
-    for (int t = 0; t < threadCount; ++t)
+    for (int t = 0; t < 4; ++t)
         threads.emplace_back([t, &running] {
-            for (int i = 0; i < lineCount; ++i)
+            for (int i = 0; i < 250; ++i)
                 log(i % 7, QStringLiteral("thread %1 line %2").arg(QString::number(t), QString::number(i)));
             --running;
         });
     while (running > 0) {
-        CountingSink sink;
+        PassingSink sink;
         kdDebugLog::flush();
     }
     for (std::thread& thread : threads)
         thread.join();
-    kdDebugLog::removeInstance();
 }
 
-const std::map<std::string, Mode> modes{
-    {"severities", severities},
-    {"withApplication", withApplication},
-    {"withoutArguments", withoutArguments},
-    {"currentDirectory", currentDirectory},
-    {"echo", echo},
-    {"aroundLife", aroundLife},
-    {"createAndRemoveTwice", createAndRemoveTwice},
-    {"textsFromOutside", textsFromOutside},
-    {"untilKilled", untilKilled},
-    {"manyThreads", manyThreads},
-};
+void waitToBeKilled()
+{
+    std::puts("ready");
+    std::fflush(stdout);
+    std::getchar();
+}
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const auto mode = argc > 1 ? modes.find(argv[1]) : modes.end();
-    if (mode == modes.end())
-        return 2;
-    mode->second(argc, argv);
+    std::unique_ptr<QCoreApplication> application;
+    const std::map<std::string, std::function<void()>> steps{
+        {"application", [&] { application = std::make_unique<QCoreApplication>(argc, argv); }},
+        {"create", [&] { kdDebugLog::createInstance(argc, argv, false); }},
+        {"createHere", [&] { kdDebugLog::createInstance(argc, argv, true); }},
+        {"createNameless", [] { kdDebugLog::createInstance(0, nullptr, false); }},
+        {"remove", kdDebugLog::removeInstance},
+        {"flush", kdDebugLog::flush},
+        {"echo", [] { kdDebugLog::setAlsoLogToStdErrorEnabled(true); }},
+        {"path", [] { std::puts(qPrintable(kdDebugLog::logFilePath())); }},
+        {"texts", logTextsFromOutside},
+        {"threads", logFromManyThreads},
+        {"wait", waitToBeKilled},
+    };
+    for (int i = 1; i < argc; ++i) {
+        const auto step = steps.find(argv[i]);
+        if (step != steps.end())
+            step->second();
+        else
+            log(argv[i][0] - '0', QStringLiteral("severity ") + QString::fromLatin1(argv[i]));
+    }
     return 0;
 }

@@ -4,9 +4,6 @@
 #include <kdQCore/kdCommandDispatcher>
 #include <kdQCore/kdReporter>
 
-#include <QSignalSpy>
-
-#include <functional>
 #include <stdexcept>
 
 namespace {
@@ -14,7 +11,7 @@ namespace {
 int livingCommands = 0;
 QStringList events;
 
-/// "set <text>" notes what it does; its parameter steers it: fail, throw, odd, fixed (cannot be undone),
+/// "set <text>" notes what it does; its parameter steers it: fail, throw, fixed (cannot be undone),
 /// stuck (fails to be undone), stop (asks the dispatcher to stop it), nested (executes others), quit.
 class SetCommand : public kdCommand {
 public:
@@ -23,35 +20,36 @@ public:
 
     QString name() const override { return QStringLiteral("set"); }
     QString helpMessage() const override { return QStringLiteral("Sets a text."); }
-    bool allowUndo() override { return parameter() != QStringLiteral("fixed"); }
-    bool allowStop() override { return parameter() == QStringLiteral("stop"); }
+    bool allowUndo() override { return !is("fixed"); }
+    bool allowStop() override { return is("stop"); }
 
     bool execute() override
     {
         events.append(QStringLiteral("do ") + parameter());
-        if (parameter() == QStringLiteral("loud"))
+        if (is("loud"))
             errorMessage(parameter());
-        if (parameter() == QStringLiteral("throw"))
+        if (is("throw"))
             throw std::runtime_error("out of steam");
-        if (parameter() == QStringLiteral("odd"))
-            throw 42;
-        if (parameter() == QStringLiteral("again"))
+        if (is("again"))
             return slotExecute();
-        if (parameter() == QStringLiteral("nested"))
+        if (is("nested"))
             return kdCommandDispatcher::I().execute(QStringLiteral("set x; set y"));
-        if (parameter() == QStringLiteral("quit"))
+        if (is("quit"))
             kdCommandDispatcher::removeInstance();
-        if (parameter() == QStringLiteral("stop") || parameter() == QStringLiteral("unstoppable"))
+        if (is("stop") || is("unstoppable"))
             return kdCommandDispatcher::I().slotStop() == stopRequested() && !stopRequested();
         setResult(parameter());
-        return parameter() != QStringLiteral("fail");
+        return !is("fail");
     }
 
     bool undo() override
     {
         events.append(QStringLiteral("undo ") + parameter());
-        return parameter() != QStringLiteral("stuck");
+        return !is("stuck");
     }
+
+private:
+    bool is(const char* text) const { return parameter() == QLatin1String(text); }
 };
 
 QSharedPointer<kdCommand> createSet(const QString& parameters)
@@ -64,19 +62,22 @@ QSharedPointer<kdCommand> createNothing(const QString&)
     return {};
 }
 
+QSharedPointer<kdCommand> createPlain(const QString& parameters, const char* name)
+{
+    auto command = QSharedPointer<kdCommand>::create(parameters);
+    command->setObjectName(QLatin1String(name));
+    return command;
+}
+
 /// Takes the name "set" too, later than SetCommand.
 QSharedPointer<kdCommand> createLateSet(const QString& parameters)
 {
-    auto command = QSharedPointer<kdCommand>::create(parameters);
-    command->setObjectName(QStringLiteral("set"));
-    return command;
+    return createPlain(parameters, "set");
 }
 
 QSharedPointer<kdCommand> createNamedByObject(const QString& parameters)
 {
-    auto command = QSharedPointer<kdCommand>::create(parameters);
-    command->setObjectName(QStringLiteral("named"));
-    return command;
+    return createPlain(parameters, "named");
 }
 
 } // namespace
@@ -135,29 +136,14 @@ private Q_SLOTS:
     void lifeIsLogged()
     {
         LogCapture log;
-        kdCommandDispatcher* const first = &kdCommandDispatcher::I();
+        kdCommandDispatcher* const first = &dispatcher();
         kdCommandDispatcher::createInstance();
-        QCOMPARE(&kdCommandDispatcher::I(), first);
+        QCOMPARE(&dispatcher(), first);
         kdCommandDispatcher::removeInstance();
         QVERIFY(!kdCommandDispatcher::created());
-        kdCommandDispatcher::removeInstance();
-        QVERIFY(!kdCommandDispatcher::I().execute(QStringLiteral("list")));
-        kdCommandDispatcher::createInstance();
-        QVERIFY(kdCommandDispatcher::created());
-        const QVector<kdLog::Record> records = log.records();
-        const QVector<QPair<kdLog::Tag, QString>> expected{
-            {kdLog::General, QStringLiteral("kdCommandDispatcher creation failed!")},
-            {kdLog::Command, QStringLiteral("kdCommandDispatcher removed.")},
-            {kdLog::General, QStringLiteral("kdCommandDispatcher remove failed!")},
-            {kdLog::General, QStringLiteral("Call of kdCommandDispatcher while instance does not exist !")},
-            {kdLog::Command, QStringLiteral("kdCommandDispatcher created.")}};
-        QCOMPARE(records.size(), expected.size());
-        for (int i = 0; i < records.size(); ++i) {
-            QCOMPARE(qMakePair(records.at(i).tag, records.at(i).text), expected.at(i));
-            QCOMPARE(records.at(i).severity,
-                     expected.at(i).first == kdLog::Command ? kdLog::Trace : kdLog::Fault);
-            QCOMPARE(records.at(i).file, QStringLiteral("kdcommanddispatcher.cpp"));
-        }
+        QVERIFY(!dispatcher().execute(QStringLiteral("list")));
+        QVERIFY(log.contains(kdLog::Trace, kdLog::Command, QStringLiteral("kdCommandDispatcher removed.")));
+        QCOMPARE(log.records().size(), 3);
     }
 
     void aVeryLongLineNeedsNoDeepStack()
@@ -216,22 +202,19 @@ private Q_SLOTS:
 
     void redoRunsTheSameObject()
     {
-        QSignalSpy executed(&dispatcher(), &kdCommandDispatcher::signalCommandExecuted);
-        QVERIFY(dispatcher().execute(QStringLiteral("set a")));
-        QVERIFY(dispatcher().slotUndo());
+        const QSharedPointer<kdCommand> first = createSet(QStringLiteral("a"));
+        QVERIFY(dispatcher().execute(first) && dispatcher().slotUndo());
         QVERIFY(dispatcher().redoAvailable() && !dispatcher().undoAvailable());
         QVERIFY(dispatcher().slotRedo());
         QVERIFY(!dispatcher().redoAvailable() && dispatcher().undoAvailable());
-        QCOMPARE(executed.size(), 2);
-        QCOMPARE(executed.at(0).at(0).value<QSharedPointer<kdCommand>>(),
-                 executed.at(1).at(0).value<QSharedPointer<kdCommand>>());
+        QCOMPARE(livingCommands, 1);
+        QCOMPARE(first->status(), kdCommand::Executed);
     }
 
     void undoingByHandKeepsTheListsConsistent()
     {
         const QSharedPointer<kdCommand> first = createSet(QStringLiteral("a"));
-        QVERIFY(dispatcher().execute(first));
-        QVERIFY(dispatcher().execute(QStringLiteral("set b")));
+        QVERIFY(dispatcher().execute(first) && dispatcher().execute(QStringLiteral("set b")));
         QVERIFY(dispatcher().undo(first));
         QVERIFY(!dispatcher().undo(first));
         QVERIFY(dispatcher().slotUndo());
@@ -263,21 +246,16 @@ private Q_SLOTS:
     void statusGuardsTheSlots()
     {
         SetCommand command(QStringLiteral("%1 a"));
-        QCOMPARE(command.status(), kdCommand::Ready);
-        QVERIFY(!command.slotUndo());
-        QVERIFY(!command.slotStop());
+        QVERIFY(!command.slotUndo() && !command.slotStop());
         QVERIFY(command.slotExecute());
         QCOMPARE(command.status(), kdCommand::Executed);
-        QCOMPARE(command.result(), QStringLiteral("%1 a"));
         QCOMPARE(command.description(), QStringLiteral("set %1 a"));
-        QVERIFY(!command.slotExecute());
-        QVERIFY(!command.slotStop());
+        QVERIFY(!command.slotExecute() && !command.slotStop());
         QVERIFY(command.slotUndo());
         QCOMPARE(command.status(), kdCommand::Ready);
 
         kdCommand plain(QStringLiteral("a"));
-        QVERIFY(!plain.slotExecute());
-        QVERIFY(!plain.undo());
+        QVERIFY(!plain.slotExecute() && !plain.undo());
     }
 
     void stopReachesTheRunningCommand()
@@ -312,26 +290,6 @@ private Q_SLOTS:
         QCOMPARE(m_errors, QStringList{QStringLiteral("The command 'list' takes no parameter, not 'all'.")});
     }
 
-    void languageCodes_data()
-    {
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<int>("language");
-        QTest::newRow("EN") << "EN" << int(kdQLanguage::English);
-        QTest::newRow("de_AT") << "de_AT" << int(kdQLanguage::German);
-        QTest::newRow("deu") << "deu" << -1;
-        QTest::newRow("empty") << "" << -1;
-    }
-
-    void languageCodes()
-    {
-        QFETCH(QString, code);
-        QFETCH(int, language);
-        kdQLanguage::KDLANGUAGE found = kdQLanguage::German;
-        QCOMPARE(kdQLanguage::fromCode(code, found), language >= 0);
-        if (language >= 0)
-            QCOMPARE(int(found), language);
-    }
-
     void languageCommand()
     {
         if (!dispatcher().setLanguage(kdQLanguage::German))
@@ -343,10 +301,10 @@ private Q_SLOTS:
         const QString english = QStringLiteral("Lists all commands.");
         const QString german = QStringLiteral("Zeigt die Befehle.");
 
-        QVERIFY(dispatcher().execute(QStringLiteral("language de")));
+        QVERIFY(dispatcher().execute(QStringLiteral("language de_AT")));
         QCOMPARE(dispatcher().language(), kdQLanguage::German);
         QCOMPARE(listHelp(), german);
-        QVERIFY(dispatcher().execute(QStringLiteral("language en")));
+        QVERIFY(dispatcher().execute(QStringLiteral("language EN")));
         QCOMPARE(listHelp(), english);
         QVERIFY(dispatcher().slotUndo());
         QCOMPARE(listHelp(), german);
@@ -358,11 +316,11 @@ private Q_SLOTS:
 
     void languagesThatAreNotThere()
     {
-        QVERIFY(!dispatcher().execute(QStringLiteral("language klingon")));
-        QVERIFY(!dispatcher().execute(QStringLiteral("language")));
-        QCOMPARE(m_errors,
-                 QStringList({QStringLiteral("'klingon' is no language code; there are: de, en."),
-                              QStringLiteral("'' is no language code; there are: de, en.")}));
+        for (const char* code : {"klingon", "deu", ""}) {
+            QVERIFY(!dispatcher().execute(QStringLiteral("language ") + QLatin1String(code)));
+            QCOMPARE(m_errors.takeLast(),
+                     QStringLiteral("'%1' is no language code; there are: de, en.").arg(QLatin1String(code)));
+        }
         QVERIFY(!dispatcher().setLanguage(kdQLanguage::KDLANGUAGE(99)));
         QVERIFY(!dispatcher().undoAvailable());
     }
