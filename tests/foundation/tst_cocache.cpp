@@ -6,7 +6,6 @@
 #include <kdQCore/coCachedString>
 
 #include <limits>
-#include <numeric>
 #include <random>
 
 namespace {
@@ -94,49 +93,36 @@ private Q_SLOTS:
         QVERIFY(coCache::keyForQuery(&other) != coCache::keyForQuery(&query));
     }
 
-    void units_data()
-    {
-        QTest::addColumn<qint64>("bytes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("negative") << qint64(-2048) << "-2048 B";
-        QTest::newRow("KiB") << qint64(1024) << "1 KiB";
-        QTest::newRow("MiB") << qint64(coCache::maxCacheSize) << "25 MiB";
-        QTest::newRow("most GiB") << (qint64(1) << 62) << "4294967296 GiB";
-    }
-
     void units()
     {
-        QFETCH(qint64, bytes);
-        QTEST(coCache::findFittingUnit(bytes).toString(), "text");
+        QCOMPARE(coCache::findFittingUnit(-2048).toString(), QStringLiteral("-2048 B"));
+        QCOMPARE(coCache::findFittingUnit(1024).toString(), QStringLiteral("1 KiB"));
+        QCOMPARE(coCache::findFittingUnit(coCache::maxCacheSize).toString(), QStringLiteral("25 MiB"));
+        QCOMPARE(coCache::findFittingUnit(qint64(1) << 62).toString(), QStringLiteral("4294967296 GiB"));
     }
 
     void pruning_data()
     {
-        QTest::addColumn<qint64>("maxSize");
+        QTest::addColumn<int>("maxSize");
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("inUse");
         QTest::addColumn<QString>("left");
-        const auto row = [](const char* title, qint64 maxSize, int mode, const char* inUse,
-                            const char* left) {
+        const auto row = [](const char* title, int maxSize, int mode, const char* inUse, const char* left) {
             QTest::newRow(title) << maxSize << mode << QString::fromLatin1(inUse)
                                  << QString::fromLatin1(left);
         };
-        const int used = coCache::eLeastRecentlyUsed;
-        const int loaded = coCache::eLeastRecentlyLoaded;
-        row("all fit", 40, used, "", "abcd");
-        row("one too many, by use", 39, used, "", "acd");
-        row("one too many, by load", 39, loaded, "", "bcd");
+        row("all fit", 40, coCache::eLeastRecentlyUsed, "", "abcd");
+        row("one too many, by load", 39, coCache::eLeastRecentlyLoaded, "", "bcd");
         row("unknown mode goes by use", 39, 7, "", "acd");
-        row("first is in use", 20, used, "b", "ab");
-        row("above the maximum", 5, used, "bd", "bd");
-        row("nothing may stay", 0, used, "", "");
-        row("negative maximum", -1, loaded, "c", "c");
+        row("first is in use", 20, coCache::eLeastRecentlyUsed, "b", "ab");
+        row("above the maximum", 5, coCache::eLeastRecentlyUsed, "bd", "bd");
+        row("negative maximum", -1, coCache::eLeastRecentlyLoaded, "c", "c");
     }
 
     // Loaded in the order a, b, c, d; a is used once more at the end.
     void pruning()
     {
-        QFETCH(qint64, maxSize);
+        QFETCH(int, maxSize);
         QFETCH(int, mode);
         QFETCH(QString, inUse);
         coCache cache;
@@ -210,12 +196,11 @@ private Q_SLOTS:
     void copiesBelongToNoCache()
     {
         coCache cache;
-        auto* item = new Item(name(1), 10);
-        cache.put(item);
-        cache.put(new Item(name(2), 10));
+        for (int i : {1, 2})
+            cache.put(new Item(name(i), 10));
         coCache second;
-        second.put(new Item(*item));
-        *get(second, name(1)) = *item;
+        second.put(new Item(*get(cache, name(1))));
+        *get(second, name(1)) = *get(cache, name(1));
         QCOMPARE(second.size(), 10);
         QCOMPARE(cache.size(), 20);
     }
@@ -247,25 +232,23 @@ private Q_SLOTS:
         for (int step = 0; step < 5000; ++step) {
             ++fakeTime;
             const QString key = name(int(random() % 100));
-            const auto bytes = qint64(random() % 100);
+            const qint64 known = taken(key);
             if (random() % 2) {
-                const qint64 found = taken(key);
                 const Item* item = get(cache, key);
-                QCOMPARE(item ? item->size() : -1, found);
+                QCOMPARE(item ? item->size() : -1, known);
                 if (item)
-                    model.append({key, found});
+                    model.append({key, known});
                 continue;
             }
+            const auto bytes = qint64(random() % 100);
             cache.put(new Item(key, bytes));
-            taken(key);
             model.append({key, bytes});
-            const auto total = [&model] {
-                return std::accumulate(model.begin(), model.end(), qint64(0),
-                                       [](qint64 sum, auto& e) { return sum + e.second; });
-            };
-            while (total() > 2000)
-                model.removeFirst();
-            QCOMPARE(cache.size(), total());
+            qint64 total = 0;
+            for (const auto& entry : qAsConst(model))
+                total += entry.second;
+            while (total > 2000)
+                total -= model.takeFirst().second;
+            QCOMPARE(cache.size(), total);
             QCOMPARE(cache.count(), model.size());
         }
     }
@@ -278,11 +261,10 @@ private Q_SLOTS:
         QVERIFY(text.initialized());
         text = QStringLiteral("path");
         const coCachedString moved = std::move(text);
-        QCOMPARE(QString(moved), QStringLiteral("path"));
         QVERIFY(moved.initialized());
+        QCOMPARE(QString(moved), QStringLiteral("path"));
         text.setNull();
-        QVERIFY(!text.initialized());
-        QVERIFY(QString(text).isNull());
+        QVERIFY(!text.initialized() && QString(text).isNull());
     }
 };
 

@@ -7,8 +7,6 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
-#include <random>
-
 using namespace nCreateObjectName;
 
 namespace {
@@ -29,21 +27,6 @@ QString s(const char* text)
 QString repeated(char c, int count)
 {
     return QString(count, QLatin1Char(c));
-}
-
-/// The counter rule, carried out candidate by candidate.
-QString uniqueOneByOne(const QString& name, const QStringList& taken, bool internal, bool force)
-{
-    if (!force && !taken.contains(name, Qt::CaseInsensitive))
-        return name;
-    QString base = name;
-    const int existing = chopCounter(base);
-    for (qint64 counter = existing >= 1 ? existing : (force ? 1 : 2);; ++counter) {
-        const QString suffix = QStringLiteral("-%1").arg(counter);
-        const QString candidate = base.left((internal ? 20 : 1000) - suffix.size()) + suffix;
-        if (!taken.contains(candidate, Qt::CaseInsensitive))
-            return candidate;
-    }
 }
 
 /// A name with a child element.
@@ -126,30 +109,40 @@ private Q_SLOTS:
         QTEST(name, "rest");
     }
 
-    void uniqueAgainstTheRule()
+    void unique_data()
     {
-        std::mt19937 random(3);
-        const QString letters = QStringLiteral("aA-1209");
-        const auto text = [&](int longest) {
-            QString result;
-            for (auto left = 1 + random() % unsigned(longest); left > 0; --left)
-                result += letters.at(int(random() % unsigned(letters.size())));
-            return result;
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("taken");
+        QTest::addColumn<bool>("internal");
+        QTest::addColumn<bool>("force");
+        QTest::addColumn<QString>("result");
+        const auto row = [](const QString& name, const QString& taken, bool internal, bool force,
+                            const QString& result) {
+            QTest::addRow("%s among %s", qPrintable(name), qPrintable(taken))
+                << name << taken << internal << force << result;
         };
-        for (int i = 0; i < 3000; ++i) {
-            QStringList taken;
-            for (auto left = random() % 40; left > 0; --left)
-                taken.append(i % 2 ? text(4) : repeated('a', 16) + text(4));
-            const QString name = taken.isEmpty() || i % 3 == 0 ? text(22) : taken.constFirst();
-            const bool internal = i % 5 != 0;
-            const bool force = i % 7 == 0;
-            QCOMPARE(ensureUniqueCounter(name, taken, internal, force),
-                     uniqueOneByOne(name, taken, internal, force));
-        }
-        const QString pair = repeated('a', 17) + s("\xf0\x9f\x98\x80-"); // is not split
-        QCOMPARE(ensureUniqueCounter(pair, QStringList{pair}, true), repeated('a', 17) + s("-2"));
-        const QString most = s("X-2147483647");
-        QCOMPARE(ensureUniqueCounter(most, QStringList{most}, false), s("X-2147483648"));
+        const QString a17 = repeated('a', 17);
+        row(s("A-7"), s("A"), false, false, s("A-7"));
+        row(s("A"), s(""), false, true, s("A-1"));
+        row(s("A-5"), s("A-6"), true, true, s("A-5"));
+        row(s("part"), s("Part"), false, false, s("part-2"));
+        row(s("A-0"), s("A-0"), false, false, s("A-2"));
+        row(s("A"), s("A A-02 A-1 B-2 AA-2 A-x A_2"), false, false, s("A-2"));
+        row(s("A-3"), s("A-6 a-4 A-3 A-2"), false, false, s("A-5"));
+        row(s("X-2147483647"), s("X-2147483647"), false, false, s("X-2147483648"));
+        row(a17 + s("-9"), a17 + s("-9"), false, false, a17 + s("-10"));
+        row(a17 + s("b-9"), a17 + s("b-9 ") + a17 + s("-10"), true, false, a17 + s("-11"));
+        const QString pair = a17 + s("\xf0\x9f\x98\x80-"); // is not split
+        row(pair, pair, true, false, a17 + s("-2"));
+    }
+
+    void unique()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, taken);
+        QFETCH(bool, internal);
+        QFETCH(bool, force);
+        QTEST(ensureUniqueCounter(name, list(taken), internal, force), "result");
     }
 
     void prefixes()
