@@ -8,6 +8,8 @@
 #include <limits>
 #include <random>
 
+#define S(text) QStringLiteral(text)
+
 namespace {
 
 qint64 fakeTime = 0;
@@ -64,6 +66,27 @@ Item* get(coCache& cache, const QString& key)
     return static_cast<Item*>(cache.get(&query));
 }
 
+/// What of four items stays; they are loaded in the order a, b, c, d; a is used once more at the end.
+QString pruned(int maxSize, coCache::e_PruningModes mode, const QString& inUse)
+{
+    coCache cache;
+    const QString letters = S("abcd");
+    for (const QChar letter : letters) {
+        ++fakeTime;
+        cache.put(new Item(letter, 10, inUse.contains(letter)));
+    }
+    ++fakeTime;
+    const bool isUsed = get(cache, S("a"))->lastUsed() == fakeTime;
+    cache.setPruningMode(mode);
+    cache.setMaxSize(maxSize);
+    QString left;
+    for (const QChar letter : letters)
+        if (holds(cache, letter))
+            left += letter;
+    const bool fits = cache.size() == 10 * left.size() && Item::alive == left.size();
+    return isUsed && fits ? left : S("wrong sizes or times");
+}
+
 } // namespace
 
 class TestCoCache : public QObject {
@@ -84,9 +107,9 @@ private Q_SLOTS:
 
     void keys()
     {
-        const Query query(QStringLiteral("a$#$b%1"));
+        const Query query(S("a$#$b%1"));
         const Item item(query.key(), 1);
-        QCOMPARE(item.key(true), QString::fromLatin1(typeid(Query).name()) + QStringLiteral("$#$a$#$b%1"));
+        QCOMPARE(item.key(true), QString::fromLatin1(typeid(Query).name()) + S("$#$a$#$b%1"));
         QCOMPARE(item.key(true), coCache::keyForQuery(&query));
         QCOMPARE(item.key(false), query.key());
         const OtherQuery other(query.key());
@@ -95,53 +118,22 @@ private Q_SLOTS:
 
     void units()
     {
-        QCOMPARE(coCache::findFittingUnit(-2048).toString(), QStringLiteral("-2048 B"));
-        QCOMPARE(coCache::findFittingUnit(1024).toString(), QStringLiteral("1 KiB"));
-        QCOMPARE(coCache::findFittingUnit(coCache::maxCacheSize).toString(), QStringLiteral("25 MiB"));
-        QCOMPARE(coCache::findFittingUnit(qint64(1) << 62).toString(), QStringLiteral("4294967296 GiB"));
+        QCOMPARE(coCache::findFittingUnit(-2048).toString(), S("-2048 B"));
+        QCOMPARE(coCache::findFittingUnit(1024).toString(), S("1 KiB"));
+        QCOMPARE(coCache::findFittingUnit(coCache::maxCacheSize).toString(), S("25 MiB"));
+        QCOMPARE(coCache::findFittingUnit(qint64(1) << 62).toString(), S("4294967296 GiB"));
     }
 
-    void pruning_data()
-    {
-        QTest::addColumn<int>("maxSize");
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("inUse");
-        QTest::addColumn<QString>("left");
-        const auto row = [](const char* title, int maxSize, int mode, const char* inUse, const char* left) {
-            QTest::newRow(title) << maxSize << mode << QString::fromLatin1(inUse)
-                                 << QString::fromLatin1(left);
-        };
-        row("all fit", 40, coCache::eLeastRecentlyUsed, "", "abcd");
-        row("one too many, by load", 39, coCache::eLeastRecentlyLoaded, "", "bcd");
-        row("unknown mode goes by use", 39, 7, "", "acd");
-        row("first is in use", 20, coCache::eLeastRecentlyUsed, "b", "ab");
-        row("above the maximum", 5, coCache::eLeastRecentlyUsed, "bd", "bd");
-        row("negative maximum", -1, coCache::eLeastRecentlyLoaded, "c", "c");
-    }
-
-    // Loaded in the order a, b, c, d; a is used once more at the end.
     void pruning()
     {
-        QFETCH(int, maxSize);
-        QFETCH(int, mode);
-        QFETCH(QString, inUse);
-        coCache cache;
-        const QString letters = QStringLiteral("abcd");
-        for (const QChar letter : letters) {
-            ++fakeTime;
-            cache.put(new Item(letter, 10, inUse.contains(letter)));
-        }
-        ++fakeTime;
-        QCOMPARE(get(cache, QStringLiteral("a"))->lastUsed(), fakeTime);
-        cache.setPruningMode(static_cast<coCache::e_PruningModes>(mode));
-        cache.setMaxSize(maxSize);
-        QString left;
-        for (const QChar letter : letters)
-            if (holds(cache, letter))
-                left += letter;
-        QTEST(left, "left");
-        QCOMPARE(cache.size(), 10 * left.size());
-        QCOMPARE(Item::alive, left.size());
+        const auto byUse = coCache::eLeastRecentlyUsed;
+        const auto byLoad = coCache::eLeastRecentlyLoaded;
+        QCOMPARE(pruned(40, byUse, S("")), S("abcd"));
+        QCOMPARE(pruned(39, byLoad, S("")), S("bcd"));
+        QCOMPARE(pruned(39, coCache::e_PruningModes(7), S("")), S("acd")); // goes by use
+        QCOMPARE(pruned(20, byUse, S("b")), S("ab"));
+        QCOMPARE(pruned(5, byUse, S("bd")), S("bd"));
+        QCOMPARE(pruned(-1, byLoad, S("c")), S("c"));
     }
 
     void newItemSurvives()
@@ -177,8 +169,7 @@ private Q_SLOTS:
 
         LogCapture log;
         cache.put(nullptr);
-        QVERIFY(log.contains(kdLog::Fault, kdLog::FailedAssert,
-                             QStringLiteral("coCache::put: there is no item")));
+        QVERIFY(log.contains(kdLog::Fault, kdLog::FailedAssert, S("coCache::put: there is no item")));
         QVERIFY(!cache.contains(nullptr));
         QVERIFY(!cache.get(nullptr));
     }
@@ -211,10 +202,10 @@ private Q_SLOTS:
         for (const char* key : {"x/1", "y/1", "y/12"})
             cache.put(new Item(QString::fromLatin1(key), 1));
         ++fakeTime;
-        const Query query(QStringLiteral("y/1"), true);
+        const Query query(S("y/1"), true);
         const coCacheItem* found = cache.get(&query);
         QVERIFY(found);
-        QCOMPARE(found->key(false), QStringLiteral("y/1"));
+        QCOMPARE(found->key(false), S("y/1"));
         QCOMPARE(found->lastUsed(), fakeTime);
         QVERIFY(!cache.contains(&query));
     }
@@ -259,10 +250,10 @@ private Q_SLOTS:
         QVERIFY(!text.initialized());
         text = QString();
         QVERIFY(text.initialized());
-        text = QStringLiteral("path");
+        text = S("path");
         const coCachedString moved = std::move(text);
         QVERIFY(moved.initialized());
-        QCOMPARE(QString(moved), QStringLiteral("path"));
+        QCOMPARE(QString(moved), S("path"));
         text.setNull();
         QVERIFY(!text.initialized() && QString(text).isNull());
     }

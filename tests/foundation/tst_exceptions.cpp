@@ -12,6 +12,8 @@
 #include <cerrno>
 #include <type_traits>
 
+#define S(text) QStringLiteral(text)
+
 using nKaldoranMaterial::maDataError;
 using nKaldoranMaterial::maValueError;
 using nSystem::cError;
@@ -29,11 +31,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("encoding");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("readBack");
-        const QString text = QStringLiteral("Größe ≥ 5 µm");
+        const QString text = S("Größe ≥ 5 µm");
         QTest::newRow("UTF-8") << QByteArray("UTF-8") << text.toUtf8() << text;
         QTest::newRow("one byte, with a substitute")
-            << QByteArray("ISO-8859-1") << QByteArray("Gr\xf6\xdf\x65 ? 5 \xb5m")
-            << QStringLiteral("Größe ? 5 µm");
+            << QByteArray("ISO-8859-1") << QByteArray("Gr\xf6\xdf\x65 ? 5 \xb5m") << S("Größe ? 5 µm");
     }
 
     void messageIsKeptInTheLocalEncoding()
@@ -42,7 +43,7 @@ private Q_SLOTS:
         QTextCodec* const former = QTextCodec::codecForLocale();
         QTextCodec::setCodecForLocale(QTextCodec::codecForName(encoding));
         const auto restore = qScopeGuard([former] { QTextCodec::setCodecForLocale(former); });
-        const QString message = QStringLiteral("Größe ≥ 5 µm");
+        const QString message = S("Größe ≥ 5 µm");
         const kdException exception(message);
         QTEST(QByteArray(exception.what()), "bytes");
         QTEST(exception.getErrorMessage(), "readBack");
@@ -53,8 +54,8 @@ private Q_SLOTS:
 
     void markupIsForTheMessageBoxOnly()
     {
-        const kdException exception(QStringLiteral("<p>File <b>a&amp;b</b> is missing.</p><p>Größe: 5</p>"));
-        QCOMPARE(exception.nonHTMLErrorMessage(), QStringLiteral("File a&b is missing.\nGröße: 5"));
+        const kdException exception(S("<p>File <b>a&amp;b</b> is missing.</p><p>Größe: 5</p>"));
+        QCOMPARE(exception.nonHTMLErrorMessage(), S("File a&b is missing.\nGröße: 5"));
         QVERIFY(exception.getErrorMessage().startsWith(QLatin1String("<p>File <b>")));
         QCOMPARE(kdException().nonHTMLErrorMessage(), QString());
     }
@@ -62,28 +63,28 @@ private Q_SLOTS:
     void payloadSurvivesThrowingAndCopying()
     {
         try {
-            throw PositionException(QStringLiteral("bad cell"), {7, 2});
+            throw PositionException(S("bad cell"), {7, 2});
         } catch (const kdException& caught) {
             const PositionException copy = dynamic_cast<const PositionException&>(caught);
             QCOMPARE(copy.payload(), qMakePair(7, 2));
-            QCOMPARE(copy.getErrorMessage(), QStringLiteral("bad cell"));
+            QCOMPARE(copy.getErrorMessage(), S("bad cell"));
         }
     }
 
     void systemErrorText()
     {
-        const cWindowsError known(QStringLiteral("Öffnen"), ENOENT);
-        QCOMPARE(known.message(), QStringLiteral("Öffnen ") + nPlatform::systemErrorText(ENOENT));
+        const cWindowsError known(S("Öffnen"), ENOENT);
+        QCOMPARE(known.message(), S("Öffnen ") + nPlatform::systemErrorText(ENOENT));
         QVERIFY(known.message().endsWith(QLatin1Char('\n')));
-        QCOMPARE(cWindowsError(QStringLiteral("Öffnen"), 987654UL).message(), QStringLiteral("Öffnen "));
+        QCOMPARE(cWindowsError(S("Öffnen"), 987654UL).message(), S("Öffnen "));
     }
 
     void materialErrorIsCaughtByItsBase()
     {
         try {
-            throw maValueError(QStringLiteral("E < 0"), -7);
+            throw maValueError(S("E < 0"), -7);
         } catch (const maDataError& caught) {
-            QCOMPARE(caught.message(), QStringLiteral("E < 0"));
+            QCOMPARE(caught.message(), S("E < 0"));
             QCOMPARE(dynamic_cast<const maValueError&>(caught).value(), -7);
         }
     }

@@ -4,6 +4,8 @@
 
 #include <QTemporaryDir>
 
+#define S(text) QStringLiteral(text)
+
 class TestKdProtocol : public QObject {
     Q_OBJECT
 
@@ -13,8 +15,8 @@ private:
     QString subject() const { return m_folder->filePath(QString::fromUtf8("jöb.dat")); }
     QString expectedPath() const
     {
-        return QDir::toNativeSeparators(m_folder->path()) + QDir::separator() + QStringLiteral("_log")
-            + QDir::separator() + QString::fromUtf8("jöb.dat.log");
+        return QDir::toNativeSeparators(m_folder->path()) + QDir::separator() + S("_log") + QDir::separator()
+            + QString::fromUtf8("jöb.dat.log");
     }
 
     void makeSubject() const
@@ -33,13 +35,13 @@ private:
                                 QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat)};
         QString text = QString::fromLocal8Bit(file.readAll());
         for (const QString& date : dates)
-            text.replace(date, QStringLiteral("<date>"));
+            text.replace(date, S("<date>"));
         return text;
     }
 
     const QString m_rule = QLatin1Char('$') + QString(80, QLatin1Char('-')) + QLatin1Char('\n');
     const QString m_nameLine = QString::fromUtf8("$Command log file for process: jöb.dat\n");
-    const QString m_end = QStringLiteral("$<date>\n") + m_rule + QLatin1Char('\n');
+    const QString m_end = S("$<date>\n") + m_rule + QLatin1Char('\n');
     QDateTime m_before;
 
 private Q_SLOTS:
@@ -54,24 +56,24 @@ private Q_SLOTS:
     {
         kdProtocol first(subject());
         QCOMPARE(first.absoluteFilePath(), expectedPath());
-        QVERIFY(first.addMessage({QStringLiteral("a"), QString(), QString::fromUtf8("ß 100 %1")}));
-        QVERIFY(first.addMessage(QStringLiteral("b")));
+        QVERIFY(first.addMessage({S("a"), QString(), QString::fromUtf8("ß 100 %1")}));
+        QVERIFY(first.addMessage(S("b")));
         const QString expected = m_rule + m_nameLine + m_end + QString::fromUtf8("a\nß 100 %1\nb\n");
         QCOMPARE(content(), expected);
 
         kdProtocol second(subject());
-        QVERIFY(second.addMessage(QStringLiteral("c")));
-        QVERIFY(first.addMessage(QStringLiteral("g")));
-        QCOMPARE(content(), expected + m_rule + m_end + QStringLiteral("c\ng\n"));
+        QVERIFY(second.addMessage(S("c")));
+        QVERIFY(first.addMessage(S("g")));
+        QCOMPARE(content(), expected + m_rule + m_end + S("c\ng\n"));
     }
 
     void aLostFileIsMadeAnew()
     {
         kdProtocol protocol(subject());
-        QVERIFY(protocol.addMessage(QStringLiteral("a")));
+        QVERIFY(protocol.addMessage(S("a")));
         QVERIFY(QFile::remove(expectedPath()));
-        QVERIFY(protocol.addMessage(QStringLiteral("b")));
-        QCOMPARE(content(), m_rule + m_nameLine + m_end + QStringLiteral("b\n"));
+        QVERIFY(protocol.addMessage(S("b")));
+        QCOMPARE(content(), m_rule + m_nameLine + m_end + S("b\n"));
     }
 
     void nothingToSayMakesNoFile()
@@ -79,7 +81,7 @@ private Q_SLOTS:
         kdProtocol protocol(subject());
         QVERIFY(protocol.addMessage(QString()));
         QVERIFY(protocol.addMessage(QStringList{QString(), QLatin1String("")}));
-        QVERIFY(!QFileInfo::exists(m_folder->filePath(QStringLiteral("_log"))));
+        QVERIFY(!QFileInfo::exists(m_folder->filePath(S("_log"))));
         QVERIFY(kdProtocol(QString()).addMessage(QStringList()));
     }
 
@@ -88,11 +90,11 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(subject()));
         kdProtocol protocol(subject());
         QCOMPARE(protocol.absoluteFilePath(), QString());
-        QVERIFY(!protocol.addMessage(QStringLiteral("a")));
-        QVERIFY(!QFileInfo::exists(m_folder->filePath(QStringLiteral("_log"))));
+        QVERIFY(!protocol.addMessage(S("a")));
+        QVERIFY(!QFileInfo::exists(m_folder->filePath(S("_log"))));
         makeSubject();
-        QVERIFY(protocol.addMessage(QStringLiteral("b")));
-        QVERIFY(!kdProtocol(QString()).addMessage(QStringLiteral("a")));
+        QVERIFY(protocol.addMessage(S("b")));
+        QVERIFY(!kdProtocol(QString()).addMessage(S("a")));
         QCOMPARE(kdProtocol(QString()).absoluteFilePath(), QString());
     }
 
@@ -106,23 +108,23 @@ private Q_SLOTS:
 
     void blockedPlacesAreNoticed()
     {
-        QFile blocker(m_folder->filePath(QStringLiteral("_log")));
+        QFile blocker(m_folder->filePath(S("_log")));
         QVERIFY(blocker.open(QIODevice::WriteOnly));
-        QVERIFY(!kdProtocol(subject()).addMessage(QStringLiteral("a")));
+        QVERIFY(!kdProtocol(subject()).addMessage(S("a")));
         QVERIFY(blocker.remove() && QDir().mkpath(expectedPath()));
-        QVERIFY(!kdProtocol(subject()).addMessage(QStringLiteral("a")));
+        QVERIFY(!kdProtocol(subject()).addMessage(S("a")));
     }
 
     void aFullDiskIsNoticed()
     {
-        if (!QFileInfo::exists(QStringLiteral("/dev/full")))
+        if (!QFileInfo::exists(S("/dev/full")))
             QSKIP("This system has no device that is always full.");
         kdProtocol protocol(subject());
-        QVERIFY(protocol.addMessage(QStringLiteral("a")));
+        QVERIFY(protocol.addMessage(S("a")));
         QVERIFY(QFile::remove(expectedPath()));
-        QVERIFY(QFile::link(QStringLiteral("/dev/full"), expectedPath()));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("sequential device")));
-        QVERIFY(!protocol.addMessage(QStringLiteral("b")));
+        QVERIFY(QFile::link(S("/dev/full"), expectedPath()));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(S("sequential device")));
+        QVERIFY(!protocol.addMessage(S("b")));
     }
 };
 

@@ -7,6 +7,8 @@
 
 #include <QProcess>
 
+#define S(text) QStringLiteral(text)
+
 namespace {
 
 qint64 fakeTime = 0;
@@ -22,16 +24,44 @@ void record(kdReporter& reporter, QStringList& events, const QString& prefix = Q
 {
     const auto add = [&events, prefix](const QString& event) { events.append(prefix + event); };
     QObject::connect(&reporter, &kdReporter::signalErrorMessage,
-                     [add](const QString& t) { add(QStringLiteral("error ") + t); });
-    QObject::connect(&reporter, &kdReporter::signalMessage, [add](const QString& t, int level) {
-        add(QStringLiteral("message %1 ").arg(level) + t);
-    });
+                     [add](const QString& t) { add(S("error ") + t); });
+    QObject::connect(&reporter, &kdReporter::signalMessage,
+                     [add](const QString& t, int level) { add(S("message %1 ").arg(level) + t); });
     QObject::connect(&reporter, &kdReporter::signalStartOperation,
-                     [add](const QString& t) { add(QStringLiteral("start ") + t); });
+                     [add](const QString& t) { add(S("start ") + t); });
     QObject::connect(&reporter, &kdReporter::signalProgress,
-                     [add](double f) { add(QStringLiteral("progress ") + QString::number(f)); });
+                     [add](double f) { add(S("progress ") + QString::number(f)); });
     QObject::connect(&reporter, &kdReporter::signalFinishOperation,
-                     [add](const QString& t) { add(QStringLiteral("finish ") + t); });
+                     [add](const QString& t) { add(S("finish ") + t); });
+}
+
+/// What a reporter emits for a script: "+200" lets time pass, "s:text" starts, "p:0.3" makes progress,
+/// "f:text" finishes, "e:text" and "m:text" are messages.
+QString seenOf(const char* script)
+{
+    kdReporterThrottle::instance() = kdReporterThrottle();
+    kdReporter reporter;
+    const Producer producer(reporter);
+    QStringList seen;
+    record(reporter, seen);
+    const QStringList steps = QString::fromLatin1(script).split(QLatin1Char(','));
+    for (const QString& step : steps) {
+        const QString value = step.mid(2);
+        const char kind = step.at(0).toLatin1();
+        if (kind == '+')
+            fakeTime += step.mid(1).toInt();
+        else if (kind == 's')
+            producer.startOperation(value);
+        else if (kind == 'p')
+            producer.progress(value.toDouble()); // which knows nan
+        else if (kind == 'f')
+            producer.finishOperation(value);
+        else if (kind == 'e')
+            producer.errorMessage(value);
+        else
+            producer.message(value, 2);
+    }
+    return seen.join(QLatin1Char(','));
 }
 
 } // namespace
@@ -48,56 +78,28 @@ private Q_SLOTS:
     }
     void cleanupTestCase() { kdReporterThrottle::setClock(nullptr); }
 
-    /// A script: "+200" lets time pass, "s:text" starts, "p:0.3" makes progress, "f:text" finishes,
-    /// "e:text" and "m:text" are messages.
-    void throttle_data()
-    {
-        QTest::addColumn<QStringList>("script");
-        QTest::addColumn<QStringList>("events");
-        const auto row = [](const char* name, const char* script, const char* events) {
-            QTest::newRow(name) << QString::fromLatin1(script).split(QLatin1Char(','))
-                                << QString::fromLatin1(events).split(QLatin1Char(','), Qt::SkipEmptyParts);
-        };
-        row("second start is ignored", "s:a,+5000,s:b,f:c", "start a,finish c");
-        row("a signal starts the interval anew", "s:a,+1000,p:0.3,+999,p:0.4,+1,p:0.5",
-            "start a,progress 0.3,progress 0.5");
-        row("a dropped call does not", "s:a,+600,p:0.3,+400,p:0.4", "start a,progress 0.4");
-        row("one end only", "s:a,p:1,p:1", "start a,progress 1");
-        row("no end without an operation", "p:1", "");
-        row("progress after the end announces anew", "s:a,p:1,+1000,p:0.4,p:1",
-            "start a,progress 1,start a,progress 0.4,progress 1");
-        row("progress after finish announces anew", "s:a,f:b,+1000,p:0.4",
-            "start a,finish b,start a,progress 0.4");
-        row("finish starts the interval anew", "s:a,+900,f:b,+999,p:0.4", "start a,finish b");
-        row("messages do not touch the interval", "s:a,+600,m:x,e:y,+400,p:0.5",
-            "start a,message 2 x,error y,progress 0.5");
-        row("no number", "s:a,+5000,p:nan,p:0.1", "start a,progress 0.1");
-    }
-
     void throttle()
     {
-        QFETCH(QStringList, script);
-        kdReporter reporter;
-        const Producer producer(reporter);
-        QStringList seen;
-        record(reporter, seen);
-        for (const QString& step : qAsConst(script)) {
-            const QString value = step.mid(2);
-            const char kind = step.at(0).toLatin1();
-            if (kind == '+')
-                fakeTime += step.mid(1).toInt();
-            else if (kind == 's')
-                producer.startOperation(value);
-            else if (kind == 'p')
-                producer.progress(value.toDouble()); // which knows nan
-            else if (kind == 'f')
-                producer.finishOperation(value);
-            else if (kind == 'e')
-                producer.errorMessage(value);
-            else
-                producer.message(value, 2);
-        }
-        QTEST(seen, "events");
+        // second start is ignored
+        QCOMPARE(seenOf("s:a,+5000,s:b,f:c"), S("start a,finish c"));
+        // a signal starts the interval anew
+        QCOMPARE(seenOf("s:a,+1000,p:0.3,+999,p:0.4,+1,p:0.5"), S("start a,progress 0.3,progress 0.5"));
+        // a dropped call does not
+        QCOMPARE(seenOf("s:a,+600,p:0.3,+400,p:0.4"), S("start a,progress 0.4"));
+        // one end only
+        QCOMPARE(seenOf("s:a,p:1,p:1"), S("start a,progress 1"));
+        // no end without an operation
+        QCOMPARE(seenOf("p:1"), S(""));
+        // progress after the end announces anew
+        QCOMPARE(seenOf("s:a,p:1,+1000,p:0.4,p:1"), S("start a,progress 1,start a,progress 0.4,progress 1"));
+        // progress after finish announces anew
+        QCOMPARE(seenOf("s:a,f:b,+1000,p:0.4"), S("start a,finish b,start a,progress 0.4"));
+        // finish starts the interval anew
+        QCOMPARE(seenOf("s:a,+900,f:b,+999,p:0.4"), S("start a,finish b"));
+        // messages do not touch the interval
+        QCOMPARE(seenOf("s:a,+600,m:x,e:y,+400,p:0.5"), S("start a,message 2 x,error y,progress 0.5"));
+        // no number
+        QCOMPARE(seenOf("s:a,+5000,p:nan,p:0.1"), S("start a,progress 0.1"));
     }
 
     void throttleIsShared()
@@ -107,13 +109,11 @@ private Q_SLOTS:
         Producer producer(first);
         producer.startReportingTo(second);
         QStringList seen;
-        record(first, seen, QStringLiteral("1 "));
-        record(second, seen, QStringLiteral("2 "));
-        producer.startOperation(QStringLiteral("a"));
-        producer.errorMessage(QStringLiteral("b"));
-        QCOMPARE(seen,
-                 QStringList({QStringLiteral("1 start a"), QStringLiteral("1 error b"),
-                              QStringLiteral("2 error b")}));
+        record(first, seen, S("1 "));
+        record(second, seen, S("2 "));
+        producer.startOperation(S("a"));
+        producer.errorMessage(S("b"));
+        QCOMPARE(seen, QStringList({S("1 start a"), S("1 error b"), S("2 error b")}));
     }
 
     void receiversKeepTheirOrderAndOccurOnce()
@@ -149,15 +149,15 @@ private Q_SLOTS:
             Producer producer;
             reporter.startReceivingFrom(producer);
             reporter.startReceivingFrom(producer);
-            producer.errorMessage(QStringLiteral("a"));
+            producer.errorMessage(S("a"));
             reporter.stopReceivingFrom(producer);
-            producer.errorMessage(QStringLiteral("b"));
+            producer.errorMessage(S("b"));
             reporter.startReceivingFrom(producer);
             kdReporter passing;
             passing.startReceivingFrom(survivor);
         }
         QVERIFY(survivor.messageReceivers().isEmpty());
-        QCOMPARE(seen, QStringList{QStringLiteral("error a")});
+        QCOMPARE(seen, QStringList{S("error a")});
     }
 
     void changesDuringADelivery_data()
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QString served;
         QMap<QChar, QPointer<kdReporter>> reporters;
         QScopedPointer<Producer> producer(new Producer);
-        for (const QChar name : QStringLiteral("abcd")) {
+        for (const QChar name : S("abcd")) {
             reporters[name] = new kdReporter;
             connect(reporters[name], &kdReporter::signalErrorMessage, [&served, name] { served += name; });
             if (name != QLatin1Char('d'))
@@ -202,7 +202,7 @@ private Q_SLOTS:
             }
         });
 
-        producer->errorMessage(QStringLiteral("x"));
+        producer->errorMessage(S("x"));
         QTEST(served, "served");
         qDeleteAll(reporters.values());
         QVERIFY(!producer || producer->messageReceivers().isEmpty());
@@ -223,8 +223,7 @@ private Q_SLOTS:
     void streamReporterPrints()
     {
         QProcess process;
-        process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/reporthelper"),
-                      {QStringLiteral("1")});
+        process.start(QCoreApplication::applicationDirPath() + S("/reporthelper"), {S("1")});
         QVERIFY(process.waitForFinished(60000));
         QCOMPARE(kdqWithPlainLineEnds(process.readAllStandardOutput()),
                  QString::fromUtf8("Start: Erwärmen\nStart: again\n").toLocal8Bit()
