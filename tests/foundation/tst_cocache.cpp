@@ -217,8 +217,10 @@ private Q_SLOTS:
         coCache cache(2000);
         QVector<QPair<QString, qint64>> model; // least recently used first
         const auto taken = [&model](const QString& key) {
-            const auto at = std::find_if(model.begin(), model.end(), [&](auto& e) { return e.first == key; });
-            return at == model.end() ? qint64(-1) : model.takeAt(int(at - model.begin())).second;
+            for (int i = 0; i < model.size(); ++i)
+                if (model.at(i).first == key)
+                    return model.takeAt(i).second;
+            return qint64(-1);
         };
         for (int step = 0; step < 5000; ++step) {
             ++fakeTime;
