@@ -4,6 +4,7 @@
 
 #include <QIODevice>
 
+#include <cstddef>
 #include <cstring>
 #include <optional>
 
@@ -18,23 +19,46 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-// A real fills its field: standard ones show 2 to 5 decimals, extended ones 10 to 15.
+/// Digits of the exponent that begins at \a c; the next field's may follow at once.
+int exponentDigits(const char* c, const char* end)
+{
+    int count = 0;
+    for (c += 2; count < 3 && c < end && isDigit(*c); ++c)
+        ++count;
+    return count;
+}
+
+std::optional<Mode> modeByWidth(std::ptrdiff_t mantissa, int mostDigits)
+{
+    for (int digits = 1; digits <= mostDigits; ++digits) {
+        const std::ptrdiff_t width = mantissa + 2 + digits;
+        if (width == 10)
+            return Mode::standard;
+        if (width == 19 || width == 20)
+            return Mode::extended;
+    }
+    return std::nullopt;
+}
+
+// A real of this library fills its field and has one digit before its point; an integer may touch it.
 std::optional<Mode> modeByReals(const coDeckLine& line)
 {
     const char* c = line.begin;
     while (c != line.end && *c != '.')
         ++c;
     const char* start = c;
-    while (start != line.begin && (isDigit(start[-1]) || start[-1] == '-'))
+    if (start != line.begin && isDigit(start[-1]))
+        --start;
+    if (start != line.begin && start[-1] == '-')
         --start;
     const bool isFull =
         c != line.end && (start == line.begin || start[-1] == ',' || (start - line.begin) % 5 == 0);
-    const char* end = isFull ? ++c : line.end;
+    const char* end = isFull ? c + 1 : line.end;
     while (end != line.end && isDigit(*end))
         ++end;
     if (!isFull || end == line.end || *end != 'E')
         return std::nullopt;
-    return end - c <= 5 ? Mode::standard : Mode::extended;
+    return modeByWidth(end - start, exponentDigits(end, line.end));
 }
 
 // The first integer after a padded key ends in column 15 or 30.

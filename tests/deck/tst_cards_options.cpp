@@ -104,9 +104,11 @@ private Q_SLOTS:
         solverRow(4, "2,0,0,0,0,0,0,0", "250,1,5,\n1.00000E-8,\noptimize,9,\n");
         solverRow(5, "12,1,0,0,0,0,0,0", "optimize,11,\n");
         solverRow(6, "0,1,0,0,0,0,0,0", "optimize,11,\n");
+        solverRow(7, "10,0,0,0,0,0,0,0", "250,1,0,\n1.00000E-8,\noptimize,11,\n");
         solverRow(8, "-1,0,0,0,0,0,0,0", "");
         row("pardiso, defaults", coFeSolverCard(nSolver::PardisoParallelDirect),
             "solver\n11,0,0,0,0,0,0,0,\noptimize,11,\n");
+        row("table section", coFeParameterSectionTable(), "table,0,0,2,1,1,0,0,1,\n", false);
         row("process, defaults", coFeAutoforgeCard(), "autoforge,1,0,2,0,0,0,0,0,0,14,0,0,\n", false);
         row("process, all set", process(), "autoforge,2,3,2,9,0,21,1,4,5,15,1,6,\n", false);
         row("auto load", autoLoad(100, 2.5, 0.125), "auto load\n100,0,10,3,4,2.50000E+0,1.25000E-1,\n",
@@ -137,23 +139,6 @@ private Q_SLOTS:
         QVERIFY(dryRun.result);
         CFEDatLineWriter withoutStream;
         QTEST(!withoutStream.writeCard(*card), "returnsFailure");
-    }
-
-    void fixedColumns()
-    {
-        coFeSolverCard card(coMarcSolverType::mixedDirectIterative());
-        card.enableUsingUpperCaseKeywords();
-        QCOMPARE(write(card, fixedStandard).deck,
-                 QByteArray("SOLVER\n"
-                            "   10    0    0    0    0    0    0    0\n"
-                            " 1000    1    0\n"
-                            "1.00000E-5\n"
-                            "OPTIMIZE     11\n"));
-        QCOMPARE(
-            write(coFeParameterSectionTable(), fixedExtended).deck,
-            QByteArray(
-                "table                        0         0         2         1         1         0         0 "
-                "        1\n"));
     }
 
     void reproducibilityFollowsTheRigidModesFlag()

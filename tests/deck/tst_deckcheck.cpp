@@ -135,6 +135,29 @@ private Q_SLOTS:
         QCOMPARE(isSound, check.errors() == 0);
     }
 
+    void widths_data()
+    {
+        QTest::addColumn<QByteArray>("deck");
+        QTest::addColumn<QString>("text");
+        const QByteArray foreign = "coordinates\n1.5E+3,1.234567E+3,\n";
+        QTest::newRow("none") << foreign << QStringLiteral("extended widths, which the deck does not show");
+        QTest::newRow("reals") << foreign + "2.93149E+23.55000E+8\n"
+                               << QStringLiteral("standard widths, as line 3 shows");
+        QTest::newRow("least real") << foreign + "-4.94065645841E-324,\n"
+                                    << QStringLiteral("extended widths, as line 3 shows");
+        QTest::newRow("key") << foreign + "optimize     11\n"
+                             << QStringLiteral("standard widths, as line 3 shows");
+    }
+
+    void widths()
+    {
+        QFETCH(QByteArray, deck);
+        QBuffer device(&deck);
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        QTEST(coDeckLayout::find(device).text(), "text");
+        QCOMPARE(device.pos(), qint64(0));
+    }
+
     void anyDeviceAndAnyLine_data()
     {
         QTest::addColumn<bool>("fails");
