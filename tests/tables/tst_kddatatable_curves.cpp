@@ -157,63 +157,55 @@ private Q_SLOTS:
         QCOMPARE(table.column(0)->getMonotonicity(), fresh.column(0)->getMonotonicity());
     }
 
-    void canSum_data()
-    {
-        QTest::addColumn<Points>("points");
-        QTest::addColumn<bool>("expected");
-        QTest::newRow("double point") << Points{{1, 1}, {1, 1}, {2, 0}} << true;
-        QTest::newRow("step") << Points{{1, 1}, {1, 2}, {2, 0}} << false;
-        QTest::newRow("undefined") << Points{{1, 1}, {NaN, 2}} << false;
-    }
-
     void canSum()
     {
-        QFETCH(Points, points);
-        QTEST(curve(points).canSumOrSubtract(), "expected");
-        if (!curve(points).canSumOrSubtract()) {
+        QVERIFY(curve({{1, 1}, {1, 1}, {2, 0}}).canSumOrSubtract());
+        QVERIFY(!kdDataTable().canSumOrSubtract());
+        for (const Points& points : {Points{{1, 1}, {1, 2}, {2, 0}}, Points{{1, 1}, {NaN, 2}}}) {
             kdDataTable table = curve(points);
             kdDataTable other = curve({{0, 1}});
+            QVERIFY(!table.canSumOrSubtract());
             QVERIFY(!table.sumXY(other) && !other.subtractXY(table) && !table.average(other, other));
             QCOMPARE(other, curve({{0, 1}}));
             QVERIFY(near(table.points(), points));
         }
     }
 
-    // Two curves and what each combination makes of them; empty means refused.
+    // Two curves, then their sum, difference, mean and cut; empty means refused.
     void combinations_data()
     {
-        QTest::addColumn<Points>("one");
-        QTest::addColumn<Points>("two");
-        QTest::addColumn<Points>("sum");
-        QTest::addColumn<Points>("difference");
-        QTest::addColumn<Points>("mean");
-        QTest::addColumn<Points>("cut");
-        QTest::newRow("overlap") << Points{{0, 0}, {2, 2}} << Points{{1, 10}, {3, 30}}
-                                 << Points{{0, 10}, {1, 11}, {2, 22}, {3, 32}}
-                                 << Points{{0, -10}, {1, -9}, {2, -18}, {3, -28}} << Points{{1, 5.5}, {2, 11}}
-                                 << Points{{1, 1}, {2, 2}};
-        QTest::newRow("apart") << Points{{0, 1}, {1, 2}} << Points{{2, 5}, {3, 6}}
-                               << Points{{0, 6}, {1, 7}, {2, 7}, {3, 8}}
-                               << Points{{0, -4}, {1, -3}, {2, -3}, {3, -4}} << Points{} << Points{};
-        QTest::newRow("with nothing") << Points{{0, 0}, {2, 2}} << Points{} << Points{{0, 0}, {2, 2}}
-                                      << Points{{0, 0}, {2, 2}} << Points{} << Points{};
-        QTest::newRow("double points")
-            << Points{{0, 1}, {0, 1}, {1, 2}} << Points{{0, 1}, {1, 2}} << Points{{0, 2}, {1, 4}}
-            << Points{{0, 0}, {1, 0}} << Points{{0, 1}, {1, 2}} << Points{{0, 1}, {0, 1}, {1, 2}};
-        QTest::newRow("missing X") << Points{{NaN, 7}, {0, 1}, {1, 2}} << Points{{0, 1}, {1, 2}}
-                                   << Points{{0, 2}, {1, 4}} << Points{{0, 0}, {1, 0}}
-                                   << Points{{0, 1}, {1, 2}} << Points{{0, 1}, {1, 2}};
+        QTest::addColumn<QVector<Points>>("curves");
+        const auto row = [](const char* name, const QVector<Points>& curves) {
+            QTest::newRow(name) << curves;
+        };
+        row("overlap",
+            {{{0, 0}, {2, 2}},
+             {{1, 10}, {3, 30}},
+             {{0, 10}, {1, 11}, {2, 22}, {3, 32}},
+             {{0, -10}, {1, -9}, {2, -18}, {3, -28}},
+             {{1, 5.5}, {2, 11}},
+             {{1, 1}, {2, 2}}});
+        row("apart",
+            {{{0, 1}, {1, 2}},
+             {{2, 5}, {3, 6}},
+             {{0, 6}, {1, 7}, {2, 7}, {3, 8}},
+             {{0, -4}, {1, -3}, {2, -3}, {3, -4}},
+             {},
+             {}});
+        const Points slope{{0, 0}, {2, 2}};
+        row("with nothing", {slope, {}, slope, slope, {}, {}});
+        const Points rise{{0, 1}, {1, 2}}, level{{0, 0}, {1, 0}}, twice{{0, 2}, {1, 4}},
+            step{{0, 1}, {0, 1}, {1, 2}};
+        row("double points", {step, rise, twice, level, rise, step});
+        row("missing X", {{{NaN, 7}, {0, 1}, {1, 2}}, rise, twice, level, rise, rise});
     }
 
     void combinations()
     {
-        QFETCH(Points, one);
-        QFETCH(Points, two);
-        QFETCH(Points, sum);
-        QFETCH(Points, difference);
-        QFETCH(Points, mean);
-        QFETCH(Points, cut);
-        const kdDataTable other = curve(two);
+        QFETCH(QVector<Points>, curves);
+        const Points one = curves.value(0), sum = curves.value(2), difference = curves.value(3);
+        const Points mean = curves.value(4), cut = curves.value(5);
+        const kdDataTable other = curve(curves.value(1));
         kdDataTable added = curve(one);
         kdDataTable subtracted = curve(one);
         kdDataTable averaged = curve(one);
@@ -344,30 +336,21 @@ private Q_SLOTS:
         QVERIFY(!curve({{0, 1}, {1, 1}}).adjustYValuesToNewMinMax(kdUnitSystem(), 0, 1));
     }
 
-    void forthStroke_data()
-    {
-        QTest::addColumn<Values>("stroke");
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("last");
-        QTest::newRow("forth and back") << Values{0, 1, 2, 1, 0} << 0 << 2;
-        QTest::newRow("back first") << Values{2, 1, 0, 3, 4, 0, 9} << 2 << 4;
-        QTest::newRow("gap") << Values{0, 1, NaN, 2, 3} << 0 << 1;
-        QTest::newRow("gap first") << Values{NaN, 1, 2} << 1 << 2;
-        QTest::newRow("never") << Values{3, 2, 2} << -1 << -1;
-    }
-
     void forthStroke()
     {
-        QFETCH(Values, stroke);
-        QFETCH(int, first);
-        kdDataTable table = curve({});
-        for (double position : stroke)
-            table.addPoint(table.rows(), position);
-        int foundFirst = 99;
-        int foundLast = 99;
-        QCOMPARE(table.getForthStrokeSection(foundFirst, foundLast), first >= 0);
-        QCOMPARE(foundFirst, first);
-        QTEST(foundLast, "last");
+        const auto section = [](const Values& stroke) {
+            kdDataTable table = curve({});
+            for (double position : stroke)
+                table.addPoint(table.rows(), position);
+            QPair<int, int> found(99, 99);
+            const bool isFound = table.getForthStrokeSection(found.first, found.second);
+            return isFound == (found.first >= 0) ? found : QPair<int, int>(99, 99);
+        };
+        QCOMPARE(section({0, 1, 2, 1, 0}), qMakePair(0, 2));
+        QCOMPARE(section({0, 0, 1, 1, 2, 2, 1}), qMakePair(1, 4)); // rests before, within, behind
+        QCOMPARE(section({2, 1, 0, 3, 4, 0, 9}), qMakePair(2, 4)); // back first
+        QCOMPARE(section({NaN, 1, 2, NaN, 3}), qMakePair(1, 2));
+        QCOMPARE(section({3, 2, 2}), qMakePair(-1, -1));
     }
 };
 
