@@ -303,8 +303,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isValid");
         QTest::addColumn<double>("value");
         QTest::newRow("100 000 terms") << QStringLiteral("1") + repeated("+x", 99999) << true << 199999.0;
-        QTest::newRow("10 000 parentheses")
-            << repeated("(", 10000) + QStringLiteral("x") + repeated(")", 10000) << true << 2.0;
         QTest::newRow("sums nested to the right")
             << repeated("(x*1+", 20000) + QStringLiteral("x") + repeated(")", 20000) << true << 40002.0;
         QTest::newRow("powers") << repeated("x^", 30000) + QStringLiteral("0") << false << 0.0;
@@ -312,7 +310,6 @@ private Q_SLOTS:
                                << 2.0;
         QTest::newRow("conditions") << repeated("x<0?1:", 16000) + QStringLiteral("x") << true << 2.0;
         QTest::newRow("more than the parser holds") << repeated("(", 1100000) << false << 0.0;
-        QTest::newRow("a long name") << repeated("x", 100000) << true << 7.0;
     }
 
     void largeTexts()
@@ -323,8 +320,6 @@ private Q_SLOTS:
         const bool isPower = text.contains(QLatin1Char('^'));
         QCOMPARE(expression.isValid(), isValid || isPower);
         double value = 0.0;
-        if (expression.nbVariables() == 1 && expression.variableName(0).size() > 1)
-            expression.setVariable(0, 7.0);
         QCOMPARE(expression.evaluate(&value), isValid);
         QTEST(value, "value");
         const coExpression again(expression.toString());

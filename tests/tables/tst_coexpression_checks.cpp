@@ -160,12 +160,11 @@ private Q_SLOTS:
 
     void evaluatesInOrder()
     {
-        coExpressionOrder order = orderOf(pairsOf(QStringLiteral("power=voltage*current; voltage=24+t/10; "
-                                                                 "current=180; heat=power/(t-7)")));
+        coExpressionOrder order =
+            orderOf(pairsOf(QStringLiteral("power=voltage*180; voltage=24+t/10; heat=power/(t-7)")));
         order.addKnownName(QStringLiteral("t"));
         QHash<QString, double> values{{QStringLiteral("t"), 5.0}};
         QVERIFY2(order.evaluate(&values), qPrintable(order.errorString()));
-        QCOMPARE(values.value(QStringLiteral("power")), 24.5 * 180);
         QCOMPARE(values.value(QStringLiteral("heat")), 24.5 * 180 / -2);
         values[QStringLiteral("t")] = 7.0;
         QVERIFY(!order.evaluate(&values));

@@ -14,9 +14,7 @@ namespace {
 struct Reference {
     QString text;
     QString printed;
-    double x;
-    double y;
-    double z;
+    double x, y, z;
     QString outcome;
     QString detail;
 };

@@ -128,33 +128,20 @@ private Q_SLOTS:
         QTEST(subject.isValidXValForSumming(), "summable");
     }
 
-    void extremes_data()
-    {
-        QTest::addColumn<Values>("values");
-        QTest::addColumn<int>("indexOfMin");
-        QTest::addColumn<int>("indexOfMax");
-        QTest::addColumn<double>("absMax");
-        QTest::addColumn<double>("sign");
-        QTest::addColumn<int>("indexOfAbsMax");
-        QTest::addColumn<double>("minNonZero");
-        QTest::newRow("empty") << Values{} << -1 << -1 << 0.0 << 0.0 << -1 << Largest;
-        QTest::newRow("negative") << Values{-1, -3, 0} << 1 << 2 << 3.0 << -1.0 << 1 << -3.0;
-        QTest::newRow("tie") << Values{3, -3} << 1 << 0 << 3.0 << -1.0 << 1 << -3.0;
-        QTest::newRow("NaN first") << Values{NaN, 2, 5} << 1 << 2 << 5.0 << 1.0 << 2 << 2.0;
-        QTest::newRow("minus infinity") << Values{-Infinity} << 0 << -1 << Infinity << -1.0 << 0 << -Infinity;
-    }
-
     void extremes()
     {
-        QFETCH(Values, values);
-        const Column subject = column(values);
-        QTEST(subject.indexOfMin(), "indexOfMin");
-        QTEST(subject.indexOfMax(), "indexOfMax");
-        const Column::AbsMaxDetails details = subject.getAbsMaxDetails();
-        QTEST(details.value, "absMax");
-        QTEST(details.sign, "sign");
-        QTEST(details.index, "indexOfAbsMax");
-        QTEST(subject.minNonZeroValue(), "minNonZero");
+        // Indices of minimum and maximum; the largest magnitude, its sign and index; the least but zero.
+        const auto of = [](const Values& values) {
+            const Column subject = column(values);
+            const Column::AbsMaxDetails most = subject.getAbsMaxDetails();
+            return Values{double(subject.indexOfMin()), double(subject.indexOfMax()), most.value, most.sign,
+                          double(most.index),           subject.minNonZeroValue()};
+        };
+        QCOMPARE(of({}), (Values{-1, -1, 0, 0, -1, Largest}));
+        QCOMPARE(of({-1, -3, 0}), (Values{1, 2, 3, -1, 1, -3}));
+        QCOMPARE(of({3, -3, 3}), (Values{1, 0, 3, -1, 1, -3}));
+        QCOMPARE(of({NaN, 2, 5}), (Values{1, 2, 5, 1, 2, 2}));
+        QCOMPARE(of({-Infinity}), (Values{0, -1, Infinity, -1, 0, -Infinity}));
     }
 
     void roots()
