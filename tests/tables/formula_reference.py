@@ -120,10 +120,9 @@ def compute(node, values):
         return values[node[1]]
     if kind == "if":
         return evaluate(node[2] if evaluate(node[1], values) != 0 else node[3], values)
-    if kind == "and":
-        return float(evaluate(node[1], values) != 0 and evaluate(node[2], values) != 0)
-    if kind == "or":
-        return float(evaluate(node[1], values) != 0 or evaluate(node[2], values) != 0)
+    if kind in ("and", "or"):
+        first = evaluate(node[1], values) != 0
+        return float(first if first == (kind == "or") else evaluate(node[2], values) != 0)
     if kind == "call":
         return call(node[1], evaluate(node[2], values), node)
     a = evaluate(node[1], values)
