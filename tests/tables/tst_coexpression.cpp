@@ -1,7 +1,6 @@
 #include "kdqtest.h"
 
 #include <kdQCore/coExpression>
-#include <kdQCore/coExpressionSyntaxChecker>
 
 #include <cerrno>
 #include <cmath>
@@ -72,13 +71,10 @@ private Q_SLOTS:
 
     void syntaxErrors_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("where");
-        QTest::addColumn<QString>("found");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* text, const char* where, const char* found, const char* expected) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(where)
-                                << QString::fromUtf8(found) << QString::fromUtf8(expected);
+        QTest::addColumn<QStringList>("texts");
+        const auto row = [](const char* text, const char* second, const char* third, const char* fourth) {
+            QTest::newRow(text) << QStringList{QString::fromUtf8(text), QString::fromUtf8(second),
+                                               QString::fromUtf8(third), QString::fromUtf8(fourth)};
         };
         const char* const operand = "a number, a name, a function, a sign, \"not\", \"if\" or \"(\"";
         const char* const after = "an operator or the end of the formula";
@@ -101,10 +97,8 @@ private Q_SLOTS:
 
     void syntaxErrors()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, where);
-        QFETCH(QString, found);
-        QFETCH(QString, expected);
+        QFETCH(QStringList, texts);
+        const QString text = texts.at(0), where = texts.at(1), found = texts.at(2), expected = texts.at(3);
         coExpression expression(text);
         QVERIFY(!expression.isValid());
         for (int i = 0; i < 2; ++i) {
@@ -130,13 +124,10 @@ private Q_SLOTS:
 
     void failures_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("error");
-        QTest::addColumn<QString>("node");
-        QTest::addColumn<QString>("values");
-        const auto row = [](const char* text, const char* error, const char* node, const char* values) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(error)
-                                << QString::fromUtf8(node) << QString::fromUtf8(values);
+        QTest::addColumn<QStringList>("texts");
+        const auto row = [](const char* text, const char* second, const char* third, const char* fourth) {
+            QTest::newRow(text) << QStringList{QString::fromUtf8(text), QString::fromUtf8(second),
+                                               QString::fromUtf8(third), QString::fromUtf8(fourth)};
         };
         row("nan/x", "Division by zero.", "(nan / x)", "(nan / 2)");
         row("1 + x / (y - 3) * z", "Division by zero.", "(x / (y - 3))", "(2 / (3 - 3))");
@@ -150,10 +141,8 @@ private Q_SLOTS:
 
     void failures()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, error);
-        QFETCH(QString, node);
-        QFETCH(QString, values);
+        QFETCH(QStringList, texts);
+        const QString text = texts.at(0), error = texts.at(1), node = texts.at(2), values = texts.at(3);
         coExpression expression = bound(text);
         expression.setVariable(QStringLiteral("nan"), std::nan(""));
         expression.setFunction(QStringLiteral("g"), [](double) -> double { throw std::runtime_error("g"); });

@@ -6,9 +6,6 @@
 #include <QLocale>
 #include <QTextStream>
 
-#include <cmath>
-#include <limits>
-
 namespace {
 
 using Columns = QList<QVector<double>>;

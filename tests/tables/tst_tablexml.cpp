@@ -266,9 +266,8 @@ private Q_SLOTS:
         QString document;
         QXmlStreamWriter writer(&document);
         writer.writeStartElement(QStringLiteral("project"));
-        QVERIFY(flowCurve().writeXML(writer));
-        QVERIFY(flowCurve().writeXMLForJES(writer));
-        writer.writeTextElement(QStringLiteral("after"), QString());
+        QVERIFY(flowCurve().writeXML(writer) && flowCurve().writeXMLForJES(writer));
+        writer.writeEmptyElement(QStringLiteral("after"));
         writer.writeEndElement();
 
         QXmlStreamReader reader(document);
@@ -276,8 +275,7 @@ private Q_SLOTS:
         kdDataTable table;
         QVERIFY(table.readXML(reader)); // stands before the element
         QVERIFY(reader.isEndElement() && reader.name() == kdDataTable::xmlStartElement());
-        QVERIFY(reader.readNextStartElement());
-        QVERIFY(table.readXMLForJES(reader)); // stands on it
+        QVERIFY(reader.readNextStartElement() && table.readXMLForJES(reader)); // stands on it
         QVERIFY(reader.readNextStartElement());
         QCOMPARE(reader.name().toString(), QStringLiteral("after"));
         QVERIFY(!table.readXML(reader)); // and finds none in here
