@@ -39,7 +39,7 @@ private Q_SLOTS:
     void everyRoundCounts_data()
     {
         QTest::addColumn<QString>("place");
-        QTest::newRow("disk") << QDir::current().filePath(QStringLiteral("lockstress-XXXXXX"));
+        QTest::newRow("temporary folder") << QDir::temp().filePath(QStringLiteral("lockstress-XXXXXX"));
         if (QFileInfo(QStringLiteral("/dev/shm")).isWritable())
             QTest::newRow("memory") << QStringLiteral("/dev/shm/lockstress-XXXXXX");
     }
@@ -75,7 +75,7 @@ private Q_SLOTS:
         const int kills = isLong() ? 200 : 20;
         constexpr unsigned seed = 7;
         std::mt19937 random(seed);
-        QTemporaryDir folder(QDir::current().filePath(QStringLiteral("lockkills-XXXXXX")));
+        QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("lockkills-XXXXXX")));
         const QString path = folder.filePath(QStringLiteral("lock"));
         const QStringList arguments{QStringLiteral("churn"), path, folder.filePath(QStringLiteral("owner"))};
         Process processes[2];
