@@ -1,5 +1,4 @@
 #include "decklines_p.h"
-#include "decknumber_p.h"
 
 #include <algorithm>
 
@@ -20,19 +19,6 @@ DeckLines::DeckLines(QIODevice& deck, CFEDatLineWriter::datExtensionMode mode, b
                      const coDeckFindingSink& sink)
     : m_scanner(deck), m_mode(mode), m_readsCards(readsCards), m_sink(sink)
 {
-}
-
-const coDeckLine* DeckLines::ahead()
-{
-    if (!m_isAhead)
-        m_isAhead = m_scanner.next();
-    return m_isAhead ? &m_scanner.line() : nullptr;
-}
-
-bool DeckLines::isDataAhead()
-{
-    const coDeckLine* line = ahead();
-    return line && line->kind == coDeckLine::Data;
 }
 
 const coDeckLine& DeckLines::take(coDeckOption& option)
@@ -91,12 +77,6 @@ bool DeckLines::takeText(coDeckOption& option, QString& text)
     const coDeckLine& line = take(option);
     text = QString::fromLocal8Bit(line.begin, line.length());
     return true;
-}
-
-bool DeckLines::readReal(const coDeckFields::Field& field, double& value) const
-{
-    return m_readsCards ? nDeckNumber::readCardReal(field.begin, field.end, value)
-                        : nDeckNumber::readReal(field.begin, field.end, value);
 }
 
 void DeckLines::error(const coDeckOption& option, int column, const QString& text)

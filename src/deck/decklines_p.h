@@ -4,6 +4,7 @@
 #include "codeckfinding.h"
 #include "codeckoption.h"
 #include "codeckscanner.h"
+#include "decknumber_p.h"
 
 /// The lines of a deck with one line seen ahead, the option that they belong to, and where findings go.
 class DeckLines {
@@ -16,11 +17,24 @@ public:
     /// Whether values are for cards, and kept.
     bool readsCards() const { return m_readsCards; }
     /// As cards read, or nearest; see nDeckNumber.
-    bool readReal(const coDeckFields::Field& field, double& value) const;
+    bool readReal(const coDeckFields::Field& field, double& value) const
+    {
+        return m_readsCards ? nDeckNumber::readCardReal(field.begin, field.end, value)
+                            : nDeckNumber::readReal(field.begin, field.end, value);
+    }
 
     /// The line ahead; null at the end of the deck.
-    const coDeckLine* ahead();
-    bool isDataAhead();
+    const coDeckLine* ahead()
+    {
+        if (!m_isAhead)
+            m_isAhead = m_scanner.next();
+        return m_isAhead ? &m_scanner.line() : nullptr;
+    }
+    bool isDataAhead()
+    {
+        const coDeckLine* line = ahead();
+        return line && line->kind == coDeckLine::Data;
+    }
     /// Makes the line ahead the option's and the current one.
     const coDeckLine& take(coDeckOption& option);
 

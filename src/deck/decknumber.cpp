@@ -119,14 +119,8 @@ Decimal printed(double value)
 
 } // namespace
 
-bool readReal(const char* first, const char* last, double& value)
+bool readOtherReal(const char* first, const char* last, double& value)
 {
-    // What decks hold nearly always: neither blanks nor a plus sign in front, and no word.
-    if (first != last && (isDigit(*first) || *first == '-') && isDigit(last[-1])) {
-        const std::from_chars_result result = std::from_chars(first, last, value);
-        if (Q_LIKELY(result.ptr == last && result.ec == std::errc()))
-            return true;
-    }
     return nNumberText::read(first, last, value) || readFortranReal(first, last, value);
 }
 
