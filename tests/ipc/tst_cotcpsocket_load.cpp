@@ -135,7 +135,10 @@ void tst_cotcpsocket_load::nothingLeaks()
             QVERIFY(round(fresh));
         }
     }
-    QTRY_VERIFY2(openThings().first <= before.first && openThings().second <= before.second,
+    // wine opens some for itself at times; a leak would leave 20 or 220 behind.
+    constexpr uint ofTheSystem = kdqOnWindows ? 8 : 0;
+    QTRY_VERIFY2(openThings().first <= before.first + ofTheSystem
+                     && openThings().second <= before.second + ofTheSystem,
                  qPrintable(QStringLiteral("%1 descriptors, %2 threads; before %3, %4")
                                 .arg(openThings().first)
                                 .arg(openThings().second)
