@@ -192,8 +192,10 @@ void coDeckReader::Private::readKnown(coDeckOption& option, const Keyword& keywo
             reader.readTable();
         }
     }
-    if (lines.errors() > errors)
+    if (lines.errors() > errors) {
+        option.card.reset();
         reader.passOver();
+    }
     readSurplus(option);
 }
 
