@@ -126,9 +126,11 @@ void DeckCardReader::readSolver()
     bool isFullK = false;
     DeckRow row = nextRow();
     row.integer(id).choice(isNonSymmetric, 1, 0).constant(0).choice(isFullK, 1, 0).constant(0);
-    const coMarcSolverType type(coMarcSolverType::typeFromMarcDatFileId(id));
-    if (row.ok() && type.typeToMarcDatFileId() != id)
+    if (!row.ok())
+        return;
+    if (!coMarcSolverType::isMarcDatFileId(id))
         return m_lines.error(m_option, 1, tr("%1 is the number of no solver.").arg(id));
+    const coMarcSolverType type(coMarcSolverType::typeFromMarcDatFileId(id));
     row.constant(type.isCasiIterative() ? 2 : 0).constants(0, 2);
     coFeSolverCard card(type);
     if (type.isCasiIterative()) {

@@ -2,6 +2,9 @@
 
 #include <kdQCore/kdLog>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr int deckIds[] = {11, 8, 11, 9, 2, 12, 0, 10, -1};
@@ -112,4 +115,9 @@ nSolver::e_SolverType coMarcSolverType::typeFromMarcDatFileId(int id)
     KD_LOG_FAILED_ASSERT(
         QStringLiteral("unknown solver type - returning solver type for pardiso parallel direct."));
     return nSolver::PardisoParallelDirect;
+}
+
+bool coMarcSolverType::isMarcDatFileId(int id)
+{
+    return std::find(std::begin(deckIds), std::end(deckIds), id) != std::end(deckIds);
 }

@@ -71,6 +71,9 @@ public:
     int typeToMarcDatFileId() const { return typeToMarcDatFileId(m_type); }
     static int typeToMarcDatFileId(nSolver::e_SolverType type);
     static nSolver::e_SolverType typeFromMarcDatFileId(int id);
+    /// Whether a solver has this deck id. Ask first where the id comes from a file: an unknown one is logged
+    /// as a failed assertion above.
+    static bool isMarcDatFileId(int id);
     /// @}
 
     friend bool operator==(const coMarcSolverType& a, const coMarcSolverType& b)
