@@ -40,17 +40,20 @@ void ShellListener::incomingConnection(qintptr descriptor)
     m_callers.append(descriptor);
 }
 
-std::unique_ptr<coTcpSocket> nShellSockets::connectTo(const ShellCall& call, int timeoutMs)
+std::unique_ptr<coTcpSocket> nShellSockets::connectTo(const ShellCall& call)
 {
+    int timeout = 0;
+    double seconds = 60.0;
     int port = 0;
-    if (!call.readInt(1, QStringLiteral("PORT"), port))
+    if (!ShellParameters(call, 2).real("timeout", seconds).read() || !readTimeout(call, seconds, timeout)
+        || !call.readInt(1, QStringLiteral("PORT"), port))
         return nullptr;
     if (port < 1 || port > 65535) {
         call.fail(ShellListener::tr("A port is 1 to 65535, not %1.").arg(port));
         return nullptr;
     }
     auto socket = std::make_unique<coTcpSocket>();
-    socket->setTimeout(timeoutMs);
+    socket->setTimeout(timeout);
     QString reason = ShellListener::tr("The name has no address.");
     QObject::connect(socket.get(), &coTcpSocket::signalError,
                      [&reason](int, const QString& text) { reason = text; });

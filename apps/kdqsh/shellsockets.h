@@ -30,8 +30,9 @@ private:
 
 namespace nShellSockets {
 
-/// Connects to the HOST and PORT that \a call begins with; null after a failure, which is reported.
-std::unique_ptr<coTcpSocket> connectTo(const ShellCall& call, int timeoutMs);
+/// Connects as the words of \a call say: HOST PORT [timeout SECONDS]. Null after a failure, which is
+/// reported.
+std::unique_ptr<coTcpSocket> connectTo(const ShellCall& call);
 
 /// Seconds, as the user gives them, in milliseconds; reports a number that is none of a waiting time.
 bool readTimeout(const ShellCall& call, double seconds, int& milliseconds);

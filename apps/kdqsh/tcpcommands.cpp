@@ -53,12 +53,7 @@ bool TcpCommands::serve(ShellCall& call)
 
 bool TcpCommands::connect(ShellCall& call)
 {
-    int timeout = 0;
-    double seconds = 60.0;
-    if (!ShellParameters(call, 2).real("timeout", seconds).read()
-        || !nShellSockets::readTimeout(call, seconds, timeout))
-        return false;
-    std::unique_ptr<coTcpSocket> socket = nShellSockets::connectTo(call, timeout);
+    std::unique_ptr<coTcpSocket> socket = nShellSockets::connectTo(call);
     if (socket == nullptr)
         return false;
     call.tell(tr("Connected to %1, port %2.")
