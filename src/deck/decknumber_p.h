@@ -1,25 +1,11 @@
 #pragma once
 
-#include <charconv>
-
 /// Numbers in the fields of a deck, whatever the user's locale.
 namespace nDeckNumber {
 
-/// What readReal() takes beside the form that decks nearly always have.
-bool readOtherReal(const char* first, const char* last, double& value);
-
 /// The nearest double of [first, last), blanks around it allowed. Takes the forms that Fortran programs
 /// print, too: 1.5D+3 and 1.5+3. "inf" and "nan" are numbers; one too large for a double is none.
-inline bool readReal(const char* first, const char* last, double& value)
-{
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    if (first != last && (isDigit(*first) || *first == '-') && isDigit(last[-1])) {
-        const std::from_chars_result result = std::from_chars(first, last, value);
-        if (result.ptr == last && result.ec == std::errc())
-            return true;
-    }
-    return readOtherReal(first, last, value);
-}
+bool readReal(const char* first, const char* last, double& value);
 
 /// The value that a card had: the writer cuts, so the nearest double of what it printed may print one digit
 /// lower. This is the double of least magnitude whose print is not nearer to zero than the text. A text of
