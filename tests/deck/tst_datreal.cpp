@@ -1,5 +1,6 @@
 #include "datmultiply_p.h"
 #include "datreal_p.h"
+#include "decknumber_p.h"
 #include "kdqtest.h"
 #include "realcheck.h"
 
@@ -53,6 +54,24 @@ private Q_SLOTS:
                              RealCheck::cut(RealCheck::printed(value, leadingBlank),
                                             static_cast<std::size_t>(width)));
                 }
+        }
+    }
+
+    void printsReadAsTheNearestDouble()
+    {
+        std::mt19937_64 random(9);
+        for (int i = 0; i < 300000; ++i) {
+            const double mantissa = std::ldexp(static_cast<double>(random() >> 11), -52);
+            const double value =
+                std::ldexp(i % 2 ? mantissa : -mantissa, static_cast<int>(random() % 240) - 120);
+            char text[nDatReal::bufferSize];
+            const int width = i % 3 ? 20 : 10;
+            nDatReal::format(value, width, false, text);
+            double read = 0.0;
+            QVERIFY2(nDeckNumber::readReal(text, text + width, read), text);
+            QVERIFY2(read == QByteArray(text, width).toDouble(), text);
+            text[2 + random() % 4] = "x/:,"[random() % 4];
+            QVERIFY2(!nDeckNumber::readReal(text, text + width, read), text);
         }
     }
 
