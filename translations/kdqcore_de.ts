@@ -525,18 +525,6 @@
         <translation>Nach der Datei fehlt ein Name.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; names no field of application that is known.</source>
-        <translation>„%1“ nennt kein bekanntes Anwendungsgebiet.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has stages that the process does not know: %2.</source>
-        <translation>„%1“ hat Stufen, die der Prozess nicht kennt: %2.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos;, line %2: %3</source>
-        <translation>„%1“, Zeile %2: %3</translation>
-    </message>
-    <message>
         <source>The processes are equal.</source>
         <translation>Die Prozesse sind gleich.</translation>
     </message>
@@ -571,6 +559,21 @@
     <message>
         <source>&apos;%1&apos; is neither above nor below.</source>
         <translation>„%1“ ist weder above noch below.</translation>
+    </message>
+</context>
+<context>
+    <name>HeatFile</name>
+    <message>
+        <source>&apos;%1&apos; names no field of application that is known.</source>
+        <translation>„%1“ nennt kein bekanntes Anwendungsgebiet.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has stages that the process does not know: %2.</source>
+        <translation>„%1“ hat Stufen, die der Prozess nicht kennt: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, line %2: %3</source>
+        <translation>„%1“, Zeile %2: %3</translation>
     </message>
 </context>
 <context>

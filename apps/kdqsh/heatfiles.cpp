@@ -1,29 +1,11 @@
 #include "heatcommands.h"
+#include "heatfile.h"
 #include "shellsession.h"
 
-#include <kdQCore/coHeatTreatmentDataFactory>
 #include <kdQCore/coPredefinedTableListModel>
 
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QXmlStreamReader>
-#include <QXmlStreamWriter>
-
-using Xml = coHeatTreatmentData::Xml;
-
-namespace {
-
-bool write(QIODevice& device, const coHeatTreatmentData& process)
-{
-    QXmlStreamWriter writer(&device);
-    writer.setAutoFormatting(true);
-    writer.writeStartDocument();
-    Xml::Writer::writeXml(writer, process);
-    writer.writeEndDocument();
-    return !writer.hasError();
-}
-
-} // namespace
 
 bool HeatCommands::save(ShellCall& call)
 {
@@ -31,7 +13,7 @@ bool HeatCommands::save(ShellCall& call)
     if (process.isNull())
         return false;
     QSaveFile file(call.text(1));
-    if (!file.open(QIODevice::WriteOnly) || !write(file, *process) || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || !HeatFile::write(file, *process) || !file.commit())
         return call.fail(tr("'%1' cannot be written: %2").arg(call.text(1), file.errorString()));
     call.tell(tr("Process '%1' written to '%2'.").arg(call.text(0), call.text(1)));
     return true;
@@ -45,22 +27,10 @@ bool HeatCommands::load(ShellCall& call)
     QFile file(ShellSession::I().inputPath(call.text(0)));
     if (!file.open(QIODevice::ReadOnly))
         return call.fail(tr("'%1' cannot be read: %2").arg(file.fileName(), file.errorString()));
-    QXmlStreamReader reader(&file);
-    coHeatTreatmentData process(Xml::Reader::findField(reader));
-    nHeatTreatment::coHeatTreatmentDataFactory::setup(process);
-    if (!reader.hasError() && !process.fieldOfApplication().isValid())
-        return call.fail(tr("'%1' names no field of application that is known.").arg(call.text(0)));
-    QStringList unknownStages;
-    switch (Xml::Reader::read(reader, process, &unknownStages)) {
-    case Xml::Reader::ReadAll:
-        break;
-    case Xml::Reader::UnknownStage:
-        return call.fail(tr("'%1' has stages that the process does not know: %2.")
-                             .arg(call.text(0), unknownStages.join(QLatin1String(", "))));
-    case Xml::Reader::ReadError:
-        return call.fail(tr("'%1', line %2: %3")
-                             .arg(call.text(0), QString::number(reader.lineNumber()), reader.errorString()));
-    }
+    coHeatTreatmentData process;
+    QString error;
+    if (!HeatFile::read(file, call.text(0), process, error))
+        return call.fail(error);
     ShellSession::I().processes.put(name, std::move(process));
     return true;
 }

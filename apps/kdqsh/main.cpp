@@ -1,3 +1,4 @@
+#include "familyapplication.h"
 #include "linesource.h"
 #include "platform.h"
 #include "shell.h"
@@ -7,80 +8,20 @@
 #include "shellsession.h"
 
 #include <kdQCore/coPaths>
-#include <kdQCore/coProductInformation>
 #include <kdQCore/kdCommandDispatcher>
-#include <kdQCore/kdDebugLog>
-#include <kdQCore/kdQLanguage>
-#include <kdQCore/nCompanyInfo>
-#include <kdqcore_version.h>
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
-#include <QStandardPaths>
 
 namespace {
 
 enum ExitStatus { AllWell = 0, CommandFailed = 1, WrongCommandLine = 2 };
 
-/// The debug log lies below this folder; only Windows sets it of itself.
-QString localDataFolder()
-{
-    if (qEnvironmentVariableIsEmpty("LOCALAPPDATA"))
-        qputenv("LOCALAPPDATA",
-                QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)));
-    return qEnvironmentVariable("LOCALAPPDATA");
-}
-
-/// The variable LANGUAGE overrides the system's choice, also on systems that do not know it.
-QStringList userLanguages()
-{
-    const QStringList chosen = qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'), Qt::SkipEmptyParts);
-    return chosen.isEmpty() ? QLocale::system().uiLanguages() : chosen;
-}
-
-void setUserLanguage()
-{
-    const QStringList wanted = userLanguages();
-    kdQLanguage::KDLANGUAGE language = kdQLanguage::English;
-    for (const QString& code : wanted)
-        if (kdQLanguage::fromCode(code, language) && kdCommandDispatcher::I().setLanguage(language))
-            return;
-}
-
-/// The process-wide objects of an application of the family, in the order in which they depend on each other.
-class Application {
-public:
-    Application(int argc, char** argv)
-    {
-        kdDebugLog::createInstance(argc, argv, false);
-        const QString program = argc > 0 ? QFileInfo(QString::fromLocal8Bit(argv[0])).fileName() : QString();
-        if (!program.isEmpty())
-            kdDebugLog::removeOldLogFiles(QFileInfo(kdDebugLog::logFilePath()).dir(), program);
-        coPaths::createInstance();
-        coProductInformation::registerProduct(coProductType::service(),
-                                              coVersionNumber(QCoreApplication::applicationVersion()));
-        kdCommandDispatcher::createInstance();
-        nShellGroups::registerCommands();
-        setUserLanguage();
-    }
-
-    ~Application()
-    {
-        kdCommandDispatcher::removeInstance();
-        coProductInformation::unregisterProduct();
-        coPaths::removeInstance();
-        kdDebugLog::removeInstance();
-    }
-
-    Q_DISABLE_COPY(Application)
-};
-
-std::unique_ptr<LineSource> openSource(const ShellOptions& options, const QString& dataFolder, QString& error)
+std::unique_ptr<LineSource> openSource(const ShellOptions& options, QString& error)
 {
     if (options.source == ShellOptions::Prompt)
         return std::make_unique<PromptLines>(
-            QDir(dataFolder).filePath(QStringLiteral("kaldoran/kdqsh_history")),
+            QDir(FamilyApplication::dataFolder()).filePath(QStringLiteral("kdqsh_history")),
             nShellCompletion::candidates);
     if (options.source == ShellOptions::CommandText)
         return std::make_unique<TextLines>(options.commands);
@@ -94,15 +35,15 @@ std::unique_ptr<LineSource> openSource(const ShellOptions& options, const QStrin
                                        isScript ? options.scriptFile : QStringLiteral("stdin"));
 }
 
-int runShell(const ShellOptions& options, const QString& dataFolder)
+int runShell(const ShellOptions& options)
 {
     ShellConsole console;
     console.setQuiet(options.isQuiet);
     kdCommandDispatcher::I().startReportingTo(console.reporter());
     ShellSession session;
-    session.setSettingsFile(QDir(dataFolder).filePath(QStringLiteral("kaldoran/kdqsh.ini")));
+    session.setSettingsFile(QDir(FamilyApplication::dataFolder()).filePath(QStringLiteral("kdqsh.ini")));
     QString error;
-    const std::unique_ptr<LineSource> source = openSource(options, dataFolder, error);
+    const std::unique_ptr<LineSource> source = openSource(options, error);
     if (source == nullptr) {
         console.error(error);
         return WrongCommandLine;
@@ -125,13 +66,13 @@ int runShell(const ShellOptions& options, const QString& dataFolder)
 
 int main(int argc, char** argv)
 {
-    const QString dataFolder = localDataFolder();
+    FamilyApplication::prepare();
     QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("kdqsh"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(KDQCORE_VERSION_STRING));
-    QCoreApplication::setOrganizationName(nCompanyInfo::organizationNameForSettings());
+    FamilyApplication::describe(QStringLiteral("kdqsh"));
 
-    const Application family(argc, argv);
+    const FamilyApplication family(argc, argv);
+    nShellGroups::registerCommands();
+    FamilyApplication::setUserLanguage();
     ShellOptions options;
     switch (options.parse(coPaths::withoutPathOptions(QCoreApplication::arguments()),
                           nPlatform::isTerminal(nPlatform::StandardStream::Input))) {
@@ -144,5 +85,5 @@ int main(int argc, char** argv)
     case ShellOptions::Run:
         break;
     }
-    return runShell(options, dataFolder);
+    return runShell(options);
 }
