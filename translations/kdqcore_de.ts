@@ -320,6 +320,97 @@
     </message>
 </context>
 <context>
+    <name>Figure</name>
+    <message>
+        <source>A picture has one or two y axes, not %1.</source>
+        <translation>Ein Bild hat eine oder zwei y-Achsen, nicht %1.</translation>
+    </message>
+    <message>
+        <source>A picture shows at most %1 curves, not %2.</source>
+        <translation>Ein Bild zeigt höchstens %1 Kurven, nicht %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: no curve has a point that can be shown.</source>
+        <translation>Es gibt nichts zu zeichnen: Keine Kurve hat einen Punkt, der sich zeigen lässt.</translation>
+    </message>
+    <message>
+        <source>The curves have %1 pieces with gaps between, more than the %2 that can be drawn.</source>
+        <translation>Die Kurven haben %1 Stücke mit Lücken dazwischen, mehr als die %2, die sich zeichnen lassen.</translation>
+    </message>
+    <message>
+        <source>The axis &apos;%1&apos; cannot reach to %2.</source>
+        <translation>Die Achse „%1“ kann nicht bis %2 reichen.</translation>
+    </message>
+    <message>
+        <source>The logarithmic axis &apos;%1&apos; must begin above 0, not at %2.</source>
+        <translation>Die logarithmische Achse „%1“ muss über 0 beginnen, nicht bei %2.</translation>
+    </message>
+    <message>
+        <source>The axis &apos;%1&apos; must rise, not run from %2 to %3.</source>
+        <translation>Die Achse „%1“ muss steigen, nicht von %2 bis %3 laufen.</translation>
+    </message>
+    <message>
+        <source>Curve &apos;%1&apos; belongs to y axis %2, and there are only %3.</source>
+        <translation>Die Kurve „%1“ gehört zur y-Achse %2, und es gibt nur %3.</translation>
+    </message>
+    <message>
+        <source>Curve &apos;%1&apos; has the point (%2, %3), which lies too far out to be drawn.</source>
+        <translation>Die Kurve „%1“ hat den Punkt (%2, %3), der zu weit außen liegt, um gezeichnet zu werden.</translation>
+    </message>
+    <message>
+        <source>Curve &apos;%1&apos; has %2 points; at most %3 can be drawn singly, without a line.</source>
+        <translation>Die Kurve „%1“ hat %2 Punkte; höchstens %3 lassen sich einzeln, ohne Linie, zeichnen.</translation>
+    </message>
+    <message>
+        <source>an axis</source>
+        <translation>eine Achse</translation>
+    </message>
+    <message>
+        <source>The picture&apos;s description is wrong: &apos;%1&apos; must be %2.</source>
+        <translation>Die Beschreibung des Bildes ist falsch: „%1“ muss %2 sein.</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>0 or 1</source>
+        <translation>0 oder 1</translation>
+    </message>
+    <message>
+        <source>a pair of numbers, or null for a gap</source>
+        <translation>ein Zahlenpaar, oder null für eine Lücke,</translation>
+    </message>
+    <message>
+        <source>The picture&apos;s description is wrong: it must be an object.</source>
+        <translation>Die Beschreibung des Bildes ist falsch: Sie muss ein Objekt sein.</translation>
+    </message>
+    <message>
+        <source>The picture&apos;s description is no JSON: %1 at byte %2.</source>
+        <translation>Die Beschreibung des Bildes ist kein JSON: %1 bei Byte %2.</translation>
+    </message>
+    <message>
+        <source>A picture has %1 to %2 pixels each way, not %3 x %4.</source>
+        <translation>Ein Bild hat in jeder Richtung %1 bis %2 Pixel, nicht %3 x %4.</translation>
+    </message>
+</context>
+<context>
     <name>FormulaCommands</name>
     <message>
         <source>Formulas of parameters and variables, checked and evaluated.</source>
@@ -916,6 +1007,53 @@
     <message>
         <source>There is no file &apos;%1&apos;.</source>
         <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>Plotter</name>
+    <message>
+        <source>Draws the picture that a description in JSON asks for.</source>
+        <translation>Zeichnet das Bild, das eine Beschreibung in JSON verlangt.</translation>
+    </message>
+    <message>
+        <source>Width and height in pixels.</source>
+        <translation>Breite und Höhe in Pixeln.</translation>
+    </message>
+    <message>
+        <source>Pixels of a PNG for each of these.</source>
+        <translation>Pixel eines PNG für jedes davon.</translation>
+    </message>
+    <message>
+        <source>The description; - is standard input.</source>
+        <translation>Die Beschreibung; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>The file to write: .svg or .png.</source>
+        <translation>Die zu schreibende Datei: .svg oder .png.</translation>
+    </message>
+    <message>
+        <source>A description and a picture are needed; see --help.</source>
+        <translation>Eine Beschreibung und ein Bild sind nötig; siehe --help.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; ends neither in .svg nor in .png.</source>
+        <translation>„%1“ endet weder auf .svg noch auf .png.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no size such as 800x500.</source>
+        <translation>„%1“ ist keine Größe wie 800x500.</translation>
+    </message>
+    <message>
+        <source>The scale must be 0.1 to 20, not &apos;%1&apos;.</source>
+        <translation>Der Maßstab muss 0.1 bis 20 sein, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read: %2</source>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -2888,6 +3026,29 @@ der ausgewertet lautet:
     </message>
 </context>
 <context>
+    <name>nHeatFigure</name>
+    <message>
+        <source>No enabled stage takes time and has a temperature.</source>
+        <translation>Keine eingeschaltete Stufe dauert eine Zeit und hat eine Temperatur.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no unit of %2.</source>
+        <translation>„%1“ ist keine Einheit von %2.</translation>
+    </message>
+    <message>
+        <source>Carbon potential</source>
+        <translation>Kohlenstoffpegel</translation>
+    </message>
+</context>
+<context>
     <name>nHeatTreatment</name>
     <message>
         <source>Heating</source>
@@ -3144,6 +3305,37 @@ der ausgewertet lautet:
     <message>
         <source>File &apos;%1&apos; is not a valid Windows executable.</source>
         <translation>Die Datei „%1“ ist keine gültige ausführbare Windows-Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>nTableFigure</name>
+    <message>
+        <source>Table &apos;%1&apos; has no columns to draw.</source>
+        <translation>Die Tabelle „%1“ hat keine Spalten zum Zeichnen.</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos; has no column %2.</source>
+        <translation>Die Tabelle „%1“ hat keine Spalte %2.</translation>
+    </message>
+    <message>
+        <source>Column &apos;%1&apos; in &apos;%2&apos; does not convert to &apos;%3&apos;.</source>
+        <translation>Die Spalte „%1“ in „%2“ lässt sich nicht in „%3“ umrechnen.</translation>
+    </message>
+    <message>
+        <source>Tables &apos;%1&apos; and &apos;%2&apos; run over different quantities, %3 and %4.</source>
+        <translation>Die Tabellen „%1“ und „%2“ laufen über verschiedene Größen, %3 und %4.</translation>
+    </message>
+    <message>
+        <source>The columns have %1 different quantities (%2), and a picture has two y axes at most; choose columns.</source>
+        <translation>Die Spalten haben %1 verschiedene Größen (%2), und ein Bild hat höchstens zwei y-Achsen; wählen Sie Spalten aus.</translation>
+    </message>
+    <message>
+        <source>The x axis shows %1, which has no unit &apos;%2&apos;.</source>
+        <translation>Die x-Achse zeigt %1; das hat keine Einheit „%2“.</translation>
+    </message>
+    <message>
+        <source>No y axis can be shown in &apos;%1&apos;; they show %2.</source>
+        <translation>Keine y-Achse lässt sich in „%1“ zeigen; sie zeigen %2.</translation>
     </message>
 </context>
 <context>

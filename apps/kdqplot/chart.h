@@ -1,0 +1,31 @@
+#pragma once
+
+#include "figure.h"
+
+#include <QSize>
+#include <QtCharts/QChart>
+
+#include <memory>
+
+/// Makes charts of figures and pictures of charts. For the thread of the windows; needs a QApplication.
+///
+/// \code
+/// if (figure.fault().isEmpty())
+///     view->setChart(nChart::make(figure).release());
+/// \endcode
+namespace nChart {
+
+constexpr int smallest = 200; ///< pixels, width and height
+constexpr int largest = 10000;
+
+/// A chart with titles, units, round ticks and a legend; its colours are told apart by colour-blind people,
+/// and its lines by their dashes in a grey print. The figure must have no fault().
+std::unique_ptr<QtCharts::QChart> make(const Figure& figure);
+
+enum Format { Svg, Png };
+
+/// The picture of a figure as the bytes of a file; with \a scale, a PNG has so many times the pixels. Empty,
+/// and \a error says why, where the figure has a fault or the size is out of range.
+QByteArray picture(const Figure& figure, Format format, const QSize& size, double scale, QString& error);
+
+} // namespace nChart

@@ -1,0 +1,138 @@
+#include "chart.h"
+
+#include <kdqcore_version.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QTextStream>
+
+namespace {
+
+enum ExitStatus { AllWell = 0, Failed = 1, WrongCommandLine = 2 };
+
+class Plotter {
+    Q_DECLARE_TR_FUNCTIONS(Plotter)
+
+public:
+    int run(const QStringList& arguments)
+    {
+        QCommandLineParser parser;
+        parser.setApplicationDescription(tr("Draws the picture that a description in JSON asks for."));
+        const QCommandLineOption size(QStringLiteral("size"), tr("Width and height in pixels."),
+                                      QStringLiteral("WxH"), QStringLiteral("800x500"));
+        const QCommandLineOption scale(QStringLiteral("scale"), tr("Pixels of a PNG for each of these."),
+                                       QStringLiteral("FACTOR"), QStringLiteral("1"));
+        parser.addOptions({size, scale});
+        const QCommandLineOption help = parser.addHelpOption();
+        const QCommandLineOption version = parser.addVersionOption();
+        parser.addPositionalArgument(QStringLiteral("FIGURE"), tr("The description; - is standard input."));
+        parser.addPositionalArgument(QStringLiteral("PICTURE"), tr("The file to write: .svg or .png."));
+        if (!parser.parse(arguments))
+            return say(parser.errorText(), WrongCommandLine);
+        if (parser.isSet(help) || parser.isSet(version)) {
+            QTextStream(stdout) << (parser.isSet(help)
+                                        ? parser.helpText()
+                                        : QStringLiteral("kdqplot %1\n").arg(qApp->applicationVersion()));
+            return AllWell;
+        }
+        if (parser.positionalArguments().size() != 2)
+            return say(tr("A description and a picture are needed; see --help."), WrongCommandLine);
+        if (!readFormat(parser.positionalArguments().at(1)) || !readSize(parser.value(size))
+            || !readScale(parser.value(scale)))
+            return say(m_error, WrongCommandLine);
+        return draw(parser.positionalArguments().at(0), parser.positionalArguments().at(1));
+    }
+
+private:
+    static int say(const QString& text, ExitStatus status)
+    {
+        QTextStream(stderr) << "kdqplot: " << text << '\n';
+        return status;
+    }
+
+    bool fail(const QString& text)
+    {
+        m_error = text;
+        return false;
+    }
+
+    bool readFormat(const QString& path)
+    {
+        const bool isPng = path.endsWith(QLatin1String(".png"), Qt::CaseInsensitive);
+        m_format = isPng ? nChart::Png : nChart::Svg;
+        return isPng || path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)
+            || fail(tr("'%1' ends neither in .svg nor in .png.").arg(path));
+    }
+
+    bool readSize(const QString& text)
+    {
+        static const QRegularExpression pattern(QStringLiteral("^(\\d{1,6})x(\\d{1,6})$"));
+        const QRegularExpressionMatch match = pattern.match(text);
+        m_size = {match.captured(1).toInt(), match.captured(2).toInt()};
+        return match.hasMatch() || fail(tr("'%1' is no size such as 800x500.").arg(text));
+    }
+
+    bool readScale(const QString& text)
+    {
+        bool isNumber = false;
+        m_scale = text.toDouble(&isNumber);
+        return (isNumber && m_scale >= 0.1 && m_scale <= 20.0)
+            || fail(tr("The scale must be 0.1 to 20, not '%1'.").arg(text));
+    }
+
+    bool read(const QString& path, QByteArray& bytes)
+    {
+        QFile file(path);
+        if (path == QLatin1String("-") ? !file.open(stdin, QIODevice::ReadOnly)
+                                       : !file.open(QIODevice::ReadOnly))
+            return fail(tr("'%1' cannot be read: %2").arg(path, file.errorString()));
+        bytes = file.readAll();
+        return true;
+    }
+
+    bool write(const QString& path, const QByteArray& bytes)
+    {
+        QSaveFile file(path);
+        return (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+            || fail(tr("'%1' cannot be written: %2").arg(path, file.errorString()));
+    }
+
+    int draw(const QString& input, const QString& output)
+    {
+        QByteArray json;
+        Figure figure;
+        QByteArray picture;
+        const bool ok = read(input, json) && Figure::fromJson(json, figure, m_error)
+            && !(picture = nChart::picture(figure, m_format, m_size, m_scale, m_error)).isEmpty()
+            && write(output, picture);
+        return ok ? int(AllWell) : say(m_error, Failed);
+    }
+
+    QString m_error;
+    nChart::Format m_format = nChart::Svg;
+    QSize m_size;
+    double m_scale = 1.0;
+};
+
+/// No window is ever shown, so none is needed to draw one.
+void drawWithoutDisplay()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    drawWithoutDisplay();
+    QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false")); // of a desktop that is not needed
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kdqplot"));
+    QApplication::setApplicationVersion(QStringLiteral(KDQCORE_VERSION_STRING));
+    return Plotter().run(QApplication::arguments());
+}

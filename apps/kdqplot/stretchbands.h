@@ -1,0 +1,31 @@
+#pragma once
+
+#include "figure.h"
+
+#include <QFont>
+#include <QGraphicsObject>
+#include <QtCharts/QChart>
+
+/// Draws the stretches of a figure behind the curves of its chart: every second one as a light band, limits
+/// as fine lines, names at the top, upright where they would not fit otherwise. Belongs to the chart and
+/// follows its size and its x axis.
+class StretchBands : public QGraphicsObject {
+    Q_OBJECT
+
+public:
+    StretchBands(QtCharts::QChart& chart, QtCharts::QAbstractSeries& series,
+                 const QVector<Figure::Stretch>& stretches, const QFont& font);
+
+    QRectF boundingRect() const override { return m_area; }
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+private:
+    void follow(const QRectF& plotArea);
+    void paintName(QPainter& painter, const QString& name, const QRectF& band) const;
+
+    QtCharts::QChart& m_chart;
+    QtCharts::QAbstractSeries& m_series;
+    QVector<Figure::Stretch> m_stretches;
+    QFont m_font;
+    QRectF m_area;
+};
