@@ -12,14 +12,14 @@ endfunction()
 
 file(REMOVE_RECURSE ${WORK})
 set(prefix ${WORK}/prefix)
-set(first_deck ${SOURCE}/examples/first_deck/main.cpp)
+set(first_deck ${SOURCE}/examples/first_deck)
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
 
 run(${CMAKE_COMMAND} -S ${SOURCE}/tests/consumer -B ${WORK}/cmake -G Ninja -DCMAKE_PREFIX_PATH=${prefix}
     -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=${COMPILER} "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}"
-    -DCMAKE_CXX_FLAGS=${FLAGS} -DFIRST_DECK_SOURCE=${first_deck})
+    -DCMAKE_CXX_FLAGS=${FLAGS} -DFIRST_DECK=${first_deck})
 run(${CMAKE_COMMAND} --build ${WORK}/cmake)
-run(${WORK}/cmake/first_deck ${WORK}/cmake.dat)
+run(${WORK}/cmake/first_deck/first_deck ${WORK}/cmake.dat)
 
 file(GLOB_RECURSE pc ${prefix}/*/kdQCore.pc)
 get_filename_component(pc_dir ${pc} DIRECTORY)
@@ -28,7 +28,7 @@ run(pkg-config --cflags --libs kdQCore)
 separate_arguments(flags UNIX_COMMAND "${output} ${FLAGS}")
 get_filename_component(libdir ${pc_dir} DIRECTORY)
 # Debian's Qt is built with -fPIC in mind: position-independent code is the client's part of the deal.
-run(${COMPILER} -std=c++17 -fPIC ${first_deck} -o ${WORK}/pkgconfig ${flags} -Wl,-rpath,${libdir})
+run(${COMPILER} -std=c++17 -fPIC ${first_deck}/main.cpp -o ${WORK}/pkgconfig ${flags} -Wl,-rpath,${libdir})
 run(${WORK}/pkgconfig ${WORK}/pkgconfig.dat)
 
 run(${CMAKE_COMMAND} -E compare_files ${WORK}/cmake.dat ${WORK}/pkgconfig.dat)
