@@ -2,6 +2,7 @@
 
 #include "kdreporter.h"
 #include "kdsingleton_p.h"
+#include "platform.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -17,9 +18,12 @@ namespace {
 QStringList translationFolders()
 {
     const QString application = QCoreApplication::applicationDirPath();
-    return {application + QLatin1String("/translations"),
-            application + QLatin1String("/../share/kdQCore/translations"),
-            QStringLiteral(KDQCORE_TRANSLATIONS_DIR)};
+    QStringList folders{application + QLatin1String("/translations"),
+                        application + QLatin1String("/../share/kdQCore/translations")};
+    const QString library = nPlatform::moduleFolder();
+    if (!library.isEmpty())
+        folders << library + QLatin1String("/" KDQCORE_TRANSLATIONS_FROM_LIBRARY);
+    return folders;
 }
 
 std::unique_ptr<QTranslator> loadTranslator(const QString& fileName)

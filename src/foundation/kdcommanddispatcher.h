@@ -71,8 +71,9 @@ public:
     bool undo(QSharedPointer<kdCommand> command);
 
     /// Loads the commands' texts from the file "%commands_<code>.qm" in the folder "translations" beside the
-    /// executable or, failing that, in share/kdQCore/translations beside its folder or where the library was
-    /// installed. False, nothing changed, where there is none; English needs none.
+    /// executable or, failing that, in share/kdQCore/translations beside its folder or of the tree that the
+    /// shared library lies in, wherever that has been moved. False, nothing changed, where there is none;
+    /// English needs none.
     bool setLanguage(const kdQLanguage::KDLANGUAGE& language);
 
     static QSharedPointer<kdCommand> createComList(const QString& parameters);

@@ -16,6 +16,10 @@ QLatin1String systemName();
 /// What ends the file name of a program: ".exe" or nothing.
 QLatin1String executableExtension();
 
+/// The folder of the shared library that this code is part of, or of the program where it is linked into
+/// that. Empty where the system tells no absolute path.
+QString moduleFolder();
+
 /// Milliseconds of a steady clock that never jumps or wraps; only differences mean something.
 qint64 monotonicMilliseconds();
 

@@ -1,6 +1,7 @@
 #include "platform.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSysInfo>
 
 #include <cerrno>
@@ -8,6 +9,7 @@
 #include <csignal>
 #include <cstring>
 #include <ctime>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/ioctl.h>
@@ -206,6 +208,16 @@ QLatin1String systemName()
 QLatin1String executableExtension()
 {
     return QLatin1String();
+}
+
+QString moduleFolder()
+{
+    // For a program the system gives the name it was called by, which means nothing elsewhere.
+    Dl_info module{};
+    if (dladdr(reinterpret_cast<const void*>(&moduleFolder), &module) == 0 || module.dli_fname == nullptr
+        || module.dli_fname[0] != '/')
+        return QString();
+    return QFileInfo(QFile::decodeName(module.dli_fname)).path();
 }
 
 qint64 monotonicMilliseconds()

@@ -1,6 +1,7 @@
 #include "platform.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSysInfo>
 #include <QtEndian>
 
@@ -236,6 +237,21 @@ QLatin1String systemName()
 QLatin1String executableExtension()
 {
     return QLatin1String(".exe");
+}
+
+QString moduleFolder()
+{
+    constexpr DWORD longest = 32768;
+    HMODULE module = nullptr;
+    const auto here = reinterpret_cast<const wchar_t*>(&moduleFolder);
+    QString path(static_cast<int>(longest), Qt::Uninitialized);
+    if (!GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS
+                                | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                            here, &module))
+        return QString();
+    path.truncate(
+        static_cast<int>(GetModuleFileNameW(module, reinterpret_cast<wchar_t*>(path.data()), longest)));
+    return path.isEmpty() ? path : QFileInfo(QDir::fromNativeSeparators(path)).path();
 }
 
 qint64 monotonicMilliseconds()

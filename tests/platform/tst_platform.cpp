@@ -42,6 +42,11 @@ private Q_SLOTS:
         QCOMPARE(systemErrorText(99999), QString());
     }
 
+    void moduleIsWhatTheCodeIsLinkedInto()
+    {
+        QCOMPARE(moduleFolder(), QCoreApplication::applicationDirPath());
+    }
+
     void noSuchProcess()
     {
         const qint64 ownBeyond32Bits = (qint64(1) << 32) | QCoreApplication::applicationPid();
