@@ -512,10 +512,6 @@
         <translation>Scheitert, wenn sich zwei Prozesse unterscheiden, und sagt, in welchen Stufen.</translation>
     </message>
     <message>
-        <source>Makes a table of the temperature over the time of the whole process.</source>
-        <translation>Legt eine Tabelle der Temperatur über der Zeit des ganzen Prozesses an.</translation>
-    </message>
-    <message>
         <source>Makes a table of the session of the table that a stage has.</source>
         <translation>Macht die Tabelle einer Stufe zu einer Tabelle der Sitzung.</translation>
     </message>
@@ -650,6 +646,10 @@
     <message>
         <source>&apos;%1&apos; is neither above nor below.</source>
         <translation>„%1“ ist weder above noch below.</translation>
+    </message>
+    <message>
+        <source>Makes a table of the temperature over the time of the whole process, and a picture as &apos;plot heat&apos; draws it.</source>
+        <translation>Legt eine Tabelle der Temperatur über der Zeit des ganzen Prozesses an und ein Bild, wie „plot heat“ es zeichnet.</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +1007,72 @@
     <message>
         <source>There is no file &apos;%1&apos;.</source>
         <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>PlotCommands</name>
+    <message>
+        <source>Pictures of tables, formulas and heat treatments, as SVG or PNG.</source>
+        <translation>Bilder von Tabellen, Formeln und Wärmebehandlungen, als SVG oder PNG.</translation>
+    </message>
+    <message>
+        <source>Draws columns of tables; two y axes where they have two kinds of units.</source>
+        <translation>Zeichnet Spalten von Tabellen; zwei y-Achsen, wo sie zweierlei Einheiten haben.</translation>
+    </message>
+    <message>
+        <source>Draws the values of formulas while one variable runs, with gaps where they have none.</source>
+        <translation>Zeichnet die Werte von Formeln, während eine Variable läuft, mit Lücken, wo sie keine haben.</translation>
+    </message>
+    <message>
+        <source>Draws temperature and carbon potential of a process over its stages.</source>
+        <translation>Zeichnet Temperatur und Kohlenstoffpegel eines Prozesses über seinen Stufen.</translation>
+    </message>
+    <message>
+        <source>The picture is missing: to FILE, whose name ends in .svg or .png.</source>
+        <translation>Das Bild fehlt: to FILE, dessen Name auf .svg oder .png endet.</translation>
+    </message>
+    <message>
+        <source>Picture &apos;%1&apos; drawn.</source>
+        <translation>Bild „%1“ gezeichnet.</translation>
+    </message>
+    <message>
+        <source>&apos;columns&apos; needs the column of the x axis and one at least to draw.</source>
+        <translation>„columns“ braucht die Spalte der x-Achse und mindestens eine zum Zeichnen.</translation>
+    </message>
+    <message>
+        <source>&apos;steps&apos; and &apos;points&apos; exclude each other.</source>
+        <translation>„steps“ und „points“ schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no unit.</source>
+        <translation>„%1“ ist keine Einheit.</translation>
+    </message>
+    <message>
+        <source>A formula and the variable that runs (over NAME) are needed.</source>
+        <translation>Eine Formel und die Variable, die läuft (over NAME), sind nötig.</translation>
+    </message>
+    <message>
+        <source>One process is drawn at a time: NAME to FILE.</source>
+        <translation>Ein Prozess wird auf einmal gezeichnet: NAME to FILE.</translation>
+    </message>
+</context>
+<context>
+    <name>PlotProgram</name>
+    <message>
+        <source>No pictures can be drawn here: the program &apos;%1&apos; is neither in &apos;%2&apos; nor on the search path.</source>
+        <translation>Hier lassen sich keine Bilder zeichnen: Das Programm „%1“ liegt weder in „%2“ noch auf dem Suchpfad.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was not drawn within %2 s.</source>
+        <translation>„%1“ wurde nicht innerhalb von %2 s gezeichnet.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be run: %2</source>
+        <translation>„%1“ lässt sich nicht starten: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; ended before the picture was drawn. %2</source>
+        <translation>„%1“ endete, bevor das Bild gezeichnet war. %2</translation>
     </message>
 </context>
 <context>
@@ -3040,12 +3106,12 @@ der ausgewertet lautet:
         <translation>Temperatur</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no unit of %2.</source>
-        <translation>„%1“ ist keine Einheit von %2.</translation>
-    </message>
-    <message>
         <source>Carbon potential</source>
         <translation>Kohlenstoffpegel</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no unit of: %2.</source>
+        <translation>„%1“ ist keine Einheit von: %2.</translation>
     </message>
 </context>
 <context>

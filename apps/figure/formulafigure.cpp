@@ -21,7 +21,11 @@ public:
         for (int i = 0; i < firstPoints; ++i)
             parameters[i] = double(i) / (firstPoints - 1);
         m_samples = evaluated(parameters);
+        m_error = QStringLiteral("%1 %2").arg(formula.errorString(), formula.errorDetails()).trimmed();
     }
+
+    /// Of the first point that failed.
+    QString error() const { return m_error; }
 
     QVector<QPointF> points()
     {
@@ -95,31 +99,34 @@ private:
         for (int i = 0; i + 1 < m_samples.size(); ++i)
             if (needsMiddle.at(i))
                 middles.append((m_samples.at(i).parameter + m_samples.at(i + 1).parameter) / 2);
+        if (middles.isEmpty())
+            return false;
         const QVector<Sample> added = evaluated(middles);
         QVector<Sample> merged(m_samples.size() + added.size());
         std::merge(m_samples.begin(), m_samples.end(), added.begin(), added.end(), merged.begin(),
                    [](const Sample& a, const Sample& b) { return a.parameter < b.parameter; });
         m_samples = merged;
-        return !added.isEmpty();
+        return true;
     }
 
     coExpression& m_formula;
     const nFormulaFigure::Range& m_range;
     int m_variable = 0;
     QVector<Sample> m_samples;
+    QString m_error;
 };
 
 } // namespace
 
 bool nFormulaFigure::make(coExpression& formula, const Range& range, Figure& figure, QString& error)
 {
-    Figure::Curve curve{formula.text(), Sampling(formula, range).points()};
+    Sampling sampling(formula, range);
+    const Figure::Curve curve{formula.text(), sampling.points()};
     const bool hasValue = std::any_of(curve.points.cbegin(), curve.points.cend(),
                                       [](const QPointF& point) { return !std::isnan(point.y()); });
-    if (!hasValue) {
-        error = QStringLiteral("%1 %2").arg(formula.errorString(), formula.errorDetails()).trimmed();
+    error = hasValue ? QString() : sampling.error();
+    if (!hasValue)
         return false;
-    }
     Figure result;
     result.x.title = range.variable;
     result.x.isLogarithmic = range.isLogarithmic;

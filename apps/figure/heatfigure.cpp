@@ -27,11 +27,11 @@ public:
 
     bool chooseUnits(const nHeatFigure::Options& options)
     {
-        const double duration = m_process.durationSumOfEnabledStages().valueIn(seconds);
-        return choose(options.timeUnit, readableTime(duration), m_time)
-            && choose(options.temperatureUnit, kdUnitSystem::viewUnit(kdUnitSystem::Temperature),
-                      m_temperature)
-            && choose(options.potentialUnit, kdUnitSystem::viewUnit(kdUnitSystem::MassFraction), m_potential);
+        m_time = readableTime(m_process.durationSumOfEnabledStages().valueIn(seconds));
+        bool ok = options.timeUnit.isEmpty() || take(options.timeUnit, {&m_time});
+        for (const QString& symbol : options.yUnits)
+            ok = ok && take(symbol, {&m_temperature, &m_potential});
+        return ok;
     }
 
     bool make(Figure& figure)
@@ -52,14 +52,21 @@ public:
     }
 
 private:
-    bool choose(const QString& symbol, const kdUnitSystem& byDefault, kdUnitSystem& unit)
+    /// Into the first of the units whose dimension knows the symbol.
+    bool take(const QString& symbol, const QVector<kdUnitSystem*>& units)
     {
-        bool isKnown = symbol.isEmpty();
-        unit = isKnown ? byDefault : kdUnitSystem::fromSymbol(symbol, byDefault.dimension(), &isKnown);
-        if (!isKnown)
-            error = tr("'%1' is no unit of %2.")
-                        .arg(symbol, kdUnitSystem::translatedDimensionName(byDefault.dimension()));
-        return isKnown;
+        QStringList quantities;
+        for (kdUnitSystem* const unit : units) {
+            bool isKnown = false;
+            const kdUnitSystem wanted = kdUnitSystem::fromSymbol(symbol, unit->dimension(), &isKnown);
+            if (isKnown) {
+                *unit = wanted;
+                return true;
+            }
+            quantities.append(kdUnitSystem::translatedDimensionName(unit->dimension()));
+        }
+        error = tr("'%1' is no unit of: %2.").arg(symbol, quantities.join(QLatin1String(", ")));
+        return false;
     }
 
     double shownTime(double time) const { return seconds.convert(time, m_time); }
@@ -114,6 +121,9 @@ private:
         if (!input.hasDataTable() || !input.dataTable()->isXYDataTable() || input.dataTable()->isEmpty())
             return {};
         kdDataTable table(*input.dataTable());
+        if (table.yUnitSystem().dimension()
+            == kdUnitSystem::None) // both have 1 as their first unit, % as second
+            table.setUnitY(kdUnitSystem(kdUnitSystem::MassFraction, table.yUnitSystem().unitIndex()));
         table.toUnit(seconds, m_potential);
         QVector<double> times{0.0, duration};
         for (const double time : table.columnRef(0).values())
@@ -128,8 +138,8 @@ private:
 
     const coHeatTreatmentData& m_process;
     kdUnitSystem m_time;
-    kdUnitSystem m_temperature;
-    kdUnitSystem m_potential;
+    kdUnitSystem m_temperature = kdUnitSystem::viewUnit(kdUnitSystem::Temperature);
+    kdUnitSystem m_potential = kdUnitSystem::viewUnit(kdUnitSystem::MassFraction);
 };
 
 } // namespace

@@ -2,9 +2,11 @@
 
 namespace {
 
+/// Names are made for scripts, titles for people.
 QString titleOf(const kdDataColumn& column)
 {
-    return column.title().isEmpty() ? column.name() : column.title();
+    return column.title().isEmpty() ? column.name().replace(QLatin1Char('_'), QLatin1Char(' '))
+                                    : column.title();
 }
 
 /// A column on its way to the figure: its values, in the unit of its axis in the end.

@@ -24,7 +24,7 @@ constexpr int columns = 4000; // more than a picture has pixels, few enough to d
 
 // The palette of Okabe and Ito, in an order in which neighbours also differ in lightness.
 constexpr QRgb colours[] = {0xff0072b2, 0xffd55e00, 0xff009e73, 0xff000000,
-                            0xffcc79a7, 0xff56b4e9, 0xffe69f00};
+                            0xffcc79a7, 0xff56b4e9, 0xffe69f00, 0xff7f7f7f};
 const QVector<qreal> dashes[] = {{}, {6, 2.5}, {1.5, 2}, {7, 2, 1.5, 2}, {12, 3}};
 
 constexpr QRgb textColour = 0xff20262e;
@@ -128,10 +128,14 @@ private:
 
     void addAxes()
     {
-        m_chart->addAxis(makeAxis(m_figure.x, extentOfX(), ticksOfX()), Qt::AlignBottom);
+        constexpr int stepsOfX = 8;
+        const Extent extentX = shownExtent(m_figure.x, extentOfX());
+        m_chart->addAxis(
+            makeAxis(m_figure.x, extentX, AxisTicks::closeTo(extentX.lowest, extentX.highest, stepsOfX)),
+            Qt::AlignBottom);
         int steps = 0;
         for (int i = 0; i < m_figure.y.size(); ++i) {
-            const Extent extent = extentOfY(i);
+            const Extent extent = shownExtent(m_figure.y.at(i), extentOfY(i));
             const AxisTicks ticks = ticksOfY(extent, steps);
             steps = ticks.steps();
             QAbstractAxis* const axis = makeAxis(m_figure.y.at(i), extent, ticks);
@@ -142,11 +146,16 @@ private:
         }
     }
 
-    AxisTicks ticksOfX() const
+    /// What the axis must show: the curves, or as far as the figure says.
+    static Extent shownExtent(const Figure::Axis& axis, Extent extent)
     {
-        constexpr int steps = 8;
-        const Extent extent = extentOfX();
-        return AxisTicks::closeTo(extent.lowest, extent.highest, steps);
+        if (extent.isEmpty())
+            extent = {1.0, 1.0};
+        if (!std::isnan(axis.from))
+            extent = {axis.from, std::max(extent.highest, axis.from)};
+        if (!std::isnan(axis.to))
+            extent = {std::min(extent.lowest, axis.to), axis.to};
+        return extent;
     }
 
     /// The second axis takes as many steps as the first, so that one grid serves both.
@@ -207,15 +216,19 @@ private:
         return axis;
     }
 
+    /// Over whole decades; where they are many, only every so many have a tick.
     static QAbstractAxis* logarithmicAxis(const Extent& extent)
     {
+        constexpr double slack = 1e-12; // the ends shall be ticks in spite of rounded logarithms
+        constexpr int mostTicks = 12;
+        const double from = std::floor(std::log10(extent.lowest) + slack);
+        const double to = std::max(std::ceil(std::log10(extent.highest) - slack), from + 1.0);
+        const double decades = std::ceil((to - from) / mostTicks);
         auto* const axis = new QLogValueAxis;
-        axis->setBase(10.0);
-        const double from = std::floor(std::log10(extent.lowest) + 1e-9);
-        const double to = std::ceil(std::log10(extent.highest) - 1e-9);
-        axis->setRange(std::pow(10.0, from), std::pow(10.0, std::max(to, from + 1.0)));
-        axis->setMinorTickCount(8);
-        axis->setLabelFormat(QStringLiteral("%g"));
+        axis->setBase(std::pow(10.0, decades));
+        axis->setRange(std::pow(10.0, from) * (1.0 - slack), std::pow(10.0, to) * (1.0 + slack));
+        axis->setMinorTickCount(decades > 1.0 ? 0 : 8);
+        axis->setLabelFormat(QStringLiteral("%.6g"));
         return axis;
     }
 

@@ -1,6 +1,5 @@
 #include "chart.h"
-
-#include <kdqcore_version.h>
+#include "familyapplication.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -9,6 +8,7 @@
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QTextStream>
+#include <QTranslator>
 
 namespace {
 
@@ -125,6 +125,17 @@ void drawWithoutDisplay()
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+/// Straight from the files: it is started for every picture, and shall not leave a debug log for each.
+bool loadTexts(QTranslator& texts)
+{
+    const QString application = QApplication::applicationDirPath();
+    const QLocale user = QLocale::system();
+    return texts.load(user, QStringLiteral("kdqcore"), QStringLiteral("_"),
+                      application + QLatin1String("/translations"))
+        || texts.load(user, QStringLiteral("kdqcore"), QStringLiteral("_"),
+                      application + QLatin1String("/../share/kdQCore/translations"));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -132,7 +143,9 @@ int main(int argc, char** argv)
     drawWithoutDisplay();
     QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false")); // of a desktop that is not needed
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("kdqplot"));
-    QApplication::setApplicationVersion(QStringLiteral(KDQCORE_VERSION_STRING));
+    FamilyApplication::describe(QStringLiteral("kdqplot"));
+    QTranslator texts;
+    if (loadTexts(texts))
+        QApplication::installTranslator(&texts);
     return Plotter().run(QApplication::arguments());
 }

@@ -2,6 +2,56 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QtCharts/QXYSeries>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr double gap = 4.0; // between a name and the ends of its band
+
+/// Whether the line from \a a to \a b, cut to the width of the place, may touch it.
+bool touches(QPointF a, QPointF b, const QRectF& place)
+{
+    if (a.x() > b.x())
+        std::swap(a, b);
+    if (b.x() < place.left() || a.x() > place.right())
+        return false;
+    const double slope = b.x() > a.x() ? (b.y() - a.y()) / (b.x() - a.x()) : 0.0;
+    const double left = a.x() < place.left() ? a.y() + slope * (place.left() - a.x()) : a.y();
+    const double right = b.x() > place.right() ? b.y() - slope * (b.x() - place.right()) : b.y();
+    return std::max(left, right) >= place.top() && std::min(left, right) <= place.bottom();
+}
+
+int crossings(const QRectF& place, const QVector<QPolygonF>& curves)
+{
+    int count = 0;
+    for (const QPolygonF& curve : curves)
+        for (int i = 0; i + 1 < curve.size(); ++i)
+            count += touches(curve.at(i), curve.at(i + 1), place) ? 1 : 0;
+    return count;
+}
+
+/// Where in the band an upright name crosses the fewest curves; the highest of such places.
+QRectF freePlace(const QRectF& band, const QSizeF& size, const QVector<QPolygonF>& curves)
+{
+    constexpr int heights = 12;
+    const double room = band.height() - size.height() - 2.0 * gap;
+    QRectF best;
+    int fewest = std::numeric_limits<int>::max();
+    for (int i = 0; i <= heights; ++i) {
+        const QRectF place(
+            QPointF(band.center().x() - size.width() / 2.0, band.top() + gap + room * i / heights), size);
+        const int count = crossings(place.adjusted(0.0, -gap, 0.0, gap), curves);
+        if (count < fewest)
+            best = place;
+        fewest = std::min(fewest, count);
+    }
+    return best;
+}
+
+} // namespace
 
 StretchBands::StretchBands(QtCharts::QChart& chart, QtCharts::QAbstractSeries& series,
                            const QVector<Figure::Stretch>& stretches, const QFont& font)
@@ -22,6 +72,7 @@ void StretchBands::follow(const QRectF& plotArea)
 
 void StretchBands::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
 {
+    const QVector<QPolygonF> mapped = curves();
     painter->setFont(m_font);
     bool isShaded = false;
     for (const Figure::Stretch& stretch : qAsConst(m_stretches)) {
@@ -35,23 +86,38 @@ void StretchBands::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWi
             painter->fillRect(band, QColor(0xf3, 0xf5, 0xf8));
         painter->setPen(QPen(QColor(0xc4, 0xcb, 0xd4), 1.0));
         painter->drawLine(band.topRight(), band.bottomRight());
-        paintName(*painter, stretch.name, band);
+        paintName(*painter, stretch.name, band, mapped);
         isShaded = !isShaded;
     }
 }
 
-void StretchBands::paintName(QPainter& painter, const QString& name, const QRectF& band) const
+QVector<QPolygonF> StretchBands::curves() const
 {
-    constexpr double gap = 4.0;
+    QVector<QPolygonF> curves;
+    const QList<QtCharts::QAbstractSeries*> allSeries = m_chart.series();
+    for (QtCharts::QAbstractSeries* const series : allSeries) {
+        QPolygonF curve;
+        if (const auto* const points = qobject_cast<const QtCharts::QXYSeries*>(series))
+            for (const QPointF& point : points->pointsVector())
+                curve.append(m_chart.mapToPosition(point, series));
+        curves.append(curve);
+    }
+    return curves;
+}
+
+void StretchBands::paintName(QPainter& painter, const QString& name, const QRectF& band,
+                             const QVector<QPolygonF>& curves) const
+{
     const QFontMetricsF metrics(m_font);
-    const double width = metrics.horizontalAdvance(name);
+    const QSizeF lying(metrics.horizontalAdvance(name), metrics.capHeight());
     painter.setPen(QColor(0x5a, 0x64, 0x70));
-    if (width + 2.0 * gap <= band.width()) {
-        painter.drawText(QPointF(band.center().x() - width / 2.0, band.top() + gap + metrics.ascent()), name);
-    } else if (metrics.height() <= band.width()) {
+    if (lying.width() + 2.0 * gap <= band.width()) {
+        painter.drawText(QPointF(band.center().x() - lying.width() / 2.0, band.top() + gap + lying.height()),
+                         name);
+    } else if (lying.height() <= band.width() && lying.width() + 2.0 * gap <= band.height()) {
+        const QRectF place = freePlace(band, lying.transposed(), curves);
         painter.save();
-        painter.translate(band.center().x() + (metrics.ascent() - metrics.descent()) / 2.0,
-                          band.top() + gap + width);
+        painter.translate(place.right(), place.bottom());
         painter.rotate(-90.0);
         painter.drawText(QPointF(0.0, 0.0), name);
         painter.restore();

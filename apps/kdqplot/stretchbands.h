@@ -4,11 +4,12 @@
 
 #include <QFont>
 #include <QGraphicsObject>
+#include <QPolygonF>
 #include <QtCharts/QChart>
 
 /// Draws the stretches of a figure behind the curves of its chart: every second one as a light band, limits
-/// as fine lines, names at the top, upright where they would not fit otherwise. Belongs to the chart and
-/// follows its size and its x axis.
+/// as fine lines. A name stands at the top, or upright where it would not fit otherwise, and then at the
+/// height where it crosses the fewest curves. Belongs to the chart and follows its size and its x axis.
 class StretchBands : public QGraphicsObject {
     Q_OBJECT
 
@@ -21,7 +22,9 @@ public:
 
 private:
     void follow(const QRectF& plotArea);
-    void paintName(QPainter& painter, const QString& name, const QRectF& band) const;
+    QVector<QPolygonF> curves() const;
+    void paintName(QPainter& painter, const QString& name, const QRectF& band,
+                   const QVector<QPolygonF>& curves) const;
 
     QtCharts::QChart& m_chart;
     QtCharts::QAbstractSeries& m_series;

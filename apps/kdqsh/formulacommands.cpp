@@ -142,8 +142,6 @@ bool FormulaCommands::tabulate(ShellCall& call)
     return true;
 }
 
-/// Parameters that depend on a free name are put in as formulas, so that they vary with it; all others have
-/// their values.
 bool FormulaCommands::bind(const ShellCall& call, const QStringList& free, coExpression& formula)
 {
     const ShellFormulas& parameters = ShellSession::I().parameters;
@@ -213,9 +211,14 @@ bool FormulaCommands::prepareForSolver(const ShellCall& call, const QStringList&
     return true;
 }
 
+ShellParameters& FormulaCommands::Range::addEndsTo(ShellParameters& parameters)
+{
+    return parameters.text("over", variable).real("from", from).real("to", to);
+}
+
 ShellParameters& FormulaCommands::Range::addTo(ShellParameters& parameters)
 {
-    return parameters.text("over", variable).real("from", from).real("to", to).integer("points", points);
+    return addEndsTo(parameters).integer("points", points);
 }
 
 bool FormulaCommands::Range::check(const ShellCall& call) const

@@ -21,7 +21,6 @@ public:
     /// \a text as the solver reads it: of names, only those in \a variables remain. Reports likewise.
     static bool prepareForSolver(const ShellCall& call, const QStringList& variables, QString& text);
 
-private:
     /// The values that one variable takes.
     struct Range {
         QString variable;
@@ -29,17 +28,22 @@ private:
         double to = std::numeric_limits<double>::quiet_NaN();
         int points = 11;
 
+        /// The variable and its ends; addTo() takes the number of points as well.
+        ShellParameters& addEndsTo(ShellParameters& parameters);
         ShellParameters& addTo(ShellParameters& parameters);
         bool check(const ShellCall& call) const;
         QVector<double> values() const;
     };
 
+    /// Gives \a formula the values of parameters, those that depend on \a free as formulas. Reports likewise.
+    static bool bind(const ShellCall& call, const QStringList& free, coExpression& formula);
+
+private:
     static bool check(ShellCall& call);
     static bool variables(ShellCall& call);
     static bool evaluate(ShellCall& call);
     static bool tabulate(ShellCall& call);
 
-    static bool bind(const ShellCall& call, const QStringList& free, coExpression& formula);
     static bool evaluateOver(const ShellCall& call, const Range& range, coExpression& formula,
                              kdDataTable& table);
 };

@@ -1,5 +1,6 @@
 #include "heatcommands.h"
 
+#include "plotcommands.h"
 #include "shellsession.h"
 
 #include <kdQCore/coHeatTreatmentDataFactory>
@@ -70,9 +71,10 @@ const ShellCommandGroup& HeatCommands::group()
             {"compare", "NAME OTHER",
              QT_TR_NOOP("Fails where two processes differ, and says in what stages."), 2, 2, Entry::Query,
              compare},
-            {"curve", "NAME as TABLE",
-             QT_TR_NOOP("Makes a table of the temperature over the time of the whole process."), 3, 3,
-             Entry::ChangesTables, curve},
+            {"curve", "NAME as TABLE [picture FILE]",
+             QT_TR_NOOP("Makes a table of the temperature over the time of the whole process, and a picture "
+                        "as 'plot heat' draws it."),
+             3, 5, Entry::ChangesTables, curve},
             {"extract", "NAME STAGE temperature|htc|potential|transfer as TABLE",
              QT_TR_NOOP("Makes a table of the session of the table that a stage has."), 5, 5,
              Entry::ChangesTables, extract},
@@ -251,8 +253,9 @@ bool HeatCommands::remove(ShellCall& call)
 
 bool HeatCommands::curve(ShellCall& call)
 {
+    QString picture;
     const ShellProcesses::Process process = find(call, call.text(0));
-    if (process.isNull() || !isAs(call, 1))
+    if (process.isNull() || !isAs(call, 1) || !ShellParameters(call, 3).text("picture", picture).read())
         return false;
     kdDataTable table = process->temperatureOverTime();
     if (table.isEmpty())
@@ -261,6 +264,8 @@ bool HeatCommands::curve(ShellCall& call)
     table.setXName(QStringLiteral("time"));
     table.setYName(QStringLiteral("temperature"));
     table.toViewUnit();
+    if (!picture.isEmpty() && !PlotCommands::drawProcess(call, call.text(0), picture))
+        return false;
     ShellSession::I().tables.put(call.text(2), std::move(table));
     return true;
 }

@@ -13,6 +13,9 @@ class HeatCommands {
 public:
     static const ShellCommandGroup& group();
 
+    /// Reports and returns null where the session has no such process.
+    static ShellProcesses::Process find(const ShellCall& call, const QString& name);
+
 private:
     static bool create(ShellCall& call);
     static bool list(ShellCall& call);
@@ -32,8 +35,7 @@ private:
 
     using Stage = coHeatTreatmentData::StagePointer;
 
-    // These report and return null where there is none.
-    static ShellProcesses::Process find(const ShellCall& call, const QString& name);
+    /// Reports and returns null where there is none.
     static Stage findStage(const ShellCall& call, const coHeatTreatmentData& process, const QString& index);
 
     static bool listProcesses(ShellCall& call);

@@ -10,6 +10,7 @@
 #include "namecommands.h"
 #include "parametercommands.h"
 #include "pathcommands.h"
+#include "plotcommands.h"
 #include "remotecommands.h"
 #include "tablecommands.h"
 #include "tcpcommands.h"
@@ -30,11 +31,11 @@ QSharedPointer<kdCommand> create(const QString& parameters)
 const QVector<const ShellCommandGroup*>& nShellGroups::all()
 {
     static const QVector<const ShellCommandGroup*> groups{
-        &TableCommands::group(),  &ParameterCommands::group(), &FormulaCommands::group(),
-        &HeatCommands::group(),   &CsvCommands::group(),       &DeckCommands::group(),
-        &NameCommands::group(),   &PathCommands::group(),      &TcpCommands::group(),
-        &RemoteCommands::group(), &IpcCommands::group(),       &TimeCommands::group(),
-        &LockCommands::group(),   &LogCommands::group()};
+        &TableCommands::group(), &ParameterCommands::group(), &FormulaCommands::group(),
+        &HeatCommands::group(),  &PlotCommands::group(),      &CsvCommands::group(),
+        &DeckCommands::group(),  &NameCommands::group(),      &PathCommands::group(),
+        &TcpCommands::group(),   &RemoteCommands::group(),    &IpcCommands::group(),
+        &TimeCommands::group(),  &LockCommands::group(),      &LogCommands::group()};
     return groups;
 }
 
@@ -53,6 +54,7 @@ void nShellGroups::registerCommands()
     dispatcher.registerCommand(create<ParameterCommands::group>);
     dispatcher.registerCommand(create<FormulaCommands::group>);
     dispatcher.registerCommand(create<HeatCommands::group>);
+    dispatcher.registerCommand(create<PlotCommands::group>);
     dispatcher.registerCommand(create<CsvCommands::group>);
     dispatcher.registerCommand(create<DeckCommands::group>);
     dispatcher.registerCommand(create<NameCommands::group>);
