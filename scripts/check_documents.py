@@ -10,7 +10,8 @@ In a Markdown file, a comment alone on the line before a fenced block says what 
                                                  "// ..." stands for lines left out
   <!-- run -->                                   a session at a shell: commands behind "% ", and what they print
 
-excerpts compares every block of the first kind. On the pages named below, each C++ and CMake block must be of this kind.
+excerpts compares every block of the first kind, and follows the links between the pages. On the pages named below, each
+C++ and CMake block must be of this kind.
 sessions runs the blocks of the second kind against the package installed in PREFIX, page by page, each page in one
 shell and in a folder of its own that holds a copy of examples/. A block that is a whole file is written there before
 what comes after it is run, as a reader would. Where the output varies, "..." on a line of its own stands for any
@@ -57,7 +58,8 @@ def chunks(text):
             result.append([])
         else:
             result[-1].append(line)
-    return [chunk for chunk in result if chunk]
+    stripped = ("\n".join(chunk).strip("\n").splitlines() for chunk in result)
+    return [chunk for chunk in stripped if chunk]
 
 
 def find(chunk, lines, start):
@@ -84,10 +86,29 @@ def check_excerpt(source, place, marker, text):
     return ""
 
 
+def anchors(text):
+    """The names by which links reach the headings of a page."""
+    headings = re.findall(r"^#+ (.*)$", re.sub(r"^```.*?^```$", "", text, flags=re.M | re.S), re.M)
+    return {re.sub(r"[^\w\- ]", "", heading.lower()).replace(" ", "-") for heading in headings}
+
+
+def check_links(source, page):
+    for target in re.findall(r"\]\(([^)\s]+)\)", re.sub(r"^```.*?^```$", "", page.text, flags=re.M | re.S)):
+        if "://" in target:
+            continue
+        path, _, anchor = target.partition("#")
+        file = (source / page.name).parent / path if path else source / page.name
+        if not file.exists():
+            yield f"{page.name}: the link {target} leads nowhere"
+        elif anchor and anchor not in anchors(file.read_text(encoding="utf-8")):
+            yield f"{page.name}: {path or 'this page'} has no heading for #{anchor}"
+
+
 def check_excerpts(source):
     faults = []
     count = 0
     for page in pages(source):
+        faults += check_links(source, page)
         for place, marker, kind, text in page.blocks():
             if is_file(marker):
                 count += 1
