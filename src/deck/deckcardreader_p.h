@@ -59,12 +59,13 @@ private:
     void readPoints(TableHead& head);
     void readGrid(TableHead& head);
     bool readGridVariable(TableVariable& variable, int number);
-    /// \a taker takes value, index and column.
+    /// \a taker takes the next field, which has an index, and says whether it was as it should be.
     template <typename Taker>
     bool readList(qint64 expected, const QString& what, const Taker& taker);
     template <typename Taker>
     bool readListLine(const coDeckLine& line, qint64& count, const Taker& taker);
-    bool readValue(coDeckFields& fields, double& value);
+    bool readValue(const coDeckFields::Field& field, double& value);
+    bool takeValue(coDeckFields& fields, QList<double>& values);
     bool isAtEnd(coDeckFields& fields);
     void keepTable(const TableHead& head, const QList<double>& values);
 

@@ -17,6 +17,9 @@ namespace {
 
 constexpr int widestReal = 20;
 constexpr int mostDigits = 16;
+constexpr std::ptrdiff_t mostDecimals = 15;
+constexpr quint64 zeros = 0x3030303030303030u;
+constexpr quint64 wholePowers[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000};
 
 bool isDigit(char c)
 {
@@ -41,68 +44,105 @@ void trim(const char*& first, const char*& last)
         --last;
 }
 
-/// The value of eight digits; false where one of the characters is none. All places at once: pairs, fours,
-/// eight.
-bool readEightDigits(const char* text, quint64& value)
+/// Eight characters, the first in the lowest byte.
+quint64 loadEight(const char* text)
 {
-    const quint64 characters = qFromLittleEndian<quint64>(text);
-    const quint64 digits = characters - 0x3030303030303030u;
-    if (((characters + 0x4646464646464646u) | digits) & 0x8080808080808080u)
-        return false;
+    return qFromLittleEndian<quint64>(text);
+}
+
+bool areDigits(quint64 characters)
+{
+    return (((characters + 0x4646464646464646u) | (characters - zeros)) & 0x8080808080808080u) == 0;
+}
+
+/// All places at once: pairs, fours, eight.
+quint64 valueOfDigits(quint64 characters)
+{
+    const quint64 digits = characters - zeros;
     const quint64 pairs = (digits * 10 + (digits >> 8)) & 0x00ff00ff00ff00ffu;
     const quint64 fours = (pairs * 100 + (pairs >> 16)) & 0x0000ffff0000ffffu;
-    value = (fours * 10000 + (fours >> 32)) & 0xffffffffu;
-    return true;
+    return (fours * 10000 + (fours >> 32)) & 0xffffffffu;
 }
 
-/// Decimals behind the point, appended to \a digits.
-bool appendDecimals(const char* c, const char* end, quint64& digits)
+/// What the writer prints: "-1.5000E+0", with at most two digits behind the exponent's sign.
+struct PrintedReal {
+    const char* begin = nullptr; ///< behind the sign
+    const char* mark = nullptr;  ///< the exponent's letter
+    const char* end = nullptr;
+
+    std::ptrdiff_t decimals() const { return mark - begin - 2; }
+    bool find(const char* first, const char* last);
+    bool hasDigits() const;
+    quint64 digits() const;
+    int exponent() const;
+
+private:
+    quint64 lastDecimals(std::ptrdiff_t count) const;
+};
+
+bool PrintedReal::find(const char* first, const char* last)
 {
-    for (quint64 eight = 0; end - c >= 8; c += 8) {
-        if (!readEightDigits(c, eight))
-            return false;
-        digits = digits * 100000000u + eight;
-    }
-    for (; c != end; ++c) {
-        if (!isDigit(*c))
-            return false;
-        digits = digits * 10 + static_cast<quint64>(*c - '0');
-    }
-    return true;
+    constexpr std::ptrdiff_t shortest = 8; // so that eight characters can be loaded
+    begin = first + (first != last && *first == '-' ? 1 : 0);
+    end = last;
+    if (end - begin < shortest)
+        return false;
+    mark = end - (isDigit(end[-2]) ? 4 : 3);
+    return *mark == 'E' && isSign(mark[1]) && isDigit(end[-1]) && begin[1] == '.' && isDigit(*begin)
+        && decimals() <= mostDecimals;
 }
 
-/// Reads what the writer prints, "-1.5000E+0", where one multiplication or division of two numbers that
-/// doubles hold exactly gives the nearest double (W. D. Clinger, How to read floating point numbers
-/// accurately, 1990): digits below 2^53, a power of ten up to 22. False for anything else.
+/// The last \a count decimals as eight digits, zeros in front.
+quint64 PrintedReal::lastDecimals(std::ptrdiff_t count) const
+{
+    const std::ptrdiff_t beyond = std::max<std::ptrdiff_t>(6 - decimals(), 0); // which lie before the number
+    const quint64 characters = loadEight(mark - 8 + beyond) << (8 * beyond);
+    const quint64 others = ~quint64(0) >> (8 * count);
+    return (characters & ~others) | (zeros & others);
+}
+
+// Eight or more decimals are two groups of eight, which may overlap.
+bool PrintedReal::hasDigits() const
+{
+    return decimals() < 8 ? areDigits(lastDecimals(decimals()))
+                          : areDigits(loadEight(begin + 2)) && areDigits(loadEight(mark - 8));
+}
+
+quint64 PrintedReal::digits() const
+{
+    const auto first = static_cast<quint64>(*begin - '0');
+    const std::ptrdiff_t count = decimals();
+    if (count < 8)
+        return first * wholePowers[count] + valueOfDigits(lastDecimals(count));
+    const quint64 nine = first * 100000000u + valueOfDigits(loadEight(begin + 2));
+    return nine * wholePowers[count - 8] + valueOfDigits(lastDecimals(count - 8));
+}
+
+int PrintedReal::exponent() const
+{
+    const int magnitude = end - mark == 3 ? end[-1] - '0' : (end[-2] - '0') * 10 + (end[-1] - '0');
+    return mark[1] == '-' ? -magnitude : magnitude;
+}
+
+/// Reads what the writer prints where one multiplication or division of two numbers that doubles hold exactly
+/// gives the nearest double (W. D. Clinger, How to read floating point numbers accurately, 1990): digits
+/// below 2^53, a power of ten up to 22. False for anything else.
 bool readPrintedReal(const char* first, const char* last, double& value)
 {
     static constexpr double powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                         1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                         1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
     constexpr int largestPower = 22;
-    constexpr std::ptrdiff_t mostDecimals = 15;
-    const bool isNegative = first != last && *first == '-';
-    const char* const begin = first + (isNegative ? 1 : 0);
-    const char* mark = last;
-    while (mark != begin && last - mark < 4 && isDigit(mark[-1]))
-        --mark;
-    if (mark - begin < 5 || mark == last || !isSign(mark[-1]) || mark[-2] != 'E' || begin[1] != '.'
-        || !isDigit(*begin))
+    PrintedReal printed;
+    if (!printed.find(first, last) || !printed.hasDigits())
         return false;
-    const char* const letter = mark - 2;
-    const std::ptrdiff_t decimals = letter - (begin + 2);
-    quint64 digits = static_cast<quint64>(*begin - '0');
-    if (decimals > mostDecimals || !appendDecimals(begin + 2, letter, digits) || digits >> 53 != 0)
-        return false;
-    int exponent = 0;
-    for (const char* c = mark; c != last; ++c)
-        exponent = exponent * 10 + (*c - '0');
-    const int power = (mark[-1] == '-' ? -exponent : exponent) - static_cast<int>(decimals);
-    if (power < -largestPower || power > largestPower)
+    const quint64 digits = printed.digits();
+    const int power = printed.exponent() - static_cast<int>(printed.decimals());
+    if (digits >> 53 != 0 || power < -largestPower || power > largestPower)
         return false;
     const double whole = static_cast<double>(digits);
     const double magnitude = power < 0 ? whole / powers[-power] : whole * powers[power];
-    value = isNegative ? -magnitude : magnitude;
+    value = std::copysign(magnitude, printed.begin == first ? 1.0 : -1.0);
     return true;
 }
 
@@ -190,6 +230,12 @@ bool readReal(const char* first, const char* last, double& value)
 {
     return readPrintedReal(first, last, value) || nNumberText::read(first, last, value)
         || readFortranReal(first, last, value);
+}
+
+bool isPlainReal(const char* first, const char* last)
+{
+    PrintedReal printed;
+    return printed.find(first, last) && printed.hasDigits();
 }
 
 bool readCardReal(const char* first, const char* last, double& value)

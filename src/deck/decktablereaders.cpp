@@ -18,13 +18,8 @@ bool DeckCardReader::readListLine(const coDeckLine& line, qint64& count, const T
 {
     coDeckFields fields(line, m_lines.mode(), m_option.format);
     bool isGood = true;
-    for (; !fields.atEnd(); ++count) {
-        double value = 0.0;
-        if (readValue(fields, value))
-            taker(value, count, fields.field().column);
-        else
-            isGood = false;
-    }
+    for (; !fields.atEnd(); ++count)
+        isGood = taker(fields, count) && isGood;
     return isGood;
 }
 
@@ -132,9 +127,8 @@ void DeckCardReader::readPoints(TableHead& head)
     int count = 0;
     for (; isPointAhead(count < head.variable[0].points); ++count) {
         double x = 0.0;
-        double y = 0.0;
         coDeckFields fields(m_lines.take(m_option), m_lines.mode(), m_option.format);
-        if (!readValue(fields, x) || !readValue(fields, y) || !isAtEnd(fields)) {
+        if (!readValue(fields.takeReal(), x) || !takeValue(fields, values) || !isAtEnd(fields)) {
             isGood = false;
             continue;
         }
@@ -144,10 +138,8 @@ void DeckCardReader::readPoints(TableHead& head)
             isGood = false;
         }
         lastX = x;
-        if (m_lines.readsCards()) {
+        if (m_lines.readsCards())
             head.variable[0].values.append(x);
-            values.append(y);
-        }
     }
     const QString announced = QString::number(head.variable[0].points);
     if (count != head.variable[0].points)
@@ -169,10 +161,7 @@ void DeckCardReader::readGrid(TableHead& head)
     }
     QList<double> values;
     isGood = readList(expected, tr("table values"),
-                      [&](double value, qint64, int) {
-                          if (m_lines.readsCards())
-                              values.append(value);
-                      })
+                      [&](coDeckFields& fields, qint64) { return takeValue(fields, values); })
         && isGood;
     m_isOurs = m_isOurs && head.variables == 2;
     if (isGood)
@@ -182,34 +171,48 @@ void DeckCardReader::readGrid(TableHead& head)
 bool DeckCardReader::readGridVariable(TableVariable& variable, int number)
 {
     double last = 0.0;
-    bool isGood = true;
-    const auto take = [&](double value, qint64 index, int column) {
-        if (index > 0 && value <= last) {
-            m_lines.error(m_option, column,
+    const auto take = [&](coDeckFields& fields, qint64 index) {
+        double value = 0.0;
+        if (!readValue(fields.takeReal(), value))
+            return false;
+        const bool isAscending = index == 0 || value > last;
+        if (!isAscending)
+            m_lines.error(m_option, fields.field().column,
                           value == last ? tr("values %1 and %2 of variable %3 print alike: %4.")
                                               .arg(QString::number(index), QString::number(index + 1),
                                                    QString::number(number), ::number(value))
                                         : tr("the values of variable %1 must ascend, but %2 follows %3.")
                                               .arg(QString::number(number), ::number(value), ::number(last)));
-            isGood = false;
-        }
         last = value;
         if (m_lines.readsCards())
             variable.values.append(value);
+        return isAscending;
     };
-    return readList(variable.points, tr("values of variable %1").arg(number), take) && isGood;
+    return readList(variable.points, tr("values of variable %1").arg(number), take);
 }
 
-bool DeckCardReader::readValue(coDeckFields& fields, double& value)
+bool DeckCardReader::readValue(const coDeckFields::Field& field, double& value)
 {
-    const bool isNumber = m_lines.readReal(fields.takeReal(), value);
+    const bool isNumber = m_lines.readReal(field, value);
     if (Q_LIKELY(isNumber && std::isfinite(value)))
         return true;
-    const coDeckFields::Field& field = fields.field();
     m_lines.error(m_option, field.column,
                   isNumber ? tr("finite number expected, found '%1'.").arg(field.text())
                            : tr("number expected, found '%1'.").arg(field.text()));
     return false;
+}
+
+// Without cards a value only has to be one.
+bool DeckCardReader::takeValue(coDeckFields& fields, QList<double>& values)
+{
+    const coDeckFields::Field& field = fields.takeReal();
+    double value = 0.0;
+    if (!m_lines.readsCards())
+        return nDeckNumber::isPlainReal(field.begin, field.end) || readValue(field, value);
+    if (!readValue(field, value))
+        return false;
+    values.append(value);
+    return true;
 }
 
 bool DeckCardReader::isAtEnd(coDeckFields& fields)

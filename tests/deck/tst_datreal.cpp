@@ -65,13 +65,14 @@ private Q_SLOTS:
             const double value =
                 std::ldexp(i % 2 ? mantissa : -mantissa, static_cast<int>(random() % 240) - 120);
             char text[nDatReal::bufferSize];
-            const int width = i % 3 ? 20 : 10;
+            const int width = 10 + static_cast<int>(random() % 11);
             nDatReal::format(value, width, false, text);
             double read = 0.0;
             QVERIFY2(nDeckNumber::readReal(text, text + width, read), text);
             QVERIFY2(read == QByteArray(text, width).toDouble(), text);
-            text[2 + random() % 4] = "x/:,"[random() % 4];
+            text[random() % static_cast<unsigned>(width)] = "x/:,"[random() % 4];
             QVERIFY2(!nDeckNumber::readReal(text, text + width, read), text);
+            QVERIFY2(!nDeckNumber::isPlainReal(text, text + width), text);
         }
     }
 
