@@ -1,4 +1,5 @@
-// Ends with success if the library finds its German texts; the program itself lies outside the installed tree.
+// Ends with success if the library finds its German texts; the program itself lies outside the installed
+// tree.
 #include <kdQCore/kdCommandDispatcher>
 
 #include <QCoreApplication>
