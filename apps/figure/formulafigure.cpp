@@ -65,14 +65,20 @@ private:
         return samples;
     }
 
-    double height() const
+    /// How far a point may lie off its neighbours' line: by a share of the height of the curve, beside a pole
+    /// by that of its quieter part, which a picture then shows.
+    double bearableBend() const
     {
-        double lowest = std::numeric_limits<double>::max();
-        double highest = -lowest;
+        QVector<double> values;
         for (const Sample& sample : m_samples)
             if (!std::isnan(sample.y))
-                lowest = std::min(lowest, sample.y), highest = std::max(highest, sample.y);
-        return highest - lowest;
+                values.append(sample.y);
+        if (values.isEmpty())
+            return 0.0;
+        std::sort(values.begin(), values.end());
+        const int outer = values.size() / 20;
+        const double inner = values.at(values.size() - 1 - outer) - values.at(outer);
+        return tolerance * std::max(inner, 0.01 * (values.last() - values.first()));
     }
 
     /// Whether the curve leaves its neighbours' line at this point, or begins or ends beside it.
@@ -90,7 +96,7 @@ private:
     /// Puts a point into the middle of each step beside a bend; false where there is none.
     bool refine()
     {
-        const double bearable = height() * tolerance;
+        const double bearable = bearableBend();
         QVector<bool> needsMiddle(m_samples.size(), false); // of the step that begins at the sample
         for (int i = 1; i + 1 < m_samples.size(); ++i)
             if (isBentAt(i, bearable))

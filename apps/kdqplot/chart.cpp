@@ -3,7 +3,6 @@
 #include "axisticks.h"
 #include "stretchbands.h"
 
-#include <QFont>
 #include <QGraphicsLayout>
 #include <QLocale>
 #include <QPen>
@@ -31,15 +30,6 @@ constexpr QRgb textColour = 0xff20262e;
 constexpr QRgb axisColour = 0xff6b7580;
 constexpr QRgb gridColour = 0xffdfe3e8;
 
-QFont fontOf(int pixels, bool isBold = false)
-{
-    // The later families are for who shows an SVG elsewhere; their letters are about as wide.
-    QFont font(QStringLiteral("DejaVu Sans,Verdana,sans-serif"));
-    font.setPixelSize(pixels);
-    font.setBold(isBold);
-    return font;
-}
-
 /// A text as charts take it: as HTML, and without what XML cannot hold.
 QString shown(const QString& text)
 {
@@ -51,8 +41,8 @@ QPen penOf(int curve)
 {
     QPen pen(QColor::fromRgba(colours[size_t(curve) % std::size(colours)]), 2.2);
     pen.setJoinStyle(Qt::RoundJoin);
-    pen.setCapStyle(Qt::FlatCap);
     const QVector<qreal>& dash = dashes[size_t(curve) % std::size(dashes)];
+    pen.setCapStyle(dash.isEmpty() ? Qt::RoundCap : Qt::FlatCap);
     if (!dash.isEmpty())
         pen.setDashPattern(dash);
     return pen;
@@ -81,7 +71,7 @@ public:
         m_chart->layout()->setContentsMargins(0, 0, 0, 0);
         m_chart->setMargins(QMargins(16, 14, 20, 12));
         m_chart->setTitle(shown(figure.title));
-        m_chart->setTitleFont(fontOf(17, true));
+        m_chart->setTitleFont(nChart::font(17, true));
         m_chart->setTitleBrush(QColor::fromRgba(textColour));
         QLocale locale;
         locale.setNumberOptions(QLocale::OmitGroupSeparator);
@@ -98,7 +88,7 @@ public:
             addCurve(i);
         setLegend();
         if (!m_figure.stretches.isEmpty())
-            new StretchBands(*m_chart, *m_chart->series().constFirst(), m_figure.stretches, fontOf(12));
+            new StretchBands(*m_chart, *m_chart->series().constFirst(), m_figure.stretches, nChart::font(12));
         return std::move(m_chart);
     }
 
@@ -194,9 +184,9 @@ private:
         if (to.isValid())
             axis->setMax(to);
         axis->setTitleText(shown(description.label()));
-        axis->setTitleFont(fontOf(14));
+        axis->setTitleFont(nChart::font(14));
         axis->setTitleBrush(QColor::fromRgba(textColour));
-        axis->setLabelsFont(fontOf(13));
+        axis->setLabelsFont(nChart::font(13));
         axis->setLabelsColor(QColor::fromRgba(textColour));
         axis->setLinePen(QPen(QColor::fromRgba(axisColour), 1.0));
         axis->setGridLinePen(QPen(QColor::fromRgba(gridColour), 1.0));
@@ -275,7 +265,7 @@ private:
         legend.setVisible(m_figure.curves.size() > 1);
         legend.setAlignment(Qt::AlignBottom);
         legend.setMarkerShape(QLegend::MarkerShapeFromSeries);
-        legend.setFont(fontOf(13));
+        legend.setFont(nChart::font(13));
         legend.setLabelColor(QColor::fromRgba(textColour));
     }
 
@@ -285,6 +275,15 @@ private:
 };
 
 } // namespace
+
+QFont nChart::font(int pixels, bool isBold)
+{
+    // The later families are for who shows an SVG elsewhere; their letters are about as wide.
+    QFont font(QStringLiteral("DejaVu Sans,Verdana,sans-serif"));
+    font.setPixelSize(pixels);
+    font.setBold(isBold);
+    return font;
+}
 
 std::unique_ptr<QChart> nChart::make(const Figure& figure)
 {

@@ -2,6 +2,7 @@
 
 #include "figure.h"
 
+#include <QFont>
 #include <QSize>
 #include <QtCharts/QChart>
 
@@ -17,6 +18,9 @@ namespace nChart {
 
 constexpr int smallest = 200; ///< pixels, width and height
 constexpr int largest = 10000;
+
+/// In which all texts of charts are set.
+QFont font(int pixels, bool isBold = false);
 
 /// A chart with titles, units, round ticks and a legend; its colours are told apart by colour-blind people,
 /// and its lines by their dashes in a grey print. The figure must have no fault().

@@ -9,15 +9,18 @@
 
 namespace {
 
-/// The generator opens a group for every state of the painter, most of which draw nothing, and gives the size
-/// in rounded millimetres.
+/// The generator opens a group for every state of the painter, most of which draw nothing, gets a line piece
+/// by piece, and gives the size in rounded millimetres.
 QByteArray tidied(const QByteArray& svg, const QSize& size)
 {
     static const QRegularExpression emptyGroup(QStringLiteral("<g [^>]*>\\s*</g>\\s*"));
+    static const QRegularExpression cut(
+        QStringLiteral("(\\S+) \" />\\s*<polyline fill=\"none\" vector-effect=\"none\" points=\"\\1 "));
     static const QRegularExpression sizeInMillimetres(
         QStringLiteral("width=\"[^\"]*mm\" height=\"[^\"]*mm\""));
     return QString::fromUtf8(svg)
         .remove(emptyGroup)
+        .replace(cut, QStringLiteral("\\1 "))
         .replace(sizeInMillimetres,
                  QStringLiteral("width=\"%1\" height=\"%2\"")
                      .arg(QString::number(size.width()), QString::number(size.height())))

@@ -143,6 +143,7 @@ int main(int argc, char** argv)
     drawWithoutDisplay();
     QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false")); // of a desktop that is not needed
     QApplication application(argc, argv);
+    QApplication::setFont(nChart::font(12)); // a picture is the same whatever fonts its user prefers
     FamilyApplication::describe(QStringLiteral("kdqplot"));
     QTranslator texts;
     if (loadTexts(texts))

@@ -16,6 +16,8 @@ public:
     QString folder() const { return m_folder.path(); }
     QString path(const QString& name) const { return m_folder.filePath(name); }
 
+    /// Another copy of the program.
+    void setProgram(const QString& program) { m_program = program; }
     void setVariable(const QString& name, const QString& value) { m_environment.insert(name, value); }
 
     bool write(const QString& name, const QByteArray& content) const
@@ -48,7 +50,7 @@ public:
         environment.insert(m_environment);
         m_process.setProcessEnvironment(environment);
         m_process.setWorkingDirectory(folder());
-        m_process.start(QStringLiteral(KDQSH_PROGRAM), arguments);
+        m_process.start(m_program, arguments);
         output.clear();
     }
 
@@ -86,6 +88,7 @@ private:
     }
 
     QTemporaryDir m_folder;
+    QString m_program = QStringLiteral(KDQSH_PROGRAM);
     QProcess m_process;
     QProcessEnvironment m_environment;
 };

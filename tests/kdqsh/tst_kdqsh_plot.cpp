@@ -1,0 +1,178 @@
+#include "kdqshrun.h"
+#include "kdqtest.h"
+
+#include <QXmlStreamReader>
+
+/// Pictures from the shell. What they show is tested with the charts.
+class TestKdqshPlot : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+#ifdef KDQPLOT_IS_BUILT
+    void pictures_data();
+    void pictures();
+    void png();
+    void oldPictureStaysUntilTheNewIsComplete();
+#endif
+    void errors_data();
+    void errors();
+    void withoutThePlotter();
+
+private:
+    static bool writeTables(const KdqshRun& shell);
+};
+
+#define S(text) QStringLiteral(text)
+
+namespace {
+
+QStringList texts(const QByteArray& svg)
+{
+    QStringList texts;
+    QXmlStreamReader reader(svg);
+    while (!reader.atEnd())
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == S("text"))
+            texts.append(reader.readElementText());
+    return reader.hasError() ? QStringList() : texts;
+}
+
+const QString import = S("table import a.csv; table import b.csv; ");
+
+} // namespace
+
+bool TestKdqshPlot::writeTables(const KdqshRun& shell)
+{
+    return shell.write(S("a.csv"),
+                       "time [min];temperature [degC];stress [MPa];width [mm]\n0;20;5;1\n60;900;7;2\n")
+        && shell.write(S("b.csv"), "time [s];temperature [K]\n0;300\n3600;1200\n");
+}
+
+#ifdef KDQPLOT_IS_BUILT
+
+void TestKdqshPlot::pictures_data()
+{
+    QTest::addColumn<QString>("commands");
+    QTest::addColumn<QStringList>("shown");
+    QTest::newRow("tables") << S("plot table a b to p.svg columns x,temperature xunit h title 'Two furnaces'")
+                            << QStringList{S("Two furnaces"), S("time [h]"), S("temperature [°C]"), S("a"),
+                                           S("b")};
+    QTest::newRow("two axes") << S("plot table a to p.svg columns 1,2,4 yunit m,K steps ytitle Furnace")
+                              << QStringList{S("a"), S("Furnace [K]"), S("width [m]")};
+    QTest::newRow("range") << S("plot table b to p.svg points xrange 0 7200 yrange 0 2000 size 400x300")
+                           << QStringList{S("7000"), S("2000")};
+    QTest::newRow("formulas") << S(
+        "parameter define square = x*x; plot formula square '1/x' over x from 0 to 4 to p.svg "
+        "yrange 0 16 xunit s xtitle Time")
+                              << QStringList{S("square"), S("1/x"), S("Time [s]"), S("15")};
+    QTest::newRow("logarithmic") << S("plot formula x^2 over x from 0.01 to 100 to p.svg logx logy")
+                                 << QStringList{S("x^2"), S("0.01"), S("10000")};
+    QTest::newRow("process") << S("heat new casehardening as g; plot heat g to p.svg yunit K,kg/kg xunit min")
+                             << QStringList{S("g"),
+                                            S("Time [min]"),
+                                            S("Temperature [K]"),
+                                            S("Carbon potential [kg/kg]"),
+                                            S("Diffusion"),
+                                            S("Quenching in oil")};
+    QTest::newRow("curve of a process")
+        << S("heat new stressrelief as g; heat curve g as t picture p.svg; table info t")
+        << QStringList{S("Temperature [°C]"), S("Heating")};
+}
+
+void TestKdqshPlot::pictures()
+{
+    QFETCH(QString, commands);
+    QFETCH(QStringList, shown);
+    KdqshRun shell;
+    shell.setVariable(S("LC_ALL"), S("C"));
+    QVERIFY(writeTables(shell));
+    QVERIFY(shell.runCommands(import + commands, {S("-q")}));
+    QCOMPARE(shell.errors, QString());
+    const QByteArray first = shell.read(S("p.svg"));
+    const QStringList found = texts(first);
+    for (const QString& text : qAsConst(shown))
+        QVERIFY2(found.contains(text), qPrintable(text + S(" is not in ") + found.join(S(" / "))));
+    QVERIFY(shell.runCommands(import + commands, {S("-q")}));
+    QVERIFY2(shell.read(S("p.svg")) == first, "the same commands draw the same bytes");
+}
+
+void TestKdqshPlot::png()
+{
+    KdqshRun shell;
+    QVERIFY(writeTables(shell));
+    QVERIFY(shell.runCommands(import + S("plot table b to 'my picture.PNG' size 320x240; undo")));
+    QVERIFY2(shell.output.contains(S("Picture 'my picture.PNG' drawn.\n")), qPrintable(shell.output));
+    const QByteArray bytes = shell.read(S("my picture.PNG"));
+    QVERIFY(bytes.startsWith("\x89PNG"));
+    QCOMPARE(bytes.mid(16, 8), QByteArray::fromHex("00000140000000f0"));
+}
+
+void TestKdqshPlot::oldPictureStaysUntilTheNewIsComplete()
+{
+    KdqshRun shell;
+    QVERIFY(writeTables(shell) && shell.write(S("p.svg"), "old"));
+    QVERIFY(shell.runCommands(import + S("plot table b to p.svg size 10x10")));
+    QCOMPARE(shell.errors, S("-c:1: plot table: A picture has 200 to 10000 pixels each way, not 10 x 10.\n"));
+    QCOMPARE(shell.read(S("p.svg")), QByteArray("old"));
+    QCOMPARE(QDir(shell.folder()).entryList({S("p.svg*")}, QDir::Files), QStringList{S("p.svg")});
+    QVERIFY(shell.runCommands(import + S("plot table b to none/p.svg")));
+    QVERIFY2(shell.errors.startsWith(S("-c:1: plot table: 'none/p.svg' cannot be written: ")),
+             qPrintable(shell.errors));
+}
+
+#endif
+
+void TestKdqshPlot::errors_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("no file") << S("plot table a b c") << S("The picture is missing: to FILE");
+    QTest::newRow("other ending") << S("plot table a to p.pdf") << S("ends in .svg or .png");
+    QTest::newRow("no table") << S("plot table c to p.svg") << S("There is no table 'c'");
+    QTest::newRow("three quantities") << S("plot table a to p.svg") << S("choose columns");
+    QTest::newRow("one column") << S("plot table a to p.svg columns 2") << S("'columns' needs");
+    QTest::newRow("no column") << S("plot table a to p.svg columns 1,9") << S("Table 'a' has no column '9'");
+    QTest::newRow("both forms") << S("plot table b to p.svg steps points") << S("exclude each other");
+    QTest::newRow("no unit") << S("plot formula x over x from 0 to 1 to p.svg xunit elephants")
+                             << S("'elephants' is no unit.");
+    QTest::newRow("no variable") << S("plot formula x from 0 to 1 to p.svg logx") << S("over NAME");
+    QTest::newRow("unknown name") << S("plot formula x+k over x from 0 to 1 to p.svg") << S("variable(s): k");
+    QTest::newRow("no end") << S("plot formula x over x from 0 to p.svg logx logy") << S("from A to B");
+    QTest::newRow("no values") << S("plot formula 'ln(0*x)' over x from 0 to 1 to p.svg") << S("ln(");
+    QTest::newRow("gaps only") << S("plot formula -1-x over x from 0 to 1 to p.svg logy")
+                               << S("nothing to draw");
+    QTest::newRow("two processes") << S("plot heat g h to p.svg") << S("One process");
+    QTest::newRow("no process") << S("plot heat g to p.svg") << S("There is no process 'g'");
+    QTest::newRow("curve") << S("heat curve g as t image p.svg") << S("'g'");
+}
+
+void TestKdqshPlot::errors()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, error);
+    KdqshRun shell;
+    QVERIFY(writeTables(shell));
+    QVERIFY(shell.runCommands(import + command, {S("-q")}));
+    QVERIFY2(shell.errors.contains(error), qPrintable(shell.errors));
+    QCOMPARE(shell.status, 1);
+    QVERIFY(shell.read(S("p.svg")).isEmpty());
+}
+
+/// As it is where the build had no Qt Charts.
+void TestKdqshPlot::withoutThePlotter()
+{
+    KdqshRun shell;
+    QVERIFY(writeTables(shell));
+#ifdef KDQPLOT_IS_BUILT
+    const QString alone = shell.path(QFileInfo(S(KDQSH_PROGRAM)).fileName());
+    QVERIFY(QFile::copy(S(KDQSH_PROGRAM), alone));
+    shell.setProgram(alone);
+    shell.setVariable(S("PATH"), shell.folder());
+#endif
+    QVERIFY(shell.runCommands(import + S("plot table b to p.svg")));
+    QVERIFY2(
+        shell.errors.startsWith(S("-c:1: plot table: No pictures can be drawn here: the program 'kdqplot'")),
+        qPrintable(shell.errors));
+}
+
+KDQ_TEST_MAIN(TestKdqshPlot)
+#include "tst_kdqsh_plot.moc"
