@@ -7,6 +7,8 @@
 #include <kdQCore/streamReporter>
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QStandardPaths>
 #include <QTextStream>
 
 /// What the commands work on. In a larger application this is the open project.
@@ -67,8 +69,17 @@ void work(QTextStream& out)
     dispatcher.execute("scale much");
 }
 
+/// The debug log lies below LOCALAPPDATA. Windows sets that variable; elsewhere the application does.
+void chooseDataFolder()
+{
+    if (qEnvironmentVariableIsEmpty("LOCALAPPDATA"))
+        qputenv("LOCALAPPDATA",
+                QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)));
+}
+
 int main(int argc, char** argv)
 {
+    chooseDataFolder();
     QCoreApplication application(argc, argv);
     kdDebugLog::createInstance(argc, argv, false);
     coProductInformation::registerProduct(coProductType::welding(), coVersionNumber(2018, 1, 0, 345));
