@@ -10,8 +10,8 @@ In a Markdown file, a comment alone on the line before a fenced block says what 
                                                  "// ..." stands for lines left out
   <!-- run -->                                   a session at a shell: commands behind "% ", and what they print
 
-excerpts compares every block of the first kind, and follows the links between the pages. On the pages named below, each
-C++ and CMake block must be of this kind.
+excerpts compares every block of the first kind, of which every C++ and CMake block must be, and follows the links
+between the pages.
 sessions runs the blocks of the second kind against the package installed in PREFIX, page by page, each page in one
 shell and in a folder of its own that holds a copy of examples/. A block that is a whole file is written there before
 what comes after it is run, as a reader would. Where the output varies, "..." on a line of its own stands for any
@@ -24,7 +24,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-ALL_COMPILED = ("docs/tutorial.md", "docs/howto/", "README.md")
+ALL_COMPILED = ("docs/", "README.md")
 BUILT_FIRST = "docs/howto/README.md"  # the other pages use the programs that this one builds
 BLOCK = re.compile(r"(?:^<!-- (?P<marker>.*?) -->\n)?^```(?P<kind>\w*)\n(?P<text>.*?)^```$", re.M | re.S)
 END = "==end-of-command=="
