@@ -150,6 +150,12 @@ public:
             m_socket.state();
     }
 
+    void askTheWorker()
+    {
+        for (int i = 0; i < roundTrips; ++i)
+            m_socket.peerPort();
+    }
+
 private:
     coTcpSocket m_socket;
 };
@@ -255,6 +261,7 @@ bool compareRoundTrips(Duel::Time time)
     duel.add("coTcpSocket on one side", [&half] { half.run(); });
     duel.add("coTcpSocket on both sides", [&both] { both.run(); });
     duel.add("an empty call: coTcpSocket::state()", [&half] { half.askState(); });
+    duel.add("one that the worker answers: peerPort()", [&half] { half.askTheWorker(); });
     duel.add("mutex and condition, there and back", [&handOver] { handOver.run(); });
     duel.run(15);
     return time != Duel::OfWaiting

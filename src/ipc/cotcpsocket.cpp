@@ -38,6 +38,8 @@ struct coTcpSocket::Private {
     /// sleeping is the exchange's, with a plain mutex of its own.
     std::recursive_mutex turns;
     SocketExchange exchange;
+    SocketInbox inbox{[this] { askForMore(); }};
+    SocketOutlet outlet;
     WorkerThread worker{exchange};
     ThreadedSocketWrapper* wrapper = nullptr; ///< lives in the worker, which deletes it
     qint32 sessionId = -1;
@@ -47,6 +49,13 @@ struct coTcpSocket::Private {
     QString errorString;
 
     bool isInWorker() const { return QThread::currentThread() == &worker; }
+
+    void askForMore()
+    {
+        exchange.tell([this] {
+            QMetaObject::invokeMethod(wrapper, &ThreadedSocketWrapper::receive, Qt::QueuedConnection);
+        });
+    }
 };
 
 /// The right of a call to run. It is granted to one thread at a time, and not at all in the worker thread,
@@ -79,7 +88,7 @@ private:
 coTcpSocket::coTcpSocket(QObject* parent) : QObject(parent), d(std::make_unique<Private>())
 {
     std::srand(static_cast<unsigned>(std::time(nullptr)));
-    d->wrapper = new ThreadedSocketWrapper(*this, d->exchange);
+    d->wrapper = new ThreadedSocketWrapper(*this, d->exchange, d->inbox, d->outlet);
     connectOperations();
     d->worker.setObjectName(QStringLiteral("coTcpSocket"));
     d->worker.start();
@@ -88,6 +97,7 @@ coTcpSocket::coTcpSocket(QObject* parent) : QObject(parent), d(std::make_unique<
 
 coTcpSocket::~coTcpSocket()
 {
+    d->inbox.close();
     d->exchange.close();
     d->wrapper->deleteLater();
     d->worker.quit();
@@ -105,40 +115,33 @@ void coTcpSocket::connectOperations()
     hand(&coTcpSocket::op_disconnectFromHost, &Wrapper::disconnectFromHost);
     hand(&coTcpSocket::op_disconnectFromHostBlocking, &Wrapper::disconnectFromHostBlocking);
     hand(&coTcpSocket::op_writeBlocking, &Wrapper::writeBlocking);
-    hand(&coTcpSocket::op_readBlocking, &Wrapper::readBlocking);
-    hand(&coTcpSocket::op_readLineBlocking, &Wrapper::readLineBlocking);
-    hand(&coTcpSocket::op_state, &Wrapper::state);
     hand(&coTcpSocket::op_setSocketDescriptor, &Wrapper::setSocketDescriptor);
     hand(&coTcpSocket::op_close, &Wrapper::close);
-    hand(&coTcpSocket::op_bytesAvailable, &Wrapper::bytesAvailable);
-    hand(&coTcpSocket::op_canReadLine, &Wrapper::canReadLine);
     hand(&coTcpSocket::op_peerName, &Wrapper::peerName);
     hand(&coTcpSocket::op_peerPort, &Wrapper::peerPort);
     hand(&coTcpSocket::op_peerAddress, &Wrapper::peerAddress);
 }
 
-template <typename Post>
-SocketReply coTcpSocket::handOver(const Post& post)
+/// \a call gives a reply, or nothing where the destructor ended it.
+template <typename Call>
+SocketReply coTcpSocket::outcome(const Turn& turn, const Call& call) const
 {
-    const Turn turn(*d);
     std::optional<SocketReply> reply;
     if (turn.isGranted())
-        reply = d->exchange.call(post);
+        reply = call();
     if (reply)
         return *std::move(reply);
-    SocketReply refused;
-    refused.errorCode = QAbstractSocket::OperationError;
-    refused.errorString = d->isInWorker() ? tr("The socket's own thread cannot wait for the socket.")
-                                          : tr("The socket is being destroyed.");
-    return refused;
+    return SocketReply::failed(QAbstractSocket::OperationError,
+                               d->isInWorker() ? tr("The socket's own thread cannot wait for the socket.")
+                                               : tr("The socket is being destroyed."));
 }
 
-/// A hand-over whose outcome becomes the last error.
-template <typename Post>
-SocketReply coTcpSocket::request(const Post& post)
+/// Makes a call, whose outcome becomes the last error.
+template <typename Call>
+SocketReply coTcpSocket::perform(const Call& call)
 {
     const Turn turn(*d);
-    SocketReply reply = handOver(post);
+    SocketReply reply = outcome(turn, call);
     if (reply.success)
         clearError();
     else
@@ -146,14 +149,24 @@ SocketReply coTcpSocket::request(const Post& post)
     return reply;
 }
 
+/// The same for what the worker has to do.
+template <typename Post>
+SocketReply coTcpSocket::request(const Post& post)
+{
+    return perform([&] { return d->exchange.call(post); });
+}
+
 bool coTcpSocket::connectToHost(const QHostAddress& address, quint16 port)
 {
     const Turn turn(*d);
-    // Not through state() and disconnectFromHost(), which would take the last error away.
-    if (handOver([this] { Q_EMIT op_state(); }).result != QAbstractSocket::UnconnectedState)
-        handOver([this] { Q_EMIT op_disconnectFromHost(); });
     const QString text = address.toString();
-    const SocketReply reply = handOver([&] { Q_EMIT op_connectToHost(text, port, QIODevice::ReadWrite); });
+    const auto connect = [&] {
+        // Not through state() and disconnectFromHost(), which would take the last error away.
+        if (d->inbox.state() != QAbstractSocket::UnconnectedState)
+            d->exchange.call([&] { Q_EMIT op_disconnectFromHost(); });
+        return d->exchange.call([&] { Q_EMIT op_connectToHost(text, port, QIODevice::ReadWrite); });
+    };
+    const SocketReply reply = outcome(turn, connect);
     if (reply.success) {
         clearError();
         return true;
@@ -201,17 +214,29 @@ bool coTcpSocket::setSocketDescriptor(qint64 descriptor, QAbstractSocket::Socket
 
 QAbstractSocket::SocketState coTcpSocket::state()
 {
-    return QAbstractSocket::SocketState(request([this] { Q_EMIT op_state(); }).result.toInt());
+    const SocketReply reply = perform([this] {
+        Q_EMIT op_state();
+        return SocketReply::done(d->inbox.state());
+    });
+    return QAbstractSocket::SocketState(reply.result.toInt());
 }
 
 qint64 coTcpSocket::bytesAvailable()
 {
-    return request([this] { Q_EMIT op_bytesAvailable(); }).result.toLongLong();
+    const SocketReply reply = perform([this] {
+        Q_EMIT op_bytesAvailable();
+        return SocketReply::done(d->inbox.size());
+    });
+    return reply.result.toLongLong();
 }
 
 bool coTcpSocket::canReadLine()
 {
-    return request([this] { Q_EMIT op_canReadLine(); }).result.toBool();
+    const SocketReply reply = perform([this] {
+        Q_EMIT op_canReadLine();
+        return SocketReply::done(d->inbox.hasLine());
+    });
+    return reply.result.toBool();
 }
 
 QString coTcpSocket::peerName()
@@ -231,18 +256,38 @@ QHostAddress coTcpSocket::peerAddress()
 
 bool coTcpSocket::writeBlocking(const QByteArray& bytes)
 {
-    return request([&] { Q_EMIT op_writeBlocking(bytes); }).success;
+    const auto write = [&]() -> std::optional<SocketReply> {
+        const int sent = sendAtOnce(bytes);
+        if (sent == bytes.size())
+            return SocketReply::done();
+        return d->exchange.call([&] { Q_EMIT op_writeBlocking(bytes.mid(sent)); });
+    };
+    return perform(write).success;
+}
+
+/// Who listens to bytesWritten() hears of it in its order with the other signals, as the worker tells them.
+int coTcpSocket::sendAtOnce(const QByteArray& bytes) const
+{
+    static const QMetaMethod written = QMetaMethod::fromSignal(&coTcpSocket::bytesWritten);
+    return bytes.isEmpty() || isSignalConnected(written) ? 0 : d->outlet.send(bytes);
 }
 
 QByteArray coTcpSocket::readBlocking(qint64 maxSize)
 {
-    return request([=] { Q_EMIT op_readBlocking(maxSize); }).data;
+    const auto read = [=] {
+        Q_EMIT op_readBlocking(maxSize);
+        return d->inbox.read(maxSize, d->exchange.timeout());
+    };
+    return perform(read).data;
 }
 
-bool coTcpSocket::readLineBlocking(QString& line)
+bool coTcpSocket::readLineBlocking(QByteArray& line)
 {
-    const SocketReply reply = request([this] { Q_EMIT op_readLineBlocking(); });
-    line = QString::fromLatin1(reply.data.constData(), reply.data.size());
+    const SocketReply reply = perform([this] {
+        Q_EMIT op_readLineBlocking();
+        return d->inbox.readLine(d->exchange.timeout());
+    });
+    line = reply.data;
     return reply.success;
 }
 
@@ -298,11 +343,11 @@ bool coTcpSocket::readSignedLine(QString& line)
 
 bool coTcpSocket::readPayload(QString& line)
 {
-    QString received;
+    QByteArray received;
     if (!readLineBlocking(received))
         return false;
     coSocketMessage message;
-    if (!message.decode(received.toLatin1()))
+    if (!message.decode(received))
         return setError(-1, message.errorString());
     if (d->sessionId == -1)
         d->sessionId = message.sessionId();

@@ -27,9 +27,11 @@ struct SocketReply;
 /// The serving side accepts with QTcpServer::incomingConnection() and hands the descriptor to
 /// setSocketDescriptor().
 ///
-/// Each object owns a worker thread in which the real socket lives; a call is handed to it, and the caller
-/// sleeps until it is done, has failed or has run into the timeout. An event loop is not needed. Who has one
-/// may listen to the signals as well: those of the socket come in the thread in which the coTcpSocket lives.
+/// Each object owns a worker thread in which the real socket lives. It receives ahead of the callers, who
+/// take what is there or sleep until it has come; connecting and the like is handed to it. A call writes what
+/// the system takes at once by itself, except on Windows, and leaves the rest to the worker. An event loop is
+/// not needed. Who has one may listen to the signals as well: those of the socket come in the thread in which
+/// the coTcpSocket lives. Where bytesWritten() has a listener, the worker writes everything.
 ///
 /// Thread-safe: one call runs at a time, others wait for their turn. Two threads that each send and then read
 /// share one stream of lines, so a reply belongs to whoever reads first; keep such pairs together with a
@@ -109,7 +111,8 @@ Q_SIGNALS:
     /// A failed connectToHost() or readSignedLine(), in the thread that called it. \a code as error().
     void signalError(int code, const QString& text);
 
-    // The way into the worker thread; not for others.
+    // Each tells that a request begins and, unless it only reads or asks what has been received already,
+    // takes it into the worker thread; a write that needs no worker is not told. Not for others.
     void op_connectToHost(const QString& address, quint16 port, int openMode);
     void op_disconnectFromHost();
     void op_disconnectFromHostBlocking();
@@ -130,11 +133,14 @@ private:
     class Turn;
 
     void connectOperations();
-    template <typename Post>
-    SocketReply handOver(const Post& post);
+    template <typename Call>
+    SocketReply outcome(const Turn& turn, const Call& call) const;
+    template <typename Call>
+    SocketReply perform(const Call& call);
     template <typename Post>
     SocketReply request(const Post& post);
-    bool readLineBlocking(QString& line);
+    int sendAtOnce(const QByteArray& bytes) const;
+    bool readLineBlocking(QByteArray& line);
     bool readPayload(QString& line);
     int sessionId();
     bool encode(const QStringList& lines, QByteArray& bytes);

@@ -1,14 +1,26 @@
+#include "cotcpsocket.h"
 #include "socketexchange_p.h"
 
-#include <chrono>
-#include <thread>
+SocketReply SocketReply::done(const QVariant& result)
+{
+    SocketReply reply;
+    reply.success = true;
+    reply.result = result;
+    return reply;
+}
 
-namespace {
+SocketReply SocketReply::failed(int errorCode, const QString& errorString)
+{
+    SocketReply reply;
+    reply.errorCode = errorCode;
+    reply.errorString = errorString;
+    return reply;
+}
 
-// About one wake-up of a thread: a caller that goes on takes less from a reply to its next request.
-constexpr std::chrono::microseconds moment{15};
-
-} // namespace
+SocketReply SocketReply::timedOut()
+{
+    return failed(QAbstractSocket::SocketTimeoutError, coTcpSocket::tr("Operation timed out."));
+}
 
 bool SocketExchange::enter()
 {
@@ -35,23 +47,13 @@ void SocketExchange::close()
     m_condition.wait(lock, [this] { return m_callers == 0; });
 }
 
-void SocketExchange::reply(SocketReply&& reply, Next next)
+void SocketExchange::reply(SocketReply&& reply)
 {
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_reply = std::move(reply);
-        m_isPosted.store(false, std::memory_order_relaxed);
     }
     m_condition.notify_all();
-    if (next == Soon)
-        awaitNextRequest();
-}
-
-void SocketExchange::awaitNextRequest() const
-{
-    const auto end = std::chrono::steady_clock::now() + moment;
-    while (!m_isPosted.load(std::memory_order_relaxed) && std::chrono::steady_clock::now() < end)
-        std::this_thread::yield();
 }
 
 int SocketExchange::timeout() const

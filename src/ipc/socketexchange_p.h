@@ -4,26 +4,27 @@
 #include <QString>
 #include <QVariant>
 
-#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
 
-/// What the worker thread of a coTcpSocket answers to a request.
+/// What a request to a coTcpSocket comes to.
 struct SocketReply {
     bool success = false;
     int errorCode = -1; ///< a QAbstractSocket::SocketError
     QString errorString;
     QByteArray data;
     QVariant result;
+
+    static SocketReply done(const QVariant& result = QVariant());
+    static SocketReply failed(int errorCode, const QString& errorString);
+    static SocketReply timedOut();
 };
 
 /// The hand-over of one request at a time from a caller to the worker thread and of the reply back.
 class SocketExchange {
 public:
     static constexpr int defaultTimeout = 60000; // ms
-
-    enum Next { Soon, Later };
 
     /// Counts a caller in; false once close() was called.
     bool enter();
@@ -38,15 +39,21 @@ public:
     {
         std::unique_lock<std::mutex> lock(m_mutex);
         m_reply.reset();
-        m_isPosted.store(true, std::memory_order_relaxed);
         post();
         m_condition.wait(lock, [this] { return m_reply || m_isClosing; });
         return std::exchange(m_reply, std::nullopt);
     }
 
-    /// Ends the pending call. Where the caller's \a next request is likely to follow at once, it stays for a
-    /// moment: waking this thread up again costs more than the moment does.
-    void reply(SocketReply&& reply, Next next);
+    /// Ends the pending call.
+    void reply(SocketReply&& reply);
+
+    /// Posts what needs no reply.
+    template <typename Post>
+    void tell(const Post& post) const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        post();
+    }
 
     /// Takes and gives the lock. What one thread did before it is seen by the one that passes later; without
     /// it, tools that do not see the locks inside Qt would take these for races.
@@ -56,12 +63,9 @@ public:
     void setTimeout(int milliseconds);
 
 private:
-    void awaitNextRequest() const;
-
     mutable std::mutex m_mutex;
     std::condition_variable m_condition;
     std::optional<SocketReply> m_reply;
-    std::atomic<bool> m_isPosted{false};
     int m_timeout = defaultTimeout;
     int m_callers = 0;
     bool m_isClosing = false;

@@ -5,16 +5,14 @@
 
 namespace {
 
-/// A peer that sends faster than anyone reads must not fill the memory.
-constexpr qint64 readAhead = 16 * 1024 * 1024;
-
-/// Who has written no more than this mostly reads the answer next; who writes more prepares the next block.
-constexpr int longestQuestion = 2100;
+/// What Qt keeps for us while the inbox is full.
+constexpr qint64 chunk = 1024 * 1024;
 
 } // namespace
 
-coTcpSocket::ThreadedSocketWrapper::ThreadedSocketWrapper(coTcpSocket& owner, SocketExchange& exchange)
-    : m_owner(owner), m_exchange(exchange), m_socket(this), m_timer(this)
+coTcpSocket::ThreadedSocketWrapper::ThreadedSocketWrapper(coTcpSocket& owner, SocketExchange& exchange,
+                                                          SocketInbox& inbox, SocketOutlet& outlet)
+    : m_owner(owner), m_exchange(exchange), m_inbox(inbox), m_outlet(outlet), m_socket(this), m_timer(this)
 {
     m_socket.setProxy(QNetworkProxy(QNetworkProxy::NoProxy));
     m_timer.setSingleShot(true);
@@ -23,11 +21,18 @@ coTcpSocket::ThreadedSocketWrapper::ThreadedSocketWrapper(coTcpSocket& owner, So
     using Self = ThreadedSocketWrapper;
     connect(&m_socket, &QTcpSocket::connected, this, &Self::onConnected);
     connect(&m_socket, &QTcpSocket::disconnected, this, &Self::onDisconnected);
-    connect(&m_socket, &QTcpSocket::readyRead, this, &Self::onReadyRead);
+    connect(&m_socket, &QTcpSocket::readyRead, this, &Self::receive);
     connect(&m_socket, &QTcpSocket::bytesWritten, this, &Self::onBytesWritten);
     connect(&m_socket, &QTcpSocket::errorOccurred, this, &Self::onError);
+    connect(&m_socket, &QTcpSocket::stateChanged, this, &Self::onStateChanged);
     connect(&m_timer, &QTimer::timeout, this, &Self::onTimeout);
     forwardSignals();
+    publishState();
+}
+
+coTcpSocket::ThreadedSocketWrapper::~ThreadedSocketWrapper()
+{
+    m_socket.abort(); // while there still is someone to take its signals
 }
 
 void coTcpSocket::ThreadedSocketWrapper::forwardSignals()
@@ -71,55 +76,32 @@ bool coTcpSocket::ThreadedSocketWrapper::event(QEvent* event)
     return isTaken;
 }
 
-void coTcpSocket::ThreadedSocketWrapper::begin(e_Operation operation)
-{
-    m_pending = operation;
-    m_next = SocketExchange::Soon;
-    m_reply = SocketReply();
-    m_readSize = -1;
-}
-
-void coTcpSocket::ThreadedSocketWrapper::succeed()
-{
-    m_reply.success = true;
-    end();
-}
-
-void coTcpSocket::ThreadedSocketWrapper::fail(int code, const QString& text)
-{
-    m_reply.errorCode = code;
-    m_reply.errorString = text;
-    end();
-}
-
-void coTcpSocket::ThreadedSocketWrapper::failWithSocketError()
-{
-    if (m_socket.error() == QAbstractSocket::UnknownSocketError && isUnconnected())
-        fail(QAbstractSocket::OperationError, coTcpSocket::tr("The socket is not connected."));
-    else
-        fail(m_socket.error(), m_socket.errorString());
-}
-
-void coTcpSocket::ThreadedSocketWrapper::end()
+void coTcpSocket::ThreadedSocketWrapper::end(SocketReply&& reply)
 {
     m_pending = None;
     m_timer.stop();
-    if (m_socket.isValid()) // Qt would listen to a closed descriptor
-        m_socket.setReadBufferSize(readAhead);
-    m_exchange.reply(std::move(m_reply), m_next);
+    publishState();
+    m_exchange.reply(std::move(reply));
 }
 
 void coTcpSocket::ThreadedSocketWrapper::answer(const QVariant& result)
 {
-    begin(Immediate);
-    m_reply.result = result;
-    succeed();
+    end(SocketReply::done(result));
+}
+
+SocketReply coTcpSocket::ThreadedSocketWrapper::fault() const
+{
+    if (m_socket.error() == QAbstractSocket::UnknownSocketError && isUnconnected())
+        return SocketReply::failed(QAbstractSocket::OperationError,
+                                   coTcpSocket::tr("The socket is not connected."));
+    return SocketReply::failed(m_socket.error(), m_socket.errorString());
 }
 
 void coTcpSocket::ThreadedSocketWrapper::connectToHost(const QString& address, quint16 port, int openMode)
 {
     m_socket.abort(); // an earlier attempt, or a connection that cannot write its last bytes
-    begin(Connect);
+    m_inbox.clear();
+    m_pending = Connect;
     m_socket.connectToHost(address, port, QIODevice::OpenMode(openMode));
 }
 
@@ -131,63 +113,34 @@ void coTcpSocket::ThreadedSocketWrapper::disconnectFromHost()
 
 void coTcpSocket::ThreadedSocketWrapper::disconnectFromHostBlocking()
 {
-    begin(BlockingDisconnect);
+    m_pending = BlockingDisconnect;
     leaveHost();
     if (m_pending != None && isUnconnected())
-        succeed();
+        end();
 }
 
 void coTcpSocket::ThreadedSocketWrapper::writeBlocking(const QByteArray& bytes)
 {
-    begin(Write);
-    if (bytes.isEmpty())
-        return succeed();
-    if (bytes.size() > longestQuestion)
-        m_next = SocketExchange::Later;
+    m_pending = Write;
     if (isUnconnected() || m_socket.write(bytes) < bytes.size())
-        return failWithSocketError();
+        return end(fault());
     m_socket.flush();
+    if (m_socket.bytesToWrite() > 0)
+        m_outlet.close();
     onBytesWritten();
-}
-
-void coTcpSocket::ThreadedSocketWrapper::readBlocking(qint64 maxSize)
-{
-    begin(Read);
-    m_readSize = maxSize;
-    takeBytes();
-    if (!m_reply.data.isEmpty())
-        succeed();
-    else if (isUnconnected())
-        failWithSocketError();
-}
-
-void coTcpSocket::ThreadedSocketWrapper::readLineBlocking()
-{
-    begin(ReadLine);
-    takeLine();
-    if (m_pending == None)
-        return;
-    if (isUnconnected())
-        failWithSocketError();
-    else
-        m_socket.setReadBufferSize(0);
-}
-
-void coTcpSocket::ThreadedSocketWrapper::state()
-{
-    answer(int(m_socket.state()));
 }
 
 void coTcpSocket::ThreadedSocketWrapper::setSocketDescriptor(qint64 descriptor, int state, int openMode)
 {
     m_socket.abort();
     m_socket.close(); // drops what was not read
-    begin(Immediate);
+    m_inbox.clear();
+    m_pending = Immediate;
     if (!m_socket.setSocketDescriptor(descriptor, QAbstractSocket::SocketState(state),
                                       QIODevice::OpenMode(openMode)))
-        return fail(m_socket.error(), m_socket.errorString());
+        return end(SocketReply::failed(m_socket.error(), m_socket.errorString()));
     prepareConnection();
-    succeed();
+    end();
 }
 
 void coTcpSocket::ThreadedSocketWrapper::close()
@@ -195,17 +148,8 @@ void coTcpSocket::ThreadedSocketWrapper::close()
     if (isConnecting())
         m_socket.abort();
     m_socket.close();
+    m_inbox.clear();
     answer();
-}
-
-void coTcpSocket::ThreadedSocketWrapper::bytesAvailable()
-{
-    answer(m_socket.bytesAvailable());
-}
-
-void coTcpSocket::ThreadedSocketWrapper::canReadLine()
-{
-    answer(m_socket.canReadLine());
 }
 
 void coTcpSocket::ThreadedSocketWrapper::peerName()
@@ -223,51 +167,73 @@ void coTcpSocket::ThreadedSocketWrapper::peerAddress()
     answer(m_socket.peerAddress().toString());
 }
 
+void coTcpSocket::ThreadedSocketWrapper::receive()
+{
+    if (!m_socket.isReadable())
+        return;
+    const qint64 available = m_socket.bytesAvailable();
+    const qint64 count = qMin(available, m_inbox.room());
+    m_inbox.put(m_socket.read(count), count < available);
+}
+
 void coTcpSocket::ThreadedSocketWrapper::onConnected()
 {
     prepareConnection();
     if (m_pending == Connect)
-        succeed();
+        end();
 }
 
 void coTcpSocket::ThreadedSocketWrapper::onDisconnected()
 {
     if (m_pending == BlockingDisconnect)
-        succeed();
-}
-
-void coTcpSocket::ThreadedSocketWrapper::onReadyRead()
-{
-    if (m_pending == ReadLine)
-        takeLine();
-    if (m_pending != Read)
-        return;
-    takeBytes();
-    succeed();
+        end();
 }
 
 void coTcpSocket::ThreadedSocketWrapper::onBytesWritten()
 {
-    if (m_pending == Write && m_socket.bytesToWrite() == 0)
-        succeed();
+    if (m_socket.bytesToWrite() > 0)
+        return;
+    openOutlet();
+    if (m_pending == Write)
+        end();
 }
 
 void coTcpSocket::ThreadedSocketWrapper::onError(QAbstractSocket::SocketError code)
 {
     if (m_pending >= Connect)
-        fail(code, m_socket.errorString());
+        end(SocketReply::failed(code, m_socket.errorString()));
+}
+
+/// The outlet is closed in the same step as Qt's descriptor: the peer sees the end when both are.
+void coTcpSocket::ThreadedSocketWrapper::onStateChanged(QAbstractSocket::SocketState state)
+{
+    if (state != QAbstractSocket::ConnectedState)
+        m_outlet.close();
+    publishState();
 }
 
 void coTcpSocket::ThreadedSocketWrapper::onTimeout()
 {
     if (m_pending != None)
-        fail(QAbstractSocket::SocketTimeoutError, coTcpSocket::tr("Operation timed out."));
+        end(SocketReply::timedOut());
 }
 
 void coTcpSocket::ThreadedSocketWrapper::prepareConnection()
 {
     m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    m_socket.setReadBufferSize(readAhead);
+    m_socket.setReadBufferSize(chunk);
+    openOutlet();
+}
+
+void coTcpSocket::ThreadedSocketWrapper::openOutlet()
+{
+    if (m_socket.state() == QAbstractSocket::ConnectedState && m_socket.isWritable())
+        m_outlet.open(m_socket.socketDescriptor());
+}
+
+void coTcpSocket::ThreadedSocketWrapper::publishState()
+{
+    m_inbox.setState(m_socket.state(), fault());
 }
 
 bool coTcpSocket::ThreadedSocketWrapper::isUnconnected() const
@@ -288,19 +254,4 @@ void coTcpSocket::ThreadedSocketWrapper::leaveHost()
         m_socket.abort();
     else
         m_socket.disconnectFromHost();
-}
-
-void coTcpSocket::ThreadedSocketWrapper::takeBytes()
-{
-    const qint64 available = m_socket.bytesAvailable();
-    if (available > 0)
-        m_reply.data = m_socket.read(m_readSize > 0 ? qMin(m_readSize, available) : available);
-}
-
-void coTcpSocket::ThreadedSocketWrapper::takeLine()
-{
-    if (!m_socket.canReadLine())
-        return;
-    m_reply.data = m_socket.readLine();
-    succeed();
 }

@@ -192,4 +192,28 @@ private:
     unsigned long m_errorCode = 0;
 };
 
+/// A second descriptor of a connected socket. With it one thread may send while another owns the socket and
+/// closes it whenever it likes: the number stays this object's own and is not given to another connection.
+/// For the peer the connection ends when both are closed.
+///
+/// POSIX systems only. On Windows a duplicate shares what the socket's owner set for its own waiting and its
+/// own notifications, and nothing promises that sending on it never waits; open() returns false there.
+class SocketTwin {
+public:
+    SocketTwin() = default;
+    ~SocketTwin() { close(); }
+    Q_DISABLE_COPY(SocketTwin)
+
+    /// Replaces the descriptor that it had. False where the system gives none.
+    bool open(qintptr socket);
+    bool isOpen() const { return m_descriptor != -1; }
+    void close();
+    /// Sends what the system takes without waiting and returns its size: 0 where it takes nothing, and after
+    /// an error.
+    int send(const char* bytes, int count) const;
+
+private:
+    qintptr m_descriptor = -1;
+};
+
 } // namespace nPlatform

@@ -14,9 +14,11 @@
 #include <pwd.h>
 #include <sys/ioctl.h>
 #include <sys/mman.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/utsname.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace nPlatform {
@@ -473,6 +475,27 @@ MappedFile::~MappedFile()
 {
     if (m_data)
         munmap(const_cast<uchar*>(m_data), static_cast<size_t>(m_size));
+}
+
+bool SocketTwin::open(qintptr socket)
+{
+    close();
+    m_descriptor = fcntl(int(socket), F_DUPFD_CLOEXEC, 0);
+    return isOpen();
+}
+
+void SocketTwin::close()
+{
+    if (isOpen())
+        ::close(int(std::exchange(m_descriptor, -1)));
+}
+
+int SocketTwin::send(const char* bytes, int count) const
+{
+    if (!isOpen())
+        return 0;
+    return int(
+        qMax<ssize_t>(0, ::send(int(m_descriptor), bytes, size_t(count), MSG_NOSIGNAL | MSG_DONTWAIT)));
 }
 
 } // namespace nPlatform

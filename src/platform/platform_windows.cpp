@@ -519,4 +519,16 @@ MappedFile::~MappedFile()
         UnmapViewOfFile(m_data);
 }
 
+bool SocketTwin::open(qintptr)
+{
+    return false;
+}
+
+void SocketTwin::close() { }
+
+int SocketTwin::send(const char*, int) const
+{
+    return 0;
+}
+
 } // namespace nPlatform
