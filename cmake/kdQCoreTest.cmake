@@ -1,7 +1,9 @@
-# kdqcore_test(<file.cpp> [LAYERS <folder>...] [LIBRARIES <target>...] [LABELS <label>...] [TIMEOUT <s>])
+# kdqcore_test(<file.cpp> [LAYERS <folder>...] [LIBRARIES <target>...] [LABELS <label>...] [TIMEOUT <s>]
+#              [LAUNCHER <command>...])
 #
 # One Qt Test executable, named as the file; its CTest label is its folder. LAYERS opens the private headers of
 # these folders: such a test links the whole library statically, since the shared one does not export internals.
+# LAUNCHER stands before the test's command.
 
 set(kdqcore_locale_dir ${CMAKE_BINARY_DIR}/locale)
 find_program(LOCALEDEF localedef)
@@ -13,7 +15,7 @@ if(LOCALEDEF AND NOT EXISTS ${kdqcore_locale_dir}/de_DE.UTF-8)
 endif()
 
 function(kdqcore_test source)
-    cmake_parse_arguments(TEST "" "TIMEOUT" "LAYERS;LIBRARIES;LABELS" ${ARGN})
+    cmake_parse_arguments(TEST "" "TIMEOUT" "LAYERS;LIBRARIES;LABELS;LAUNCHER" ${ARGN})
     get_filename_component(name ${source} NAME_WE)
     get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
     if(NOT TEST_TIMEOUT)
@@ -32,7 +34,11 @@ function(kdqcore_test source)
     if(CMAKE_CROSSCOMPILING_EMULATOR)
         set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR ${CMAKE_CROSSCOMPILING_EMULATOR}-test)
     endif()
-    add_test(NAME ${name} COMMAND ${name})
+    if(TEST_LAUNCHER)
+        add_test(NAME ${name} COMMAND ${TEST_LAUNCHER} $<TARGET_FILE:${name}>)
+    else() # a bare target runs through the emulator where there is one
+        add_test(NAME ${name} COMMAND ${name})
+    endif()
     set_tests_properties(${name} PROPERTIES
         LABELS "${folder};${TEST_LABELS}" TIMEOUT ${TEST_TIMEOUT}
         FAIL_REGULAR_EXPRESSION "QWARN  :" # an unexpected warning of Qt is a failure

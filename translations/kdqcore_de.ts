@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>CloseCommand</name>
+    <message>
+        <source>Closes a document. Usage: close DOCUMENT</source>
+        <translation>Schließt ein Dokument. Aufruf: close DOKUMENT</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>close &apos;%1&apos;</source>
+        <translation>„%1“ schließen</translation>
+    </message>
+    <message>
+        <source>No document has the number &apos;%1&apos;.</source>
+        <translation>Kein Dokument hat die Nummer „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>CsvCommands</name>
     <message>
         <source>Tables as commented CSV files for spreadsheets and scripts.</source>
@@ -38,6 +57,13 @@
     <message>
         <source>The settings &apos;%1&apos; cannot be read or written.</source>
         <translation>Die Einstellungen „%1“ lassen sich nicht lesen oder schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>CurveView</name>
+    <message>
+        <source>All curves</source>
+        <translation>Alle Kurven</translation>
     </message>
 </context>
 <context>
@@ -317,6 +343,78 @@
     <message>
         <source>none</source>
         <translation>keine</translation>
+    </message>
+</context>
+<context>
+    <name>DeckDocument</name>
+    <message>
+        <source>deck, options: %1, tables: %2</source>
+        <translation>Deck, Optionen: %1, Tabellen: %2</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>option</source>
+        <translation>Option</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentReader</name>
+    <message>
+        <source>&apos;%1&apos; cannot be read: %2</source>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>it is a folder.</source>
+        <translation>es ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>Reading &apos;%1&apos;</source>
+        <translation>Lese „%1“</translation>
+    </message>
+    <message>
+        <source>Reading &apos;%1&apos; was stopped.</source>
+        <translation>Das Lesen von „%1“ wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is empty.</source>
+        <translation>„%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, line %2: %3</source>
+        <translation>„%1“, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; holds no table.</source>
+        <translation>„%1“ enthält keine Tabelle.</translation>
+    </message>
+</context>
+<context>
+    <name>EditCommand</name>
+    <message>
+        <source>No document has the number &apos;%1&apos;.</source>
+        <translation>Kein Dokument hat die Nummer „%1“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be edited here.</source>
+        <translation>„%1“ kann hier nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number from 1 to %2.</source>
+        <translation>„%1“ ist keine Zahl von 1 bis %2.</translation>
     </message>
 </context>
 <context>
@@ -653,6 +751,49 @@
     </message>
 </context>
 <context>
+    <name>HeatDocument</name>
+    <message>
+        <source>heat treatment, stages: %1</source>
+        <translation>Wärmebehandlung, Stufen: %1</translation>
+    </message>
+    <message>
+        <source>temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>heat transfer</source>
+        <translation>Wärmeübergang</translation>
+    </message>
+    <message>
+        <source>mass transfer</source>
+        <translation>Stoffübergang</translation>
+    </message>
+    <message>
+        <source>carbon potential</source>
+        <translation>Kohlenstoffpegel</translation>
+    </message>
+    <message>
+        <source>Temperature of the process</source>
+        <translation>Temperatur des Prozesses</translation>
+    </message>
+    <message>
+        <source>stage</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>starts</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>duration</source>
+        <translation>Dauer</translation>
+    </message>
+</context>
+<context>
     <name>HeatFile</name>
     <message>
         <source>&apos;%1&apos; names no field of application that is known.</source>
@@ -665,6 +806,17 @@
     <message>
         <source>&apos;%1&apos;, line %2: %3</source>
         <translation>„%1“, Zeile %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>InsertRowCommand</name>
+    <message>
+        <source>Inserts a row before another. Usage: insert DOCUMENT SHEET ROW</source>
+        <translation>Fügt eine Zeile vor einer anderen ein. Aufruf: insert DOKUMENT BLATT ZEILE</translation>
+    </message>
+    <message>
+        <source>insert row</source>
+        <translation>Zeile einfügen</translation>
     </message>
 </context>
 <context>
@@ -825,6 +977,244 @@
     </message>
 </context>
 <context>
+    <name>LogDock</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Content of &apos;%1&apos;</source>
+        <translation>Inhalt von „%1“</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About kdqview</source>
+        <translation>Ü&amp;ber kdqview</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Über &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Tables, heat treatments, decks&lt;/h2&gt;&lt;p&gt;Open a file (%1), or drop files here.&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Tabellen, Wärmebehandlungen, Decks&lt;/h2&gt;&lt;p&gt;Öffnen Sie eine Datei (%1), oder ziehen Sie Dateien hierher.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Open ...</source>
+        <translation>Ö&amp;ffnen ...</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;as ...</source>
+        <translation>Speichern &amp;unter ...</translation>
+    </message>
+    <message>
+        <source>Export &amp;table ...</source>
+        <translation>&amp;Tabelle exportieren ...</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>Export &amp;curve ...</source>
+        <translation>&amp;Kurve exportieren ...</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of the column</source>
+        <translation>E&amp;inheit der Spalte</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Insert row</source>
+        <translation>Zeile &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Append row</source>
+        <translation>Zeile &amp;anhängen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>Zeilen ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>The texts of the language &apos;%1&apos; are missing.</source>
+        <translation>Die Texte der Sprache „%1“ fehlen.</translation>
+    </message>
+    <message>
+        <source>About kdqview</source>
+        <translation>Über kdqview</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;kdqview %1&lt;/h3&gt;&lt;p&gt;Shows and edits tables, heat treatments and decks.&lt;/p&gt;&lt;p&gt;%2&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;kdqview %1&lt;/h3&gt;&lt;p&gt;Zeigt und ändert Tabellen und Wärmebehandlungen, zeigt Decks.&lt;/p&gt;&lt;p&gt;%2&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Tables, heat treatments, decks (*.xml *.csv *.txt *.dat)</source>
+        <translation>Tabellen, Wärmebehandlungen, Decks (*.xml *.csv *.txt *.dat)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Noch keine Dateien</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Another program has changed &apos;%1&apos; in the meantime. Overwrite it?</source>
+        <translation>Ein anderes Programm hat „%1“ inzwischen geändert. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; saved.</source>
+        <translation>„%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has changes that are not saved.</source>
+        <translation>„%1“ hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>Export table</source>
+        <translation>Tabelle exportieren</translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation>XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>Text with all digits (*.txt)</source>
+        <translation>Text mit allen Stellen (*.txt)</translation>
+    </message>
+    <message>
+        <source>For spreadsheets (*.csv)</source>
+        <translation>Für Tabellenkalkulationen (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export curve</source>
+        <translation>Kurve exportieren</translation>
+    </message>
+    <message>
+        <source>Vector graphics (*.svg)</source>
+        <translation>Vektorgrafik (*.svg)</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; written.</source>
+        <translation>„%1“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>NameCommands</name>
     <message>
         <source>Names of objects: what users see, and what is safe in decks and file names.</source>
@@ -853,6 +1243,25 @@
     <message>
         <source>&apos;%1&apos; is no kind of name; possible are display and internal.</source>
         <translation>„%1“ ist keine Art von Namen; möglich sind display und internal.</translation>
+    </message>
+</context>
+<context>
+    <name>OpenCommand</name>
+    <message>
+        <source>Opens a table, a heat treatment or a deck. Usage: open FILE</source>
+        <translation>Öffnet eine Tabelle, eine Wärmebehandlung oder ein Deck. Aufruf: open DATEI</translation>
+    </message>
+    <message>
+        <source>open &apos;%1&apos;</source>
+        <translation>„%1“ öffnen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is open.</source>
+        <translation>„%1“ ist schon offen.</translation>
+    </message>
+    <message>
+        <source>Opened &apos;%1&apos;: %2.</source>
+        <translation>„%1“ geöffnet: %2.</translation>
     </message>
 </context>
 <context>
@@ -1123,6 +1532,13 @@
     </message>
 </context>
 <context>
+    <name>ProgressLine</name>
+    <message>
+        <source>Stop what is running</source>
+        <translation>Bricht ab, was gerade läuft</translation>
+    </message>
+</context>
+<context>
     <name>RemoteCommands</name>
     <message>
         <source>Commands that run in another shell.</source>
@@ -1182,6 +1598,32 @@
     <message>
         <source>The other side is no remote shell.</source>
         <translation>Die Gegenseite ist keine entfernte Shell.</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveRowsCommand</name>
+    <message>
+        <source>Removes rows. Usage: remove DOCUMENT SHEET ROW COUNT</source>
+        <translation>Entfernt Zeilen. Aufruf: remove DOKUMENT BLATT ZEILE ANZAHL</translation>
+    </message>
+    <message>
+        <source>remove rows</source>
+        <translation>Zeilen entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>SetValueCommand</name>
+    <message>
+        <source>Changes a value. Usage: set DOCUMENT SHEET ROW COLUMN VALUE</source>
+        <translation>Ändert einen Wert. Aufruf: set DOKUMENT BLATT ZEILE SPALTE WERT</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>change value</source>
+        <translation>Wert ändern</translation>
     </message>
 </context>
 <context>
@@ -1654,6 +2096,24 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
 </context>
 <context>
+    <name>TableDocument</name>
+    <message>
+        <source>table, rows: %1</source>
+        <translation>Tabelle, Zeilen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TableModel</name>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>Row %1, %2: &apos;%3&apos; is no number; the value stays %4.</source>
+        <translation>Zeile %1, %2: „%3“ ist keine Zahl; der Wert bleibt %4.</translation>
+    </message>
+</context>
+<context>
     <name>TcpCommands</name>
     <message>
         <source>Signed lines to and from another process over TCP.</source>
@@ -1729,6 +2189,21 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     <message>
         <source>This machine&apos;s clock is off by %1 s.</source>
         <translation>Die Uhr dieses Rechners weicht um %1 s ab.</translation>
+    </message>
+</context>
+<context>
+    <name>UnitCommand</name>
+    <message>
+        <source>Converts a column to another unit. Usage: unit DOCUMENT SHEET COLUMN UNIT</source>
+        <translation>Rechnet eine Spalte in eine andere Einheit um. Aufruf: unit DOKUMENT BLATT SPALTE EINHEIT</translation>
+    </message>
+    <message>
+        <source>%1 cannot be converted to &apos;%2&apos;.</source>
+        <translation>%1 lässt sich nicht in „%2“ umrechnen.</translation>
+    </message>
+    <message>
+        <source>change unit</source>
+        <translation>Einheit ändern</translation>
     </message>
 </context>
 <context>
@@ -3032,6 +3507,17 @@ der ausgewertet lautet:
     <message>
         <source>Element &apos;%1&apos;: &apos;%2&apos; is not a number.</source>
         <translation>Element „%1“: „%2“ ist keine Zahl.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Shows and edits tables, heat treatments and decks.</source>
+        <translation>Zeigt und ändert Tabellen und Wärmebehandlungen, zeigt Decks.</translation>
+    </message>
+    <message>
+        <source>Files to open.</source>
+        <translation>Dateien, die geöffnet werden.</translation>
     </message>
 </context>
 <context>

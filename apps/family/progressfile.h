@@ -4,18 +4,27 @@
 
 #include <QFile>
 
-/// A file that reports how much of it has been read.
+#include <functional>
+
+/// A file that reports how much of it has been read, and ends early where its user says so.
 class ProgressFile : public QFile {
     Q_OBJECT
 
 public:
-    ProgressFile(const QString& path, const kdReporterInterface& reporter) : QFile(path), m_reporter(reporter)
+    using StopCondition = std::function<bool()>;
+
+    /// \a stopsWhen is asked at every piece that is read; once it says yes, reading fails.
+    ProgressFile(const QString& path, const kdReporterInterface& reporter,
+                 StopCondition stopsWhen = StopCondition())
+        : QFile(path), m_reporter(reporter), m_stopsWhen(std::move(stopsWhen))
     {
     }
 
 protected:
     qint64 readData(char* data, qint64 maximalSize) override
     {
+        if (m_stopsWhen && m_stopsWhen())
+            return -1;
         const qint64 count = QFile::readData(data, maximalSize);
         m_read += qMax<qint64>(count, 0);
         if (size() > 0 && m_read < size())
@@ -25,5 +34,6 @@ protected:
 
 private:
     const kdReporterInterface& m_reporter;
+    StopCondition m_stopsWhen;
     qint64 m_read = 0;
 };

@@ -1,0 +1,49 @@
+#include "tableexport.h"
+
+#include <kdQCore/coTableCSVWriter>
+#include <kdQCore/kdDataTable>
+
+#include <QFileInfo>
+#include <QTextStream>
+
+namespace {
+
+bool writeText(const kdDataTable& table, QIODevice& device)
+{
+    QTextStream stream(&device);
+    stream.setCodec("UTF-8");
+    const bool isWritten = table.exportValuesToTextStream(stream);
+    stream.flush();
+    return isWritten && stream.status() == QTextStream::Ok;
+}
+
+bool writeCsv(const kdDataTable& table, QIODevice& device)
+{
+    coTableCSVWriter writer(table);
+    writer.initFromSettings();
+    writer.setHeader(coCSVWriter::TitleRow);
+    return writer.write(&device);
+}
+
+} // namespace
+
+TableExport::Form TableExport::formOf(const QString& path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("xml"))
+        return Xml;
+    return suffix == QLatin1String("csv") ? Csv : Text;
+}
+
+bool TableExport::write(const kdDataTable& table, QIODevice& device, Form form)
+{
+    switch (form) {
+    case Xml:
+        return table.writeXML(device);
+    case Text:
+        return writeText(table, device);
+    case Csv:
+        return writeCsv(table, device);
+    }
+    return false;
+}
