@@ -293,10 +293,6 @@
         <translation>Das Deck &apos;%1&apos; kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no width; possible are standard and extended.</source>
-        <translation>&apos;%1&apos; ist keine Breite; möglich sind standard und extended.</translation>
-    </message>
-    <message>
         <source>Deck &apos;%1&apos; (%2): options %3, errors %4, warnings %5.</source>
         <translation>Deck &apos;%1&apos; (%2): Optionen %3, Fehler %4, Warnungen %5.</translation>
     </message>
@@ -325,10 +321,6 @@
         <translation>Die Decks unterscheiden sich: %1.</translation>
     </message>
     <message>
-        <source>The deck &apos;%1&apos; holds no option &quot;%2&quot; of number %3; see &apos;deck show&apos;.</source>
-        <translation>Das Deck &apos;%1&apos; enthält keine Option &quot;%2&quot; mit der Nummer %3; siehe &apos;deck show&apos;.</translation>
-    </message>
-    <message>
         <source>The file &apos;%1&apos; of the new lines (with LINESFILE) cannot be read: %2</source>
         <translation>Die Datei &apos;%1&apos; der neuen Zeilen (with LINESFILE) kann nicht gelesen werden: %2</translation>
     </message>
@@ -343,6 +335,22 @@
     <message>
         <source>none</source>
         <translation>keine</translation>
+    </message>
+    <message>
+        <source>Widths are standard or extended, not both.</source>
+        <translation>Breiten sind standard oder extended, nicht beides.</translation>
+    </message>
+    <message>
+        <source>An option is removed without new lines (with LINESFILE).</source>
+        <translation>Zum Entfernen einer Option gehören keine neuen Zeilen (with LINESFILE).</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; needs a file of the new lines (with LINESFILE).</source>
+        <translation>&apos;%1&apos; braucht eine Datei mit den neuen Zeilen (with LINESFILE).</translation>
+    </message>
+    <message>
+        <source>The deck &apos;%1&apos; (%2) holds no option &quot;%3&quot; of number %4; see &apos;deck show&apos;.</source>
+        <translation>Das Deck &apos;%1&apos; (%2) enthält keine Option &quot;%3&quot; mit der Nummer %4; siehe &apos;deck show&apos;.</translation>
     </message>
 </context>
 <context>
@@ -2417,10 +2425,6 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
         <translation>%1 ist keine Nummer eines Solvers.</translation>
     </message>
     <message>
-        <source>2 or 3 forces expected, found %1.</source>
-        <translation>2 oder 3 Kräfte erwartet, %1 gefunden.</translation>
-    </message>
-    <message>
         <source>whole number</source>
         <translation>ganze Zahl</translation>
     </message>
@@ -2515,6 +2519,22 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     <message>
         <source>two values of a variable are too close to be told apart.</source>
         <translation>zwei Werte einer Variablen liegen zu dicht beieinander, um sie zu unterscheiden.</translation>
+    </message>
+    <message>
+        <source>the third force is missing and reads as 0.</source>
+        <translation>die dritte Kraft fehlt und wird als 0 gelesen.</translation>
+    </message>
+    <message>
+        <source>blank fields read as 0: %1.</source>
+        <translation>leere Felder werden als 0 gelesen: %1.</translation>
+    </message>
+    <message>
+        <source>field %1 is blank, where cards write %2.</source>
+        <translation>Feld %1 ist leer, wo Karten %2 schreiben.</translation>
+    </message>
+    <message>
+        <source>the blank field reads as 0.</source>
+        <translation>das leere Feld wird als 0 gelesen.</translation>
     </message>
 </context>
 <context>

@@ -9,8 +9,6 @@
 
 #include <QFile>
 
-#include <optional>
-
 QVector<ShellCommandEntry> DeckCommands::fileEntries()
 {
     using Entry = ShellCommandEntry;
@@ -23,11 +21,12 @@ QVector<ShellCommandEntry> DeckCommands::fileEntries()
         {"diff", "FILE FILE [tolerance T] [standard|extended]",
          QT_TR_NOOP("Compares two decks option by option, numbers within a relative tolerance."), 2, 5,
          Entry::Query, diff},
-        {"patch", "FILE replace|before|after|remove OPTION [with LINESFILE] [number N] [keep]",
+        {"patch",
+         "FILE replace|before|after|remove OPTION [with LINESFILE] [number N] [keep] [standard|extended]",
          QT_TR_NOOP(
              "Changes one option of a deck and nothing else; the new lines come from a file. OPTION as in "
              "'deck show', the N-th of several; keep: the old deck stays as FILE.bak."),
-         3, 8, Entry::CannotUndo, patch},
+         3, 9, Entry::CannotUndo, patch},
         {"tables", "FILE [standard|extended]",
          QT_TR_NOOP("Loads the tables of a deck into the session, under their names, without units."), 1, 2,
          Entry::ChangesTables, tables},
@@ -36,31 +35,43 @@ QVector<ShellCommandEntry> DeckCommands::fileEntries()
 
 namespace {
 
-/// A deck to read, and its widths: those that the call's arguments from \a first on name, or found ones.
-class DeckFile {
+/// The widths that the words from \a first on name, among other parameters; a deck's own where none does.
+class Widths {
 public:
-    DeckFile(const ShellCall& call, const QString& path) : m_file(path)
+    ShellParameters& addTo(ShellParameters& parameters)
     {
-        if (!m_file.open(QIODevice::ReadOnly))
-            m_isGood = call.fail(
-                DeckCommands::tr("The deck '%1' cannot be read: %2").arg(path, m_file.errorString()));
-        else
-            m_layout = coDeckLayout::find(m_file);
+        return parameters.flag("standard", m_isStandard).flag("extended", m_isExtended);
     }
 
-    /// Widths that the user names.
-    bool takeWidths(const ShellCall& call, int index)
+    bool isGiven() const { return m_isStandard || m_isExtended; }
+    coDeckLayout given() const
     {
-        if (index >= call.count())
-            return m_isGood;
-        if (call.is(index, "standard"))
-            m_layout = CFEDatLineWriter::standard;
-        else if (call.is(index, "extended"))
-            m_layout = CFEDatLineWriter::extended;
-        else
-            m_isGood = call.fail(DeckCommands::tr("'%1' is no width; possible are standard and extended.")
-                                     .arg(call.text(index)));
-        return m_isGood;
+        return m_isStandard ? CFEDatLineWriter::standard : CFEDatLineWriter::extended;
+    }
+    bool check(const ShellCall& call) const
+    {
+        return !m_isStandard || !m_isExtended
+            || call.fail(DeckCommands::tr("Widths are standard or extended, not both."));
+    }
+
+private:
+    bool m_isStandard = false;
+    bool m_isExtended = false;
+};
+
+/// A deck to read.
+class DeckFile {
+public:
+    /// The widths are all that follows the path.
+    explicit DeckFile(const ShellCall& call) : m_file(call.text(0))
+    {
+        Widths widths;
+        ShellParameters parameters(call, 1);
+        m_isGood = widths.addTo(parameters).read() && widths.check(call) && open(call, widths);
+    }
+    DeckFile(const ShellCall& call, const QString& path, const Widths& widths) : m_file(path)
+    {
+        m_isGood = open(call, widths);
     }
 
     bool isGood() const { return m_isGood; }
@@ -68,10 +79,59 @@ public:
     const coDeckLayout& layout() const { return m_layout; }
 
 private:
+    bool open(const ShellCall& call, const Widths& widths)
+    {
+        if (!m_file.open(QIODevice::ReadOnly))
+            return call.fail(DeckCommands::tr("The deck '%1' cannot be read: %2")
+                                 .arg(m_file.fileName(), m_file.errorString()));
+        m_layout = widths.isGiven() ? widths.given() : coDeckLayout::find(m_file);
+        return true;
+    }
+
     QFile m_file;
     coDeckLayout m_layout;
-    bool m_isGood = true;
+    bool m_isGood = false;
 };
+
+/// The new lines of a change; "remove" has none.
+bool readLines(const ShellCall& call, const QString& path, QByteArray& lines)
+{
+    const bool isRemoval = call.is(1, "remove");
+    if (isRemoval && !path.isEmpty())
+        return call.fail(DeckCommands::tr("An option is removed without new lines (with LINESFILE)."));
+    if (!isRemoval && path.isEmpty())
+        return call.fail(
+            DeckCommands::tr("'%1' needs a file of the new lines (with LINESFILE).").arg(call.text(1)));
+    QFile file(path);
+    if (!isRemoval && !file.open(QIODevice::ReadOnly))
+        return call.fail(
+            DeckCommands::tr("The file '%1' of the new lines (with LINESFILE) cannot be read: %2")
+                .arg(path, file.errorString()));
+    if (!isRemoval)
+        lines = file.readAll();
+    return true;
+}
+
+bool isChange(const ShellCall& call)
+{
+    for (const char* word : {"replace", "before", "after", "remove"})
+        if (call.is(1, word))
+            return true;
+    return call.fail(DeckCommands::tr("'%1' is no change; possible are replace, before, after, remove.")
+                         .arg(call.text(1)));
+}
+
+void change(coDeckPatch& patch, const ShellCall& call, int index, const QByteArray& lines)
+{
+    if (call.is(1, "remove"))
+        patch.remove(index);
+    else if (call.is(1, "replace"))
+        patch.replace(index, lines);
+    else if (call.is(1, "before"))
+        patch.insertBefore(index, lines);
+    else
+        patch.insertAfter(index, lines);
+}
 
 bool endOf(const ShellCall& call, const coDeckReader& reader)
 {
@@ -82,8 +142,8 @@ bool endOf(const ShellCall& call, const coDeckReader& reader)
 
 bool DeckCommands::check(ShellCall& call)
 {
-    DeckFile deck(call, call.text(0));
-    if (!deck.takeWidths(call, 1))
+    DeckFile deck(call);
+    if (!deck.isGood())
         return false;
     coDeckCheck check(deck.layout());
     const bool isSound = check.run(deck.file());
@@ -97,8 +157,8 @@ bool DeckCommands::check(ShellCall& call)
 
 bool DeckCommands::show(ShellCall& call)
 {
-    DeckFile deck(call, call.text(0));
-    if (!deck.takeWidths(call, 1))
+    DeckFile deck(call);
+    if (!deck.isGood())
         return false;
     QVector<QStringList> rows{{tr("line"), tr("lines"), tr("option")}};
     coDeckReader reader(deck.file(), deck.layout(), coDeckReader::NoCards);
@@ -114,21 +174,16 @@ bool DeckCommands::show(ShellCall& call)
 bool DeckCommands::diff(ShellCall& call)
 {
     double tolerance = 0.0;
-    bool isStandard = false;
-    bool isExtended = false;
+    Widths widths;
     ShellParameters reader(call, 2);
-    if (!reader.real("tolerance", tolerance).flag("standard", isStandard).flag("extended", isExtended).read())
+    if (!widths.addTo(reader.real("tolerance", tolerance)).read() || !widths.check(call))
         return false;
-    DeckFile first(call, call.text(0));
-    DeckFile second(call, call.text(1));
+    DeckFile first(call, call.text(0), widths);
+    DeckFile second(call, call.text(1), widths);
     if (!first.isGood() || !second.isGood())
         return false;
-    std::optional<coDeckLayout> given;
-    if (isStandard || isExtended)
-        given = coDeckLayout(isStandard ? CFEDatLineWriter::standard : CFEDatLineWriter::extended);
     coDeckCompare compare(tolerance);
-    if (compare.run(first.file(), given.value_or(first.layout()), second.file(),
-                    given.value_or(second.layout())))
+    if (compare.run(first.file(), first.layout(), second.file(), second.layout()))
         return true;
     if (!compare.errorText().isEmpty())
         return call.fail(compare.errorText());
@@ -141,38 +196,30 @@ bool DeckCommands::patch(ShellCall& call)
     QString linesPath;
     int number = 1;
     bool keeps = false;
+    Widths widths;
     ShellParameters reader(call, 3);
-    if (!reader.text("with", linesPath).integer("number", number).flag("keep", keeps).read())
+    reader.text("with", linesPath).integer("number", number).flag("keep", keeps);
+    QByteArray lines;
+    if (!widths.addTo(reader).read() || !widths.check(call) || !isChange(call)
+        || !readLines(call, linesPath, lines))
         return false;
-    coDeckPatch patch(call.text(0));
+    coDeckPatch patch =
+        widths.isGiven() ? coDeckPatch(call.text(0), widths.given()) : coDeckPatch(call.text(0));
     if (!patch.read())
         return call.fail(patch.errorText());
     const int index = patch.find(call.text(2), number - 1);
     if (index < 0)
-        return call.fail(tr("The deck '%1' holds no option \"%2\" of number %3; see 'deck show'.")
-                             .arg(call.text(0), call.text(2), QString::number(number)));
-    QFile lines(linesPath);
-    if (!call.is(1, "remove") && !lines.open(QIODevice::ReadOnly))
-        return call.fail(tr("The file '%1' of the new lines (with LINESFILE) cannot be read: %2")
-                             .arg(linesPath, lines.errorString()));
-    if (call.is(1, "remove"))
-        patch.remove(index);
-    else if (call.is(1, "replace"))
-        patch.replace(index, lines.readAll());
-    else if (call.is(1, "before"))
-        patch.insertBefore(index, lines.readAll());
-    else if (call.is(1, "after"))
-        patch.insertAfter(index, lines.readAll());
-    else
         return call.fail(
-            tr("'%1' is no change; possible are replace, before, after, remove.").arg(call.text(1)));
+            tr("The deck '%1' (%2) holds no option \"%3\" of number %4; see 'deck show'.")
+                .arg(call.text(0), patch.layout().text(), call.text(2), QString::number(number)));
+    change(patch, call, index, lines);
     return patch.apply(keeps ? coDeckPatch::KeepOld : coDeckPatch::DropOld) || call.fail(patch.errorText());
 }
 
 bool DeckCommands::tables(ShellCall& call)
 {
-    DeckFile deck(call, call.text(0));
-    if (!deck.takeWidths(call, 1))
+    DeckFile deck(call);
+    if (!deck.isGood())
         return false;
     QStringList names;
     coDeckReader reader(deck.file(), deck.layout(), coDeckReader::Cards,

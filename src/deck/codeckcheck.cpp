@@ -4,6 +4,24 @@
 
 #include <QRegularExpression>
 
+namespace {
+
+// "define node set NAME", and some more.
+constexpr int mostWordsBeforeName = 8;
+
+QStringList wordsOf(const QString& text)
+{
+    static const QRegularExpression separators(QStringLiteral("[\\s,]+"));
+    return text.split(separators, Qt::SkipEmptyParts);
+}
+
+QString asName(const QStringList& words)
+{
+    return words.join(QLatin1Char(' '));
+}
+
+} // namespace
+
 bool coDeckCheck::run(QIODevice& deck)
 {
     *this = coDeckCheck(m_layout);
@@ -34,11 +52,18 @@ void coDeckCheck::note(const coDeckOption& option)
         m_references.append({{coDeckFinding::Error, option.firstLine, 0, option.text(), QString()},
                              option.tableReference,
                              option.nodeList});
-    if (option.kind == coDeckOption::Other) {
-        static const QRegularExpression separators(QStringLiteral("[\\s,]+"));
-        const QStringList words = option.keyword.split(separators, Qt::SkipEmptyParts);
-        for (int i = 1; i < words.size(); ++i)
-            m_words.insert(words.at(i));
+    if (option.kind == coDeckOption::Other)
+        noteNames(wordsOf(option.keyword));
+}
+
+// A name is a word of the line, or all of its end: names may hold blanks.
+void coDeckCheck::noteNames(QStringList words)
+{
+    for (int i = 1; i < words.size(); ++i)
+        m_names.insert(words.at(i));
+    for (int i = 0; i < mostWordsBeforeName && words.size() > 2; ++i) {
+        words.removeFirst();
+        m_names.insert(asName(words));
     }
 }
 
@@ -61,7 +86,7 @@ void coDeckCheck::checkReferences()
             finding.text = tr("the deck holds no table %1.").arg(reference.table);
             add(finding);
         }
-        if (!reference.nodeList.isEmpty() && !m_words.contains(reference.nodeList)) {
+        if (!reference.nodeList.isEmpty() && !m_names.contains(asName(wordsOf(reference.nodeList)))) {
             finding.severity = coDeckFinding::Warning;
             finding.text =
                 tr("no keyword line of the deck names the node list '%1'.").arg(reference.nodeList);

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QSet>
+#include <QStringList>
 #include <QVector>
 
 class QIODevice;
@@ -16,8 +17,9 @@ class QIODevice;
 /// Errors: fields that do not read as the numbers that the option has, non-finite numbers, counts that do not
 /// fit what follows, x values that descend (or, in grids, print alike), data lines that belong to nothing,
 /// data lines over the line budget, two tables of one id, references to tables that the deck does not hold.
-/// Warnings: other lines over the budget, fields where this library would write another value, node lists
-/// that no keyword line of the deck names (meshes often lie in a file of their own).
+/// Warnings: other lines over the budget, blank or missing fields, which the solver reads as 0 (an error
+/// where a 0 would be one), fields where this library would write another value, node lists that no keyword
+/// line of the deck names (meshes often lie in a file of their own).
 ///
 /// \code
 /// coDeckCheck check(coDeckLayout::find(file));
@@ -55,6 +57,7 @@ private:
     void add(const coDeckFinding& finding);
     void note(const coDeckOption& option);
     void noteTable(const coDeckOption& option);
+    void noteNames(QStringList words);
     void checkReferences();
 
     coDeckLayout m_layout;
@@ -63,6 +66,6 @@ private:
     qint64 m_warnings = 0;
     qint64 m_options = 0;
     QHash<int, qint64> m_tableLines;
-    QSet<QString> m_words;
+    QSet<QString> m_names; ///< that keyword lines tell
     QVector<Reference> m_references;
 };

@@ -54,10 +54,10 @@ const coDeckFields::Field& coDeckFields::take(int width)
     m_field.begin = m_next;
     m_field.end = end;
     m_next = m_isFree && end != m_end ? end + 1 : end;
-    while (m_field.begin != m_field.end && isBlank(*m_field.begin))
-        ++m_field.begin;
     while (m_field.begin != m_field.end && isBlank(m_field.end[-1]))
         --m_field.end;
+    while (m_field.begin != m_field.end && isBlank(*m_field.begin))
+        ++m_field.begin;
     m_field.column = static_cast<int>(m_field.begin - m_begin) + 1;
     return m_field;
 }

@@ -55,9 +55,10 @@ public:
     QByteArray bytesOf(const cFeAbstractDatCard& card, int like) const;
 
     /// \name Changes
-    /// By index into options(), each option once at most; they take effect in apply(). Lines get the deck's
-    /// line ends, a missing last one is added. Without any, as a
-    /// card that refuses gives them, apply() fails.
+    /// By index into options(); they take effect in apply(), whatever the order of the calls. An option is
+    /// replaced or removed once at most. New lines get the deck's line ends, and one at their end where it is
+    /// missing. Where there are none - bytesOf() is empty for a card that refuses - apply() fails and leaves
+    /// the deck as it was.
     /// @{
     void replace(int index, const QByteArray& lines);
     void remove(int index);

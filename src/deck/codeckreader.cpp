@@ -2,50 +2,13 @@
 
 #include "deckcardreader_p.h"
 #include "deckcomments_p.h"
+#include "deckkeyword_p.h"
 
 #include <QIODevice>
 
 #include <cstring>
 
 namespace {
-
-struct Keyword {
-    const char* text;
-    coDeckOption::Kind kind;
-    bool isWholeLine; ///< otherwise fields or a name follow on the keyword's line
-};
-
-constexpr Keyword keywords[] = {
-    {"autoforge", coDeckOption::Process, false},
-    {"auto load", coDeckOption::AutoLoad, true},
-    {"element", coDeckOption::Element, false},
-    {"feature", coDeckOption::Feature, false},
-    {"loadcase", coDeckOption::LoadCase, false},
-    {"nodal", coDeckOption::Nodal, false},
-    {"point current", coDeckOption::PointCurrent, true},
-    {"point load", coDeckOption::PointLoad, true},
-    {"solver", coDeckOption::Solver, true},
-    {"table", coDeckOption::Table, false},
-    {"title", coDeckOption::Title, false},
-};
-
-bool isBlank(const char* begin, const char* end)
-{
-    while (begin != end && (*begin == ' ' || *begin == '\t'))
-        ++begin;
-    return begin == end;
-}
-
-const Keyword* findKeyword(const coDeckLine& line)
-{
-    for (const Keyword& keyword : keywords) {
-        const auto length = static_cast<int>(std::strlen(keyword.text));
-        if (line.length() >= length && qstrnicmp(line.begin, keyword.text, static_cast<uint>(length)) == 0
-            && (!keyword.isWholeLine || isBlank(line.begin + length, line.end)))
-            return &keyword;
-    }
-    return nullptr;
-}
 
 /// A table's name may follow its keyword at once; the parameter section's key "table" is followed by numbers.
 bool isTableSection(const coDeckLine& line, int start)
@@ -78,7 +41,7 @@ private:
     }
     void readComments();
     bool isPointLoadAhead();
-    void readKnown(coDeckOption& option, const Keyword& keyword);
+    void readKnown(coDeckOption& option, const DeckKeyword& keyword);
     void readNumber(coDeckOption& option, int start);
     void readSurplus(coDeckOption& option);
     void readOther(coDeckOption& option);
@@ -121,7 +84,7 @@ void coDeckReader::Private::readComments()
 
 bool coDeckReader::Private::isPointLoadAhead()
 {
-    const Keyword* keyword = lines.ahead() ? findKeyword(*lines.ahead()) : nullptr;
+    const DeckKeyword* keyword = lines.ahead() ? DeckKeyword::find(*lines.ahead()) : nullptr;
     return keyword && keyword->kind == coDeckOption::PointLoad;
 }
 
@@ -131,7 +94,7 @@ void coDeckReader::Private::readOption(coDeckOption& option)
     if (lines.ahead()->kind == coDeckLine::Keyword)
         option.keyword = QString::fromLocal8Bit(lines.ahead()->bytes()).trimmed();
     const coDeckLine& line = lines.take(option);
-    const Keyword* keyword = line.kind == coDeckLine::Keyword ? findKeyword(line) : nullptr;
+    const DeckKeyword* keyword = line.kind == coDeckLine::Keyword ? DeckKeyword::find(line) : nullptr;
     if (keyword) {
         readKnown(option, *keyword);
     } else {
@@ -141,7 +104,7 @@ void coDeckReader::Private::readOption(coDeckOption& option)
     }
 }
 
-void coDeckReader::Private::readKnown(coDeckOption& option, const Keyword& keyword)
+void coDeckReader::Private::readKnown(coDeckOption& option, const DeckKeyword& keyword)
 {
     const coDeckLine& line = lines.scanner().line();
     auto length = static_cast<int>(std::strlen(keyword.text));

@@ -52,6 +52,9 @@ private:
     }
 
     bool isAhead(const char* keyword);
+    bool isNodeListMark(const coDeckLine& line) const;
+    bool isNameAhead();
+    bool readForceTables(int forces);
     bool readSolverExtras(class coFeSolverCard& card, int solverId);
     bool readTableHead(TableHead& head);
     void readFormula(const TableHead& head);

@@ -5,6 +5,7 @@
 #include "cofesolvercard.h"
 #include "cpointloadcard.h"
 #include "deckcardreader_p.h"
+#include "deckkeyword_p.h"
 
 #include <kdQCore/coMarcSolverType>
 
@@ -19,24 +20,40 @@ constexpr int pointRows = 5;
 bool DeckCardReader::isAhead(const char* keyword)
 {
     const coDeckLine* line = m_lines.ahead();
-    const auto length = static_cast<int>(qstrlen(keyword));
-    return line && line->length() >= length
-        && qstrnicmp(line->begin, keyword, static_cast<uint>(length)) == 0;
+    return line && DeckKeyword::begins(*line, keyword);
 }
 
 void DeckCardReader::passOver()
 {
+    bool isNodeListNext = false;
     for (; m_lines.isDataAhead(); ++m_rows)
-        m_lines.take(m_option);
+        isNodeListNext = isNodeListMark(m_lines.take(m_option));
     const bool isPoint =
         m_option.kind == coDeckOption::PointLoad || m_option.kind == coDeckOption::PointCurrent;
     if ((m_option.kind == coDeckOption::Solver && isAhead(optimisation))
         || (m_option.kind == coDeckOption::AutoLoad && isAhead(timeStep))
-        || (isPoint && m_rows == pointRows && m_lines.ahead()
-            && m_lines.ahead()->kind == coDeckLine::Keyword))
+        || (isPoint && (m_rows == pointRows || isNodeListNext) && isNameAhead()))
         m_lines.take(m_option);
     while (m_lines.isDataAhead())
         m_lines.take(m_option);
+}
+
+/// Whether this is the line "2" of a point load or current, behind which the node list stands.
+bool DeckCardReader::isNodeListMark(const coDeckLine& line) const
+{
+    coDeckFields fields(line, m_lines.mode(), m_option.format);
+    int value = 0;
+    return fields.readInt(value) && value == 2 && fields.atEnd();
+}
+
+// Rather than the next option, where the node list is missing.
+bool DeckCardReader::isNameAhead()
+{
+    const coDeckLine* line = m_lines.ahead();
+    if (!line || line->kind != coDeckLine::Keyword)
+        return false;
+    const DeckKeyword* keyword = DeckKeyword::find(*line);
+    return !keyword || !keyword->isWholeLine;
 }
 
 DeckRow DeckCardReader::keywordRow(int keywordLength)
@@ -181,12 +198,10 @@ void DeckCardReader::readPointLoad(const QString& component, const QString& comm
         || !note(nextRow().constant(1).constants(0, 5).rest(m_option.name).end()))
         return;
     DeckRow row = nextRow();
-    for (; count < 3 && !row.atEnd() && row.ok(); ++count)
+    for (; count < 2 || (count < 3 && !row.atEnd()); ++count)
         row.real(forces[count]);
-    if (row.ok() && count < 2)
-        return m_lines.error(m_option, 0, tr("2 or 3 forces expected, found %1.").arg(count));
     QString nodes;
-    if (!note(row.end()) || !note(nextRow().constants(0, count).end()) || !note(nextRow().constant(2).end())
+    if (!note(row.end()) || !readForceTables(count) || !note(nextRow().constant(2).end())
         || !m_lines.takeText(m_option, nodes))
         return;
     cPointLoadCard card;
@@ -201,6 +216,19 @@ void DeckCardReader::readPointLoad(const QString& component, const QString& comm
     m_isOurs = m_isOurs && m_option.name == prefix + card.uniqueLabel();
     m_option.nodeList = nodes;
     keep(card);
+}
+
+/// One zero a direction; one more than forces where the last force is blank.
+bool DeckCardReader::readForceTables(int forces)
+{
+    DeckRow row = nextRow();
+    row.constants(0, forces);
+    if (row.ok() && forces == 2 && !row.atEnd()) {
+        m_isOurs = false;
+        m_lines.warning(m_option, 0, tr("the third force is missing and reads as 0."));
+        row.constant(0);
+    }
+    return note(row.end());
 }
 
 void DeckCardReader::readPointCurrent()

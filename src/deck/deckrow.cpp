@@ -21,7 +21,8 @@ DeckRow& DeckRow::integer(int& value)
     if (!m_ok)
         return *this;
     ++m_number;
-    if (!m_fields.readInt(value))
+    value = 0;
+    if (!m_fields.readInt(value) && !isBlank())
         fail(tr("whole number"));
     return *this;
 }
@@ -57,7 +58,8 @@ DeckRow& DeckRow::real(double& value)
     if (!m_ok)
         return *this;
     ++m_number;
-    if (!m_lines.readReal(m_fields.takeReal(), value))
+    value = 0.0;
+    if (!m_lines.readReal(m_fields.takeReal(), value) && !isBlank())
         fail(tr("number"));
     else if (!std::isfinite(value))
         fail(tr("finite number"));
@@ -92,6 +94,9 @@ DeckRow& DeckRow::rest(QString& text)
 
 DeckRow& DeckRow::end()
 {
+    if (m_ok && !m_blanks.isEmpty())
+        m_lines.warning(m_option, m_blankColumn,
+                        tr("blank fields read as 0: %1.").arg(m_blanks.join(QLatin1String(", "))));
     if (!m_ok || m_fields.atEnd())
         return *this;
     const coDeckFields::Field& field = m_fields.takeRest();
@@ -99,6 +104,18 @@ DeckRow& DeckRow::end()
                   tr("end of line expected, found '%1'.").arg(field.text().trimmed()));
     m_ok = false;
     return *this;
+}
+
+// The solver reads 0 where a field is blank or missing.
+bool DeckRow::isBlank()
+{
+    if (!m_fields.field().isEmpty())
+        return false;
+    if (m_blanks.isEmpty())
+        m_blankColumn = column();
+    m_blanks.append(QString::number(m_number));
+    m_isOurs = false;
+    return true;
 }
 
 void DeckRow::fail(const QString& expected)
@@ -116,7 +133,11 @@ void DeckRow::notOurs(const QString& expected)
 {
     m_isOurs = false;
     const coDeckFields::Field& field = m_fields.field();
-    m_lines.warning(
-        m_option, field.column,
-        tr("field %1 is %2, where cards write %3.").arg(QString::number(m_number), field.text(), expected));
+    const QString number = QString::number(m_number);
+    if (field.isEmpty())
+        m_blanks.removeLast();
+    m_lines.warning(m_option, field.column,
+                    field.isEmpty()
+                        ? tr("field %1 is blank, where cards write %2.").arg(number, expected)
+                        : tr("field %1 is %2, where cards write %3.").arg(number, field.text(), expected));
 }

@@ -2,8 +2,10 @@
 
 #include "decklines_p.h"
 
+#include <QStringList>
+
 /// One data line of a card, field by field. The first field that does not hold what is expected is reported;
-/// all after it are passed over.
+/// all after it are passed over. A blank or missing field is 0.
 class DeckRow {
     Q_DECLARE_TR_FUNCTIONS(coDeckReader)
 
@@ -25,7 +27,7 @@ public:
     DeckRow& rest(QString& text);
     /// The same as a field: in free format a comma ends it.
     DeckRow& word(QString& text);
-    /// Reports what is left on the line.
+    /// Reports blank fields, and what is left on the line.
     DeckRow& end();
 
     bool atEnd() const { return m_fields.atEnd(); }
@@ -36,6 +38,7 @@ public:
     bool isOurs() const { return m_isOurs; }
 
 private:
+    bool isBlank();
     void fail(const QString& expected);
     void notOurs(const QString& expected);
 
@@ -43,6 +46,8 @@ private:
     coDeckOption& m_option;
     coDeckFields m_fields;
     int m_number = 0; ///< of the field
+    QStringList m_blanks;
+    int m_blankColumn = 0; ///< of the first of them
     bool m_ok = true;
     bool m_isOurs = true;
 };

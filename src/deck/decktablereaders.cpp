@@ -196,6 +196,12 @@ bool DeckCardReader::readValue(const coDeckFields::Field& field, double& value)
     const bool isNumber = m_lines.readReal(field, value);
     if (Q_LIKELY(isNumber && std::isfinite(value)))
         return true;
+    if (field.isEmpty()) {
+        value = 0.0;
+        m_isOurs = false;
+        m_lines.warning(m_option, field.column, tr("the blank field reads as 0."));
+        return true;
+    }
     m_lines.error(m_option, field.column,
                   isNumber ? tr("finite number expected, found '%1'.").arg(field.text())
                            : tr("number expected, found '%1'.").arg(field.text()));

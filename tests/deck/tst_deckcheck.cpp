@@ -45,6 +45,10 @@ const QByteArray gridTable = "table,flow\n4,2,0,0,0,\n5,3,1,12,2,2,\n0.00000E+0,
                              "2.00000E+1,4.00000E+2,\n1.00000E+0,2.00000E+0,3.00000E+0 c\n"
                              "4.00000E+0,5.00000E+0,6.00000E+0,\n";
 
+const QByteArray pointLoad = "point load\n    1    0    0\n    1    0    0    0    0    0ptld_3\n"
+                             "1.00000E+02.00000E+03.00000E+0\n    0    0    0\n    2\nmy nodes\n"
+                             "define,node,set,my  nodes\n";
+
 QByteArray with(QByteArray deck, const char* what, const char* by)
 {
     return deck.replace(what, by);
@@ -77,14 +81,23 @@ private Q_SLOTS:
             {text("line 4, column 11: error: table 'k': number expected, found '3.55,00E+8'.")});
         row("not finite", with(pointTable, "3.55000E+8", "       nan"),
             {text("line 4, column 18: error: table 'k': finite number expected, found 'nan'.")});
-        row("field missing", with(pointTable, "    0    2\n", "\n"),
-            {text("line 2, column 16: error: table 'k': whole number expected in field 4, found nothing.")});
+        row("fields blank", with(pointTable, "    0    0    2", "              2"),
+            {text("line 2, column 11: warning: table 'k': blank fields read as 0: 3, 4.")});
+        row("value missing", with(pointTable, "3.55000E+8", ""),
+            {text("line 4, column 11: warning: table 'k': the blank field reads as 0.")});
+        row("field missing where 0 is none", with(pointTable, "    2    2\n", "    2\n"),
+            {text("line 3, column 11: error: table 'k': 1 or 2 expected in field 3, found nothing.")});
+        row("constant missing", "auto load\n5,0,,1,0,1.,1.,\n",
+            {text("line 2, column 5: warning: auto load: field 3 is blank, where cards write 10.")});
+        row("point load on nodes with a blank in their name", pointLoad, {});
+        row("force missing", with(pointLoad, "3.00000E+0", ""),
+            {text("line 5: warning: point load 'ptld_3': the third force is missing and reads as 0.")});
         row("extrapolation code", with(pointTable, "    2    2\n", "    2    3\n"),
             {text("line 3, column 15: error: table 'k': 1 or 2 expected in field 3, found '3'.")});
         row("comments between the lines", with(pointTable, "\n", "\n$ x\n"), {});
         row("upper case", "AUTO LOAD\n0,0,10,1,0,1.,1.,\nTIME STEP\n1.0,\n", {});
-        row("deck ends early", pointTable.left(20),
-            {text("line 2, column 14: error: table 'k': whole number expected in field 3, found nothing.")});
+        row("deck ends early", pointTable.left(32),
+            {text("line 2: error: table 'k': data line expected, found the end of the deck.")});
         row("grid values missing", with(gridTable, "5.00000E+0,", ""),
             {text("line 6: error: table 'flow': 6 table values expected, found 5.")});
         row("grid x alike", with(gridTable, "2.00000E-1", "1.00000E-1"),
@@ -134,6 +147,22 @@ private Q_SLOTS:
         QCOMPARE(found, findings);
         QCOMPARE(isSound, check.errors() == 0);
         QCOMPARE(log.texts(), QStringList()); // a file from outside is no failed assertion
+    }
+
+    /// What lacks a line is found broken, and still is one option.
+    void lineMissing()
+    {
+        QList<QByteArray> lines = pointLoad.split('\n');
+        for (int missing = 1; missing < 6; ++missing) {
+            QList<QByteArray> others = lines;
+            others.removeAt(missing);
+            QByteArray deck = others.join('\n');
+            QBuffer device(&deck);
+            QVERIFY(device.open(QIODevice::ReadOnly));
+            coDeckCheck check(CFEDatLineWriter::standard);
+            QVERIFY2(!check.run(device), deck.constData());
+            QCOMPARE(check.options(), 2);
+        }
     }
 
     void widths_data()

@@ -190,6 +190,17 @@ private:
     std::mt19937 m_random;
 };
 
+/// The deck's first option.
+coDeckOption read(QByteArray deck, const Layout& layout)
+{
+    QBuffer device(&deck);
+    device.open(QIODevice::ReadOnly);
+    coDeckReader reader(device, layout.mode);
+    coDeckOption option;
+    reader.next(option);
+    return option;
+}
+
 } // namespace
 
 class TestDeckRoundTrip : public QObject {
@@ -217,21 +228,20 @@ private Q_SLOTS:
             QVERIFY(written.result);
             const QByteArray what =
                 "seed " + QByteArray::number(seed) + ", card " + QByteArray::number(i) + '\n' + written.deck;
-            const auto found = [&](const coDeckFinding& finding) {
-                if (finding.severity == coDeckFinding::Error)
-                    qWarning("%s\n%s", what.constData(), qPrintable(finding.toString()));
-            };
-            QBuffer device;
-            device.setData(written.deck);
-            QVERIFY(device.open(QIODevice::ReadOnly));
-            coDeckReader reader(device, layout.mode, coDeckReader::Cards, found);
-            coDeckOption option;
-            QVERIFY(reader.next(option));
+            const coDeckOption option = read(written.deck, layout);
             QVERIFY2(option.card, what.constData());
             const Written again = write(*option.card, layout);
             QVERIFY2(again.deck == written.deck, (what + "becomes\n" + again.deck).constData());
             QCOMPARE(option.size, qint64(written.deck.size()));
-            QVERIFY(!reader.next(option));
+
+            // The solver reads 0 there, too, but the card would write it.
+            const QByteArray zero = layout.format == datFormat::free ? ",0," : "    0";
+            const QByteArray blank = layout.format == datFormat::free ? ",," : "     ";
+            QByteArray blanked = written.deck;
+            if (blanked.contains(zero))
+                blanked.replace(blanked.indexOf(zero), zero.size(), blank);
+            const coDeckOption other = read(blanked, layout);
+            QVERIFY2(!other.card || write(*other.card, layout).deck == blanked, blanked.constData());
         }
     }
 
@@ -296,15 +306,11 @@ private Q_SLOTS:
     void valuesAreThoseThatPrintTheText()
     {
         QFETCH(QByteArray, text);
-        QBuffer device;
-        device.setData(
+        const coDeckOption option = read(
             "tablet\n         1         1         0         0         2\n         1         1         2\n"
             "1.000000000000000E+0"
-            + text.leftJustified(20) + '\n');
-        QVERIFY(device.open(QIODevice::ReadOnly));
-        coDeckReader reader(device, CFEDatLineWriter::extended);
-        coDeckOption option;
-        QVERIFY(reader.next(option));
+                + text.leftJustified(20) + '\n',
+            fixedExtended);
         const auto card = option.card.dynamicCast<coFeDataTableCard>();
         QVERIFY(card);
         QTEST(card->values()->constFirst(), "value");
