@@ -1,7 +1,5 @@
 #pragma once
 
-#include <kdQCore/coSocketMessage>
-
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -34,13 +32,6 @@ public:
 
     quint16 port() const { return m_port; }
     bool isEnding() const { return m_isEnding; }
-
-    static QByteArray signedLine(const QByteArray& payload, int sessionId)
-    {
-        coSocketMessage message;
-        message.setSessionId(sessionId);
-        return message.encode(payload) ? message.signedMessage() : QByteArray();
-    }
 
     static bool send(QTcpSocket& socket, const QByteArray& bytes)
     {

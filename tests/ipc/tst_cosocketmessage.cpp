@@ -2,8 +2,6 @@
 #include "signedpart.h"
 #include "speck_p.h"
 
-#include <kdQCore/coSocketMessage>
-
 class tst_cosocketmessage : public QObject {
     Q_OBJECT
 
@@ -15,14 +13,6 @@ private Q_SLOTS:
     void faults_data();
     void faults();
     void anyChangeOfALineIsSeen();
-
-private:
-    static QByteArray line(const QByteArray& payload, int sessionId)
-    {
-        coSocketMessage message;
-        message.setSessionId(sessionId);
-        return message.encode(payload) ? message.signedMessage() : QByteArray();
-    }
 };
 
 void tst_cosocketmessage::theCipherIsThePublishedOne()
@@ -59,7 +49,7 @@ void tst_cosocketmessage::aLineComesBack()
     QFETCH(int, sessionId);
     QFETCH(QByteArray, signedPart);
     QFETCH(QByteArray, decoded);
-    const QByteArray sent = line(payload, sessionId);
+    const QByteArray sent = signedLine(payload, sessionId);
     QCOMPARE(sent.left(signedPart.size() + 1), signedPart + '#');
     QCOMPARE(sent.size(), signedPart.size() + 15);
     QVERIFY(sent.endsWith('\n'));
@@ -79,7 +69,7 @@ void tst_cosocketmessage::aLineComesBack()
 void tst_cosocketmessage::theLongestPayload()
 {
     coSocketMessage message;
-    QVERIFY(message.decode(line(QByteArray(2041, 'x'), 0x1A2B)));
+    QVERIFY(message.decode(signedLine(QByteArray(2041, 'x'), 0x1A2B)));
     QCOMPARE(message.sessionId(), 0x1A2B);
 
     QVERIFY(message.encode(QByteArray(2048, 'x') + '\n'));
@@ -87,7 +77,7 @@ void tst_cosocketmessage::theLongestPayload()
     QVERIFY(!message.encode(QByteArray(2049, 'x')));
     QCOMPARE(message.errorString(), QStringLiteral("The message is too long!"));
     QVERIFY(message.signedMessage().isNull() && message.message().isNull());
-    QVERIFY(message.decode(line(QByteArray(2042, 'x'), 0x1A2B))); // the id's last digit is cut off
+    QVERIFY(message.decode(signedLine(QByteArray(2042, 'x'), 0x1A2B))); // the id's last digit is cut off
     QCOMPARE(message.sessionId(), 0x1A2);
 }
 
@@ -98,11 +88,11 @@ void tst_cosocketmessage::faults_data()
     const QString noTag = QStringLiteral("No tag separator found!");
     const QString noId = QStringLiteral("No message ID found!");
     const QString badSignature = QStringLiteral("Invalid message signature!");
-    const QByteArray good = line("status?", 0x1A2B);
+    const QByteArray good = signedLine("status?", 0x1A2B);
     QTest::newRow("null") << QByteArray() << QStringLiteral("Empty message!");
     QTest::newRow("empty") << QByteArray("") << noTag;
     QTest::newRow("no tag") << signedPart("status?") << noTag;
-    QTest::newRow("cut behind the tag") << line(QByteArray(2047, 'x'), 1) << noId;
+    QTest::newRow("cut behind the tag") << signedLine(QByteArray(2047, 'x'), 1) << noId;
     QTest::newRow("no id") << signedPart("status?:") << noId;
     QTest::newRow("an id of blanks") << signedPart("status?:   ") << noId;
     QTest::newRow("an id of 33 bits") << signedPart("status?:1FFFFFFFF") << noId;
@@ -129,7 +119,7 @@ void tst_cosocketmessage::faults()
 
 void tst_cosocketmessage::anyChangeOfALineIsSeen()
 {
-    const QByteArray good = line("status?", 0x1A2B);
+    const QByteArray good = signedLine("status?", 0x1A2B);
     coSocketMessage message;
     for (int i = 0; i < good.size() - 1; ++i)
         for (int bit = 0; bit < 8; ++bit) {

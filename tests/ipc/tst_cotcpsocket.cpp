@@ -61,9 +61,9 @@ void tst_cotcpsocket::lineOfAPeer_data()
     QTest::addColumn<QString>("received");
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("error");
-    const QByteArray good = Peer::signedLine("status", 0x1A2B);
+    const QByteArray good = signedLine("status", 0x1A2B);
     const QByteArray zeros = QByteArray("a\0b:  1A2B", 10);
-    const QByteArray umlaut = Peer::signedLine("\xC3\xA4", 0x1A2B);
+    const QByteArray umlaut = signedLine("\xC3\xA4", 0x1A2B);
     const QByteArray wrong = QByteArray(good).replace(0, 1, "S");
     const QString silent = QStringLiteral("silent");
     const QString closes = QStringLiteral("closes");
@@ -76,21 +76,17 @@ void tst_cotcpsocket::lineOfAPeer_data()
     row("good line", good, silent, QStringLiteral("status"));
     row("good line, then closed", good, closes, QStringLiteral("status"));
     row("byte by byte", good, QStringLiteral("bytewise"), QStringLiteral("status"));
-    row("line end of Windows", QByteArray(good).replace('\n', "\r\n"), silent, QStringLiteral("status"));
     row("UTF-8", umlaut, silent, QStringLiteral("\u00E4"));
     row("zero inside", signedPart(zeros), silent, QString::fromLatin1("a\0b", 3));
     row("nothing", "", silent, {}, QAbstractSocket::SocketTimeoutError, timedOut);
     row("half a line", good.left(10), silent, {}, QAbstractSocket::SocketTimeoutError, timedOut);
+    row("20 MB in one line", QByteArray(20000000, 'x') + '\n', silent, {}, -1,
+        QStringLiteral("No tag separator found!"));
     row("10 MB without a line feed", QByteArray(10000000, 'x'), silent, {},
         QAbstractSocket::SocketTimeoutError, timedOut);
-    row("closes", "", closes, {}, QAbstractSocket::RemoteHostClosedError, closed);
-    row("half a line, then closed", good.left(10), closes, {}, QAbstractSocket::RemoteHostClosedError,
-        closed);
     row("resets", "", QStringLiteral("resets"), {}, QAbstractSocket::RemoteHostClosedError, closed);
     row("wrong signature", wrong, silent, {}, -1, QStringLiteral("Invalid message signature!"));
-    row("other session", Peer::signedLine("status", 0x1A2C), silent, {}, -1,
-        QStringLiteral("Invalid session ID!"));
-    row("garbage", QByteArray("\0\xFF\x80#\n", 5), silent, {}, -1, QStringLiteral("No tag separator found!"));
+    row("other session", signedLine("status", 0x1A2C), silent, {}, -1, QStringLiteral("Invalid session ID!"));
 }
 
 void tst_cotcpsocket::lineOfAPeer()
@@ -104,7 +100,7 @@ void tst_cotcpsocket::lineOfAPeer()
     Peer peer([&](QTcpSocket& socket) {
         if (connection++ > 0)
             return peer.echo(socket);
-        Peer::send(socket, Peer::signedLine("hello", 0x1A2B));
+        Peer::send(socket, signedLine("hello", 0x1A2B));
         const int step = then == QLatin1String("bytewise") ? 1 : qMax(1, sent.size());
         for (int i = 0; i < sent.size(); i += step)
             Peer::send(socket, sent.mid(i, step));
@@ -146,7 +142,7 @@ void tst_cotcpsocket::lineOfAPeer()
 
 void tst_cotcpsocket::peerClosesAtEveryPoint()
 {
-    const QByteArray good = Peer::signedLine("status", 0x1A2B);
+    const QByteArray good = signedLine("status", 0x1A2B);
     int cut = 0;
     Peer peer([&](QTcpSocket& socket) { Peer::send(socket, good.left(cut++)); });
     coTcpSocket socket;
