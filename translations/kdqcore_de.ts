@@ -282,7 +282,7 @@
     </message>
     <message>
         <source>Changes one option of a deck and nothing else; the new lines come from a file. OPTION as in &apos;deck show&apos;, the N-th of several; keep: the old deck stays as FILE.bak.</source>
-        <translation>Ändert eine Option eines Decks und sonst nichts; die neuen Zeilen kommen aus einer Datei. OPTION wie in &apos;deck show&apos;, die N-te von mehreren; keep: das alte Deck bleibt als FILE.bak.</translation>
+        <translation>Ändert eine Option eines Decks und sonst nichts; die neuen Zeilen kommen aus einer Datei. OPTION wie in „deck show“, die N-te von mehreren; keep: das alte Deck bleibt als FILE.bak.</translation>
     </message>
     <message>
         <source>Loads the tables of a deck into the session, under their names, without units.</source>
@@ -290,15 +290,15 @@
     </message>
     <message>
         <source>The deck &apos;%1&apos; cannot be read: %2</source>
-        <translation>Das Deck &apos;%1&apos; kann nicht gelesen werden: %2</translation>
+        <translation>Das Deck „%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>Deck &apos;%1&apos; (%2): options %3, errors %4, warnings %5.</source>
-        <translation>Deck &apos;%1&apos; (%2): Optionen %3, Fehler %4, Warnungen %5.</translation>
+        <translation>Deck „%1“ (%2): Optionen %3, Fehler %4, Warnungen %5.</translation>
     </message>
     <message>
         <source>The deck &apos;%1&apos; has errors: %2.</source>
-        <translation>Das Deck &apos;%1&apos; hat Fehler: %2.</translation>
+        <translation>Das Deck „%1“ hat Fehler: %2.</translation>
     </message>
     <message>
         <source>line</source>
@@ -314,7 +314,7 @@
     </message>
     <message>
         <source>Deck &apos;%1&apos;: %2.</source>
-        <translation>Deck &apos;%1&apos;: %2.</translation>
+        <translation>Deck „%1“: %2.</translation>
     </message>
     <message>
         <source>The decks differ: %1.</source>
@@ -322,15 +322,15 @@
     </message>
     <message>
         <source>The file &apos;%1&apos; of the new lines (with LINESFILE) cannot be read: %2</source>
-        <translation>Die Datei &apos;%1&apos; der neuen Zeilen (with LINESFILE) kann nicht gelesen werden: %2</translation>
+        <translation>Die Datei „%1“ der neuen Zeilen (with LINESFILE) lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no change; possible are replace, before, after, remove.</source>
-        <translation>&apos;%1&apos; ist keine Änderung; möglich sind replace, before, after, remove.</translation>
+        <translation>„%1“ ist keine Änderung; möglich sind replace, before, after, remove.</translation>
     </message>
     <message>
         <source>Tables of &apos;%1&apos;: %2.</source>
-        <translation>Tabellen von &apos;%1&apos;: %2.</translation>
+        <translation>Tabellen von „%1“: %2.</translation>
     </message>
     <message>
         <source>none</source>
@@ -346,11 +346,11 @@
     </message>
     <message>
         <source>&apos;%1&apos; needs a file of the new lines (with LINESFILE).</source>
-        <translation>&apos;%1&apos; braucht eine Datei mit den neuen Zeilen (with LINESFILE).</translation>
+        <translation>„%1“ braucht eine Datei mit den neuen Zeilen (with LINESFILE).</translation>
     </message>
     <message>
         <source>The deck &apos;%1&apos; (%2) holds no option &quot;%3&quot; of number %4; see &apos;deck show&apos;.</source>
-        <translation>Das Deck &apos;%1&apos; (%2) enthält keine Option &quot;%3&quot; mit der Nummer %4; siehe &apos;deck show&apos;.</translation>
+        <translation>Das Deck „%1“ (%2) enthält keine Option „%3“ mit der Nummer %4; siehe „deck show“.</translation>
     </message>
 </context>
 <context>
@@ -376,14 +376,14 @@
     <name>Document</name>
     <message>
         <source>&apos;%1&apos; cannot be written: %2</source>
-        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
     </message>
 </context>
 <context>
     <name>DocumentReader</name>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
-        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+        <translation>„%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>it is a folder.</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>a pair of numbers, or null for a gap</source>
-        <translation>ein Zahlenpaar, oder null für eine Lücke,</translation>
+        <translation>ein Zahlenpaar oder null für eine Lücke</translation>
     </message>
     <message>
         <source>The picture&apos;s description is wrong: it must be an object.</source>
@@ -571,7 +571,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
-        <translation>„%1“ ist nicht lesbar: %2</translation>
+        <translation>„%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>Heat treatments: the stages of a process, their settings and curves.</source>
@@ -699,7 +699,7 @@
     </message>
     <message>
         <source>No enabled stage of process &apos;%1&apos; takes time and has a temperature.</source>
-        <translation>Keine aktive Stufe des Prozesses „%1“ dauert eine Zeit und hat eine Temperatur.</translation>
+        <translation>Keine eingeschaltete Stufe des Prozesses „%1“ dauert eine Zeit und hat eine Temperatur.</translation>
     </message>
     <message>
         <source>The stage has no input &apos;%1&apos;.</source>
@@ -843,7 +843,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; cannot be opened: %2</source>
-        <translation>„%1“ kann nicht geöffnet werden: %2</translation>
+        <translation>„%1“ lässt sich nicht öffnen: %2</translation>
     </message>
     <message>
         <source>Process %1 listens as %2.</source>
@@ -886,7 +886,7 @@
     </message>
     <message>
         <source>Waiting for the lock of &apos;%1&apos;</source>
-        <translation>Warten auf die Sperre von &apos;%1&apos;</translation>
+        <translation>Warten auf die Sperre von „%1“</translation>
     </message>
     <message>
         <source>Who may write in a project folder.</source>
@@ -894,7 +894,7 @@
     </message>
     <message>
         <source>Locks a folder until &apos;lock release&apos; or the end; waits for another owner if told to.</source>
-        <translation>Sperrt einen Ordner bis &apos;lock release&apos; oder zum Ende; wartet auf Wunsch auf einen anderen Besitzer.</translation>
+        <translation>Sperrt einen Ordner bis „lock release“ oder zum Ende; wartet auf Wunsch auf einen anderen Besitzer.</translation>
     </message>
     <message>
         <source>Keeps a folder locked for a time; locks it for that time where it is not locked yet.</source>
@@ -906,7 +906,7 @@
     </message>
     <message>
         <source>Ends the lock that &apos;lock take&apos; made.</source>
-        <translation>Beendet die Sperre, die &apos;lock take&apos; gesetzt hat.</translation>
+        <translation>Beendet die Sperre, die „lock take“ gesetzt hat.</translation>
     </message>
     <message>
         <source>Removes a lock whose owner has died or is long silent.</source>
@@ -914,23 +914,23 @@
     </message>
     <message>
         <source>Folder &apos;%1&apos; locked.</source>
-        <translation>Ordner &apos;%1&apos; gesperrt.</translation>
+        <translation>Ordner „%1“ gesperrt.</translation>
     </message>
     <message>
         <source>Holding the lock of &apos;%1&apos;</source>
-        <translation>Halten der Sperre von &apos;%1&apos;</translation>
+        <translation>Halten der Sperre von „%1“</translation>
     </message>
     <message>
         <source>The lock of &apos;%1&apos; was lost to another process.</source>
-        <translation>Die Sperre von &apos;%1&apos; ging an einen anderen Prozess verloren.</translation>
+        <translation>Die Sperre von „%1“ ging an einen anderen Prozess verloren.</translation>
     </message>
     <message>
         <source>Folder &apos;%1&apos; is not locked.</source>
-        <translation>Ordner &apos;%1&apos; ist nicht gesperrt.</translation>
+        <translation>Ordner „%1“ ist nicht gesperrt.</translation>
     </message>
     <message>
         <source>Folder &apos;%1&apos; is locked by %2, refreshed %3 s ago.</source>
-        <translation>Ordner &apos;%1&apos; ist von %2 gesperrt, aufgefrischt vor %3 s.</translation>
+        <translation>Ordner „%1“ ist von %2 gesperrt, aufgefrischt vor %3 s.</translation>
     </message>
     <message>
         <source>an owner that cannot be read</source>
@@ -938,23 +938,23 @@
     </message>
     <message>
         <source>Folder &apos;%1&apos; has not been locked by &apos;lock take&apos;.</source>
-        <translation>Ordner &apos;%1&apos; wurde nicht mit &apos;lock take&apos; gesperrt.</translation>
+        <translation>Ordner „%1“ wurde nicht mit „lock take“ gesperrt.</translation>
     </message>
     <message>
         <source>Folder &apos;%1&apos; released.</source>
-        <translation>Ordner &apos;%1&apos; freigegeben.</translation>
+        <translation>Ordner „%1“ freigegeben.</translation>
     </message>
     <message>
         <source>Folder &apos;%1&apos; stays locked for the open deck.</source>
-        <translation>Ordner &apos;%1&apos; bleibt für das offene Deck gesperrt.</translation>
+        <translation>Ordner „%1“ bleibt für das offene Deck gesperrt.</translation>
     </message>
     <message>
         <source>Stale lock of folder &apos;%1&apos; removed.</source>
-        <translation>Veraltete Sperre des Ordners &apos;%1&apos; entfernt.</translation>
+        <translation>Veraltete Sperre des Ordners „%1“ entfernt.</translation>
     </message>
     <message>
         <source>The lock of &apos;%1&apos; is not stale: %2 holds it.</source>
-        <translation>Die Sperre von &apos;%1&apos; ist nicht veraltet: sie gehört %2.</translation>
+        <translation>Die Sperre von „%1“ ist nicht veraltet: sie gehört %2.</translation>
     </message>
 </context>
 <context>
@@ -1035,7 +1035,7 @@
     </message>
     <message>
         <source>&lt;h2&gt;Tables, heat treatments, decks&lt;/h2&gt;&lt;p&gt;Open a file (%1), or drop files here.&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Tabellen, Wärmebehandlungen, Decks&lt;/h2&gt;&lt;p&gt;Öffnen Sie eine Datei (%1), oder ziehen Sie Dateien hierher.&lt;/p&gt;</translation>
+        <translation>&lt;h2&gt;Tabellen, Wärmebehandlungen, Decks&lt;/h2&gt;&lt;p&gt;Eine Datei öffnen (%1) oder Dateien hierher ziehen.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -1219,7 +1219,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; cannot be written: %2</source>
-        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
     </message>
 </context>
 <context>
@@ -1532,11 +1532,11 @@
     </message>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
-        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+        <translation>„%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be written: %2</source>
-        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
     </message>
 </context>
 <context>
@@ -1570,7 +1570,7 @@
     </message>
     <message>
         <source>Cannot accept a connection: %1</source>
-        <translation>Eine Verbindung kann nicht angenommen werden: %1</translation>
+        <translation>Eine Verbindung lässt sich nicht annehmen: %1</translation>
     </message>
     <message>
         <source>Serving %1.</source>
@@ -1586,7 +1586,7 @@
     </message>
     <message>
         <source>The command failed.</source>
-        <translation>Der Befehl ist fehlgeschlagen.</translation>
+        <translation>Der Befehl ist gescheitert.</translation>
     </message>
     <message>
         <source>The other shell does not answer: %1</source>
@@ -1594,7 +1594,7 @@
     </message>
     <message>
         <source>There is no connection; see &apos;remote connect&apos;.</source>
-        <translation>Es besteht keine Verbindung; siehe &apos;remote connect&apos;.</translation>
+        <translation>Es besteht keine Verbindung; siehe „remote connect“.</translation>
     </message>
     <message>
         <source>Lets other shells run commands in this one, one after the other, N in all or without end; on this machine only, unless ADDRESS says more.</source>
@@ -1638,7 +1638,7 @@
     <name>Shell</name>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
-        <translation>„%1“ ist nicht lesbar: %2</translation>
+        <translation>„%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>kdqsh %1. &apos;help&apos; shows the commands, &apos;quit&apos; ends the session.</source>
@@ -1726,7 +1726,7 @@
     </message>
     <message>
         <source>The deck &apos;%1&apos; is written, but its folder&apos;s lock was lost to another process, which may have written there too.</source>
-        <translation>Das Deck &apos;%1&apos; ist geschrieben, aber die Sperre seines Ordners ging an einen anderen Prozess verloren, der dort ebenfalls geschrieben haben kann.</translation>
+        <translation>Das Deck „%1“ ist geschrieben, aber die Sperre seines Ordners ging an einen anderen Prozess verloren, der dort ebenfalls geschrieben haben kann.</translation>
     </message>
 </context>
 <context>
@@ -1790,7 +1790,7 @@
     <name>ShellListener</name>
     <message>
         <source>&apos;%1&apos; is no address of the form 127.0.0.1 or ::1.</source>
-        <translation>&apos;%1&apos; ist keine Adresse der Form 127.0.0.1 oder ::1.</translation>
+        <translation>„%1“ ist keine Adresse der Form 127.0.0.1 oder ::1.</translation>
     </message>
     <message>
         <source>A port is 0 to 65535, not %1.</source>
@@ -1833,19 +1833,19 @@
     </message>
     <message>
         <source>You have no permission to lock the folder &apos;%1&apos;.</source>
-        <translation>Sie dürfen den Ordner &apos;%1&apos; nicht sperren.</translation>
+        <translation>Keine Berechtigung, den Ordner „%1“ zu sperren.</translation>
     </message>
     <message>
         <source>The folder &apos;%1&apos; cannot be locked; the log says why.</source>
-        <translation>Der Ordner &apos;%1&apos; kann nicht gesperrt werden; den Grund nennt das Protokoll.</translation>
+        <translation>Der Ordner „%1“ lässt sich nicht sperren; den Grund nennt das Protokoll.</translation>
     </message>
     <message>
         <source>The folder &apos;%1&apos; is locked; by whom cannot be read.</source>
-        <translation>Der Ordner &apos;%1&apos; ist gesperrt; von wem, ist nicht lesbar.</translation>
+        <translation>Der Ordner „%1“ ist gesperrt; von wem, lässt sich nicht lesen.</translation>
     </message>
     <message>
         <source>The folder &apos;%1&apos; is locked by %2.</source>
-        <translation>Der Ordner &apos;%1&apos; ist von %2 gesperrt.</translation>
+        <translation>Der Ordner „%1“ ist von %2 gesperrt.</translation>
     </message>
 </context>
 <context>
@@ -1897,8 +1897,8 @@ failed, 2 if this command line was wrong. &quot;-basePath FOLDER&quot; names the
 &quot;-undoSetup&quot; for this run only.</source>
         <translation>Tabellen von Werkstoffdaten und Eingabedecks des Solvers durch Textbefehle. Die Befehle kommen aus einem
 Skript, aus -c, von der Standardeingabe oder von einer Eingabezeile. Der Endestatus ist 0 nur, wenn alles
-gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war. &quot;-basePath ORDNER&quot; nennt die
-Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
+gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war. „-basePath ORDNER“ nennt die
+Installation, mit „-undoSetup“ nur für diesen Lauf.</translation>
     </message>
 </context>
 <context>
@@ -2076,7 +2076,7 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
-        <translation>„%1“ ist nicht lesbar: %2</translation>
+        <translation>„%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>Reading &apos;%1&apos;</source>
@@ -2169,11 +2169,11 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>There is no connection; see &apos;tcp serve&apos; and &apos;tcp connect&apos;.</source>
-        <translation>Es besteht keine Verbindung; siehe &apos;tcp serve&apos; und &apos;tcp connect&apos;.</translation>
+        <translation>Es besteht keine Verbindung; siehe „tcp serve“ und „tcp connect“.</translation>
     </message>
     <message>
         <source>A signed line cannot hold &apos;%1&apos;, only Latin-1.</source>
-        <translation>Eine signierte Zeile kann &apos;%1&apos; nicht enthalten, nur Latin-1.</translation>
+        <translation>Eine signierte Zeile kann „%1“ nicht enthalten, nur Latin-1.</translation>
     </message>
 </context>
 <context>
@@ -2264,7 +2264,7 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>no keyword line of the deck names the node list &apos;%1&apos;.</source>
-        <translation>keine Schlüsselwortzeile des Decks nennt die Knotenliste &apos;%1&apos;.</translation>
+        <translation>keine Schlüsselwortzeile des Decks nennt die Knotenliste „%1“.</translation>
     </message>
 </context>
 <context>
@@ -2348,46 +2348,46 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>%1 &apos;%2&apos;</source>
-        <translation>%1 &apos;%2&apos;</translation>
+        <translation>%1 „%2“</translation>
     </message>
 </context>
 <context>
     <name>coDeckPatch</name>
     <message>
         <source>The deck &apos;%1&apos; cannot be read: %2</source>
-        <translation>Das Deck &apos;%1&apos; kann nicht gelesen werden: %2</translation>
+        <translation>Das Deck „%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>The folder of &apos;%1&apos; is locked by process %2 (%3) on %4.</source>
-        <translation>Der Ordner von &apos;%1&apos; ist von Prozess %2 (%3) auf %4 gesperrt.</translation>
+        <translation>Der Ordner von „%1“ ist von Prozess %2 (%3) auf %4 gesperrt.</translation>
     </message>
     <message>
         <source>The folder of &apos;%1&apos; cannot be locked.</source>
-        <translation>Der Ordner von &apos;%1&apos; kann nicht gesperrt werden.</translation>
+        <translation>Der Ordner von „%1“ lässt sich nicht sperren.</translation>
     </message>
     <message>
         <source>The deck &apos;%1&apos; was changed by somebody else; read it again.</source>
-        <translation>Das Deck &apos;%1&apos; wurde inzwischen von jemand anderem geändert; lesen Sie es neu ein.</translation>
+        <translation>Das Deck „%1“ wurde inzwischen von jemand anderem geändert; neu einlesen.</translation>
     </message>
     <message>
         <source>No file can be written beside &apos;%1&apos;: %2</source>
-        <translation>Neben &apos;%1&apos; kann keine Datei geschrieben werden: %2</translation>
+        <translation>Neben „%1“ kann keine Datei geschrieben werden: %2</translation>
     </message>
     <message>
         <source>The old deck cannot be kept as &apos;%1&apos;.</source>
-        <translation>Das alte Deck kann nicht als &apos;%1&apos; aufgehoben werden.</translation>
+        <translation>Das alte Deck kann nicht als „%1“ aufgehoben werden.</translation>
     </message>
     <message>
         <source>The changed deck cannot take the place of &apos;%1&apos;: %2</source>
-        <translation>Das geänderte Deck kann &apos;%1&apos; nicht ersetzen: %2</translation>
+        <translation>Das geänderte Deck kann „%1“ nicht ersetzen: %2</translation>
     </message>
     <message>
         <source>The changed deck cannot be written: %1</source>
-        <translation>Das geänderte Deck kann nicht geschrieben werden: %1</translation>
+        <translation>Das geänderte Deck lässt sich nicht schreiben: %1</translation>
     </message>
     <message>
         <source>The deck &apos;%1&apos; stays as it was: there are no new lines.</source>
-        <translation>Das Deck &apos;%1&apos; bleibt, wie es war: Es gibt keine neuen Zeilen.</translation>
+        <translation>Das Deck „%1“ bleibt, wie es war: Es gibt keine neuen Zeilen.</translation>
     </message>
 </context>
 <context>
@@ -2406,7 +2406,7 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>data line expected, found &apos;%1&apos;.</source>
-        <translation>Datenzeile erwartet, &apos;%1&apos; gefunden.</translation>
+        <translation>Datenzeile erwartet, „%1“ gefunden.</translation>
     </message>
     <message>
         <source>data line expected, found the end of the deck.</source>
@@ -2418,7 +2418,7 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>&apos;time step&apos; expected, found &apos;%1&apos;.</source>
-        <translation>&apos;time step&apos; erwartet, &apos;%1&apos; gefunden.</translation>
+        <translation>„time step“ erwartet, „%1“ gefunden.</translation>
     </message>
     <message>
         <source>%1 is the number of no solver.</source>
@@ -2442,7 +2442,7 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>end of line expected, found &apos;%1&apos;.</source>
-        <translation>Zeilenende erwartet, &apos;%1&apos; gefunden.</translation>
+        <translation>Zeilenende erwartet, „%1“ gefunden.</translation>
     </message>
     <message>
         <source>%1 expected in field %2, found nothing.</source>
@@ -2450,7 +2450,7 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>%1 expected in field %2, found &apos;%3&apos;.</source>
-        <translation>%1 in Feld %2 erwartet, &apos;%3&apos; gefunden.</translation>
+        <translation>%1 in Feld %2 erwartet, „%3“ gefunden.</translation>
     </message>
     <message>
         <source>field %1 is %2, where cards write %3.</source>
@@ -2510,11 +2510,11 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>finite number expected, found &apos;%1&apos;.</source>
-        <translation>endliche Zahl erwartet, &apos;%1&apos; gefunden.</translation>
+        <translation>endliche Zahl erwartet, „%1“ gefunden.</translation>
     </message>
     <message>
         <source>number expected, found &apos;%1&apos;.</source>
-        <translation>Zahl erwartet, &apos;%1&apos; gefunden.</translation>
+        <translation>Zahl erwartet, „%1“ gefunden.</translation>
     </message>
     <message>
         <source>two values of a variable are too close to be told apart.</source>
@@ -2556,7 +2556,7 @@ Installation, mit &quot;-undoSetup&quot; nur für diesen Lauf.</translation>
     </message>
     <message>
         <source>The formula of &apos;%1&apos; cannot be read: %2 %3</source>
-        <translation>Die Formel von „%1“ ist nicht lesbar: %2 %3</translation>
+        <translation>Die Formel von „%1“ lässt sich nicht lesen: %2 %3</translation>
     </message>
     <message>
         <source>The formula of &apos;%1&apos; uses &apos;%2&apos;, which is not defined.</source>
@@ -2608,7 +2608,7 @@ which evaluates to:
  %2</source>
         <translation>Im Ausdruck:
  %1
-der ausgewertet lautet:
+dessen Auswertung ergibt:
  %2</translation>
     </message>
     <message>
@@ -2714,7 +2714,7 @@ der ausgewertet lautet:
     </message>
     <message>
         <source>Failed to read the value of the XML element %1 of stage %2.</source>
-        <translation>Der Wert des XML-Elements %1 der Stufe %2 ist nicht lesbar.</translation>
+        <translation>Der Wert des XML-Elements %1 der Stufe %2 lässt sich nicht lesen.</translation>
     </message>
 </context>
 <context>
@@ -2729,7 +2729,7 @@ der ausgewertet lautet:
     </message>
     <message>
         <source>Failed to read the value of the XML element: %1</source>
-        <translation>Der Wert des XML-Elements ist nicht lesbar: %1</translation>
+        <translation>Der Wert des XML-Elements lässt sich nicht lesen: %1</translation>
     </message>
 </context>
 <context>
@@ -2751,7 +2751,7 @@ der ausgewertet lautet:
     </message>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
-        <translation>„%1“ ist nicht lesbar: %2</translation>
+        <translation>„%1“ lässt sich nicht lesen: %2</translation>
     </message>
     <message>
         <source>The folder &apos;%1&apos; of the project cannot be made.</source>
@@ -2846,7 +2846,7 @@ der ausgewertet lautet:
     </message>
     <message>
         <source>Element &apos;%1&apos; cannot be read.</source>
-        <translation>Element „%1“ ist nicht lesbar.</translation>
+        <translation>Element „%1“ lässt sich nicht lesen.</translation>
     </message>
 </context>
 <context>
@@ -3487,7 +3487,7 @@ der ausgewertet lautet:
     </message>
     <message>
         <source>Voltage</source>
-        <translation>Spannung (elektrisch)</translation>
+        <translation>Elektrische Spannung</translation>
     </message>
     <message>
         <source>Resistance</source>
@@ -3860,11 +3860,11 @@ der ausgewertet lautet:
     </message>
     <message>
         <source>Could not get version info of file &apos;%1&apos;.</source>
-        <translation>Die Versionsinformation der Datei „%1“ ist nicht lesbar.</translation>
+        <translation>Die Versionsinformation der Datei „%1“ lässt sich nicht lesen.</translation>
     </message>
     <message>
         <source>Failed to query version info translation values.</source>
-        <translation>Die Übersetzungswerte der Versionsinformation sind nicht lesbar.</translation>
+        <translation>Die Übersetzungswerte der Versionsinformation lassen sich nicht lesen.</translation>
     </message>
     <message>
         <source>Resource language unknown.</source>
@@ -3872,7 +3872,7 @@ der ausgewertet lautet:
     </message>
     <message>
         <source>Failed to query version info value.</source>
-        <translation>Der Wert der Versionsinformation ist nicht lesbar.</translation>
+        <translation>Der Wert der Versionsinformation lässt sich nicht lesen.</translation>
     </message>
     <message>
         <source>File &apos;%1&apos; is not a valid Windows executable.</source>
@@ -3899,7 +3899,7 @@ der ausgewertet lautet:
     </message>
     <message>
         <source>The columns have %1 different quantities (%2), and a picture has two y axes at most; choose columns.</source>
-        <translation>Die Spalten haben %1 verschiedene Größen (%2), und ein Bild hat höchstens zwei y-Achsen; wählen Sie Spalten aus.</translation>
+        <translation>Die Spalten haben %1 verschiedene Größen (%2), und ein Bild hat höchstens zwei y-Achsen; Spalten auswählen.</translation>
     </message>
     <message>
         <source>The x axis shows %1, which has no unit &apos;%2&apos;.</source>
