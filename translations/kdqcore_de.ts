@@ -1472,6 +1472,10 @@
         <source>One process is drawn at a time: NAME to FILE.</source>
         <translation>Ein Prozess wird auf einmal gezeichnet: NAME to FILE.</translation>
     </message>
+    <message>
+        <source>&apos;names&apos; gives %1 names to %2 curves.</source>
+        <translation>„names“ gibt %2 Kurven %1 Namen.</translation>
+    </message>
 </context>
 <context>
     <name>PlotProgram</name>

@@ -1,5 +1,7 @@
 #include "figure.h"
 
+#include "clipping.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -16,6 +18,22 @@ QVector<QPointF> withCorners(const QVector<QPointF>& points)
     }
     return steps;
 }
+
+/// From the values of an axis to where they stand on it, and back.
+struct AxisScale {
+    bool isLogarithmic;
+
+    double to(double value) const { return isLogarithmic ? std::log10(value) : value; }
+    double from(double position) const { return isLogarithmic ? std::pow(10.0, position) : position; }
+
+    void setEnds(const Figure::Axis& axis, double& from, double& to) const
+    {
+        if (!std::isnan(axis.from))
+            from = this->to(axis.from);
+        if (!std::isnan(axis.to))
+            to = this->to(axis.to);
+    }
+};
 
 /// The neighbours that share a column of the picture.
 class Run {
@@ -79,7 +97,32 @@ QVector<QVector<QPointF>> Figure::pieces(const Curve& curve) const
     }
     if (curve.form == Curve::Steps)
         std::transform(pieces.begin(), pieces.end(), pieces.begin(), withCorners);
-    return pieces;
+    return clipped(pieces, curve.form, yAxis);
+}
+
+/// Straight lines are straight where the axes are: on logarithmic ones between the logarithms.
+QVector<QVector<QPointF>> Figure::clipped(const QVector<QVector<QPointF>>& pieces, Curve::Form form,
+                                          const Axis& yAxis) const
+{
+    const AxisScale xScale{x.isLogarithmic};
+    const AxisScale yScale{yAxis.isLogarithmic};
+    Window window;
+    xScale.setEnds(x, window.left, window.right);
+    yScale.setEnds(yAxis, window.bottom, window.top);
+    if (window.isOpen())
+        return pieces;
+    QVector<QVector<QPointF>> result;
+    for (QVector<QPointF> piece : pieces) {
+        for (QPointF& point : piece)
+            point = {xScale.to(point.x()), yScale.to(point.y())};
+        QVector<QVector<QPointF>> parts =
+            form == Curve::Points ? window.contained(piece) : window.clipped(piece);
+        for (QVector<QPointF>& part : parts)
+            for (QPointF& point : part)
+                point = {xScale.from(point.x()), yScale.from(point.y())};
+        result += parts;
+    }
+    return result;
 }
 
 QVector<QPointF> Figure::thinned(const QVector<QPointF>& points, double from, double to, int columns)

@@ -70,12 +70,13 @@ public:
     /// Why this cannot be drawn, in words for the user; empty where it can.
     QString fault() const;
 
-    /// The stretches of a curve that can be drawn, in order, without the gaps between: each has a point at
-    /// least. On a logarithmic axis what is not positive is a gap. Steps have their corners as points.
+    /// The pieces of a curve that can be drawn, in order, without the gaps between: each has a point at
+    /// least. On a logarithmic axis what is not positive is a gap. Steps have their corners as points. Lines
+    /// are cut off where an axis ends by its from and to, as not every format of pictures does that itself.
     QVector<QVector<QPointF>> pieces(const Curve& curve) const;
 
-    /// Whether two stretches of points differ to the eye from those that are left: of neighbours that fall
-    /// into the same of \a columns between \a from and \a to, the first, lowest, highest and last stay.
+    /// The points without those that make no difference to the eye: of neighbours that fall into the same of
+    /// \a columns between \a from and \a to, the first, lowest, highest and last stay.
     static QVector<QPointF> thinned(const QVector<QPointF>& points, double from, double to, int columns);
 
     /// Compact, with all digits of the numbers, in UTF-8.
@@ -89,4 +90,6 @@ private:
     QString faultOfAxis(const Axis& axis) const;
     QString faultOfCurve(const Curve& curve, int& pieceCount) const;
     bool isDrawable(const QPointF& point, const Axis& yAxis) const;
+    QVector<QVector<QPointF>> clipped(const QVector<QVector<QPointF>>& pieces, Curve::Form form,
+                                      const Axis& yAxis) const;
 };

@@ -1,12 +1,17 @@
 #include "tablefigure.h"
 
+#include <algorithm>
+
 namespace {
 
-/// Names are made for scripts, titles for people.
+/// The title, else the name, which was made for scripts, as people write it: "Yield stress" for yield_stress.
 QString titleOf(const kdDataColumn& column)
 {
-    return column.title().isEmpty() ? column.name().replace(QLatin1Char('_'), QLatin1Char(' '))
-                                    : column.title();
+    constexpr int longestSymbol = 3; // whose case means something
+    QString name = column.name().replace(QLatin1Char('_'), QLatin1Char(' '));
+    if (name.size() > longestSymbol)
+        name[0] = name.at(0).toUpper();
+    return column.title().isEmpty() ? name : column.title();
 }
 
 /// A column on its way to the figure: its values, in the unit of its axis in the end.
@@ -14,6 +19,18 @@ struct Values {
     kdDataColumn x;
     kdDataColumn y;
     const kdDataTable* table;
+    bool isRight;
+};
+
+struct YAxis {
+    kdUnitSystem unit;
+    bool isRight;
+    bool hasWantedUnit = false;
+
+    bool isFor(const Values& values) const
+    {
+        return values.y.getUnitSystem().dimension() == unit.dimension() && values.isRight == isRight;
+    }
 };
 
 class TableFigure {
@@ -35,7 +52,8 @@ public:
             if (!table.column(x) || !table.column(column))
                 return fail(tr("Table '%1' has no column %2.")
                                 .arg(table.name(), QString::number((table.column(x) ? column : x) + 1)));
-            m_values.append({table.columnRef(x), table.columnRef(column), &table});
+            m_values.append(
+                {table.columnRef(x), table.columnRef(column), &table, source.right.contains(column)});
         }
         return true;
     }
@@ -46,15 +64,15 @@ public:
             return false;
         Figure result;
         for (Values& values : m_values) {
-            const int axis = axisIndex(values.y.getUnitSystem().dimension());
-            if (!convert(values.x, m_xUnit) || !convert(values.y, m_yUnits.at(axis)))
+            const int axis = axisIndex(values);
+            if (!convert(values.x, m_xUnit) || !convert(values.y, m_yAxes.at(axis).unit))
                 return false;
             result.curves.append({nameOf(values), pointsOf(values), axis, m_options.form});
         }
         result.title = commonTableName();
         result.x = xAxis();
-        for (const kdUnitSystem& unit : qAsConst(m_yUnits))
-            result.y.append(yAxis(unit));
+        for (const YAxis& axis : qAsConst(m_yAxes))
+            result.y.append(yAxis(axis));
         figure = result;
         return true;
     }
@@ -82,10 +100,10 @@ private:
         return columns;
     }
 
-    int axisIndex(kdUnitSystem::Dimension dimension) const
+    int axisIndex(const Values& values) const
     {
         int index = 0;
-        while (index < m_yUnits.size() && m_yUnits.at(index).dimension() != dimension)
+        while (index < m_yAxes.size() && !m_yAxes.at(index).isFor(values))
             ++index;
         return index;
     }
@@ -100,13 +118,15 @@ private:
                         .arg(m_values.constFirst().table->name(), values.table->name(),
                              kdUnitSystem::translatedDimensionName(m_xUnit.dimension()),
                              kdUnitSystem::translatedDimensionName(values.x.getUnitSystem().dimension())));
-            if (axisIndex(values.y.getUnitSystem().dimension()) == m_yUnits.size())
-                m_yUnits.append(unitOf(values.y));
+            if (axisIndex(values) == m_yAxes.size())
+                m_yAxes.append({unitOf(values.y), values.isRight});
         }
-        if (m_yUnits.size() > 2)
+        std::stable_sort(m_yAxes.begin(), m_yAxes.end(),
+                         [](const YAxis& a, const YAxis& b) { return !a.isRight && b.isRight; });
+        if (m_yAxes.size() > 2)
             return fail(tr("The columns have %1 different quantities (%2), and a picture has two y axes at "
                            "most; choose columns.")
-                            .arg(QString::number(m_yUnits.size()), quantities()));
+                            .arg(QString::number(m_yAxes.size()), quantities()));
         return takeWantedUnits();
     }
 
@@ -119,18 +139,23 @@ private:
             return fail(
                 tr("The x axis shows %1, which has no unit '%2'.")
                     .arg(kdUnitSystem::translatedDimensionName(m_xUnit.dimension()), m_options.xUnit));
-        for (const QString& symbol : m_options.yUnits) {
-            fits = false;
-            for (kdUnitSystem& unit : m_yUnits)
-                if (bool isUnit = false; !fits) {
-                    const kdUnitSystem wanted = kdUnitSystem::fromSymbol(symbol, unit.dimension(), &isUnit);
-                    fits = isUnit;
-                    unit = isUnit ? wanted : unit;
-                }
-            if (!fits)
+        for (const QString& symbol : m_options.yUnits)
+            if (!takeWantedUnit(symbol))
                 return fail(tr("No y axis can be shown in '%1'; they show %2.").arg(symbol, quantities()));
-        }
         return true;
+    }
+
+    bool takeWantedUnit(const QString& symbol)
+    {
+        for (YAxis& axis : m_yAxes) {
+            bool isKnown = false;
+            const kdUnitSystem wanted = kdUnitSystem::fromSymbol(symbol, axis.unit.dimension(), &isKnown);
+            if (isKnown && !axis.hasWantedUnit) {
+                axis = {wanted, axis.isRight, true};
+                return true;
+            }
+        }
+        return false;
     }
 
     kdUnitSystem unitOf(const kdDataColumn& column) const
@@ -142,8 +167,8 @@ private:
     QString quantities() const
     {
         QStringList names;
-        for (const kdUnitSystem& unit : m_yUnits)
-            names.append(kdUnitSystem::translatedDimensionName(unit.dimension()));
+        for (const YAxis& axis : m_yAxes)
+            names.append(kdUnitSystem::translatedDimensionName(axis.unit.dimension()));
         return names.join(QLatin1String(", "));
     }
 
@@ -186,13 +211,13 @@ private:
         return axis(titles, m_xUnit);
     }
 
-    Figure::Axis yAxis(const kdUnitSystem& unit) const
+    Figure::Axis yAxis(const YAxis& yAxis) const
     {
         QStringList titles;
         for (const Values& values : m_values)
-            if (values.y.getUnitSystem().dimension() == unit.dimension())
+            if (yAxis.isFor(values))
                 titles.append(titleOf(values.y));
-        return axis(titles, unit);
+        return axis(titles, yAxis.unit);
     }
 
     /// The title that all columns have, else the name of the dimension.
@@ -208,7 +233,7 @@ private:
     const nTableFigure::Options& m_options;
     QVector<Values> m_values;
     kdUnitSystem m_xUnit;
-    QVector<kdUnitSystem> m_yUnits;
+    QVector<YAxis> m_yAxes;
 };
 
 } // namespace

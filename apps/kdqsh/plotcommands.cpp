@@ -19,19 +19,20 @@ const ShellCommandGroup& PlotCommands::group()
         QT_TR_NOOP("Pictures of tables, formulas and heat treatments, as SVG or PNG."),
         {
             {"table",
-             "NAME... to FILE [columns X,Y,...] [steps|points] [title TEXT] [size WxH] [xunit UNIT] "
-             "[yunit UNIT,...] [xtitle TEXT] [ytitle TEXT] [xrange A B] [yrange A B] [logx] [logy]",
+             "NAME... to FILE [columns X,Y,...] [right Y,...] [steps|points] [title TEXT] [names TEXT,...] "
+             "[size WxH] [xunit UNIT] [yunit UNIT,...] [xtitle TEXT] [ytitle TEXT] [y2title TEXT] "
+             "[xrange A B] [yrange A B] [logx] [logy]",
              QT_TR_NOOP("Draws columns of tables; two y axes where they have two kinds of units."), 3,
              anyNumber, Entry::Query, table},
             {"formula",
-             "FORMULA... over NAME from A to B to FILE [title TEXT] [size WxH] [xunit UNIT] [yunit UNIT] "
-             "[xtitle TEXT] [ytitle TEXT] [xrange A B] [yrange A B] [logx] [logy]",
+             "FORMULA... over NAME from A to B to FILE [title TEXT] [names TEXT,...] [size WxH] [xunit UNIT] "
+             "[yunit UNIT] [xtitle TEXT] [ytitle TEXT] [xrange A B] [yrange A B] [logx] [logy]",
              QT_TR_NOOP("Draws the values of formulas while one variable runs, with gaps where they have "
                         "none."),
              7, anyNumber, Entry::Query, formula},
             {"heat",
-             "NAME to FILE [title TEXT] [size WxH] [xunit UNIT] [yunit UNIT,...] [xtitle TEXT] "
-             "[ytitle TEXT] [xrange A B] [yrange A B] [logx] [logy]",
+             "NAME to FILE [title TEXT] [names TEXT,...] [size WxH] [xunit UNIT] [yunit UNIT,...] "
+             "[xtitle TEXT] [ytitle TEXT] [y2title TEXT] [xrange A B] [yrange A B] [logx] [logy]",
              QT_TR_NOOP("Draws temperature and carbon potential of a process over its stages."), 3, anyNumber,
              Entry::Query, heat},
         }};
@@ -46,20 +47,27 @@ ShellParameters& PlotCommands::Options::addTo(ShellParameters& parameters)
         .text("yunit", yUnits)
         .text("xtitle", xTitle)
         .text("ytitle", yTitle)
+        .text("y2title", y2Title)
+        .text("names", names)
         .reals("xrange", {&xFrom, &xTo})
         .reals("yrange", {&yFrom, &yTo})
         .flag("logx", isXLogarithmic)
         .flag("logy", isYLogarithmic);
 }
 
-void PlotCommands::Options::applyTo(Figure& figure) const
+bool PlotCommands::Options::applyTo(const ShellCall& call, Figure& figure) const
 {
-    if (!title.isEmpty())
-        figure.title = title;
-    if (!xTitle.isEmpty())
-        figure.x.title = xTitle;
-    if (!yTitle.isEmpty())
-        figure.y.first().title = yTitle;
+    const auto set = [](QString& text, const QString& wanted) { text = wanted.isEmpty() ? text : wanted; };
+    const QStringList nameList = names.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    if (!nameList.isEmpty() && nameList.size() != figure.curves.size())
+        return call.fail(tr("'names' gives %1 names to %2 curves.")
+                             .arg(QString::number(nameList.size()), QString::number(figure.curves.size())));
+    for (int i = 0; i < nameList.size(); ++i)
+        figure.curves[i].name = nameList.at(i).trimmed();
+    set(figure.title, title);
+    set(figure.x.title, xTitle);
+    set(figure.y.first().title, yTitle);
+    set(figure.y.last().title, figure.y.size() > 1 ? y2Title : QString());
     figure.x.from = xFrom;
     figure.x.to = xTo;
     figure.y.first().from = yFrom;
@@ -67,6 +75,7 @@ void PlotCommands::Options::applyTo(Figure& figure) const
     figure.x.isLogarithmic = isXLogarithmic;
     for (Figure::Axis& axis : figure.y)
         axis.isLogarithmic = isYLogarithmic;
+    return true;
 }
 
 /// Where "to FILE" stands. A formula has another "to", the end of its range, so the file is known by its
@@ -87,27 +96,22 @@ int PlotCommands::fileIndex(const ShellCall& call)
 bool PlotCommands::draw(const ShellCall& call, const Options& options, Figure& figure)
 {
     QString error;
-    options.applyTo(figure);
+    if (!options.applyTo(call, figure))
+        return false;
     if (!PlotProgram::draw(figure, options.file, options.size, error))
         return call.fail(error);
     call.tell(tr("Picture '%1' drawn.").arg(options.file));
     return true;
 }
 
-bool PlotCommands::readColumns(const ShellCall& call, const kdDataTable& table, const QString& words, int& x,
-                               QVector<int>& y)
+bool PlotCommands::readColumns(const ShellCall& call, const kdDataTable& table, const QString& words,
+                               QVector<int>& columns)
 {
     const QStringList list = words.split(QLatin1Char(','), Qt::SkipEmptyParts);
-    if (list.size() == 1)
-        return call.fail(tr("'columns' needs the column of the x axis and one at least to draw."));
-    for (int i = 0; i < list.size(); ++i) {
-        const int column = TableCommands::columnIndex(call, table, list.at(i));
-        if (column < 0)
+    for (const QString& word : list) {
+        columns.append(TableCommands::columnIndex(call, table, word));
+        if (columns.last() < 0)
             return false;
-        if (i == 0)
-            x = column;
-        else
-            y.append(column);
     }
     return true;
 }
@@ -116,6 +120,7 @@ bool PlotCommands::table(ShellCall& call)
 {
     Options options;
     QString columns;
+    QString right;
     bool isSteps = false;
     bool isPoints = false;
     const int file = fileIndex(call);
@@ -123,16 +128,21 @@ bool PlotCommands::table(ShellCall& call)
         return false;
     options.file = call.text(file + 1);
     ShellParameters parameters(call, file + 2);
-    parameters.text("columns", columns).flag("steps", isSteps).flag("points", isPoints);
+    parameters.text("columns", columns).text("right", right).flag("steps", isSteps).flag("points", isPoints);
     if (!options.addTo(parameters).read())
         return false;
     if (isSteps && isPoints)
         return call.fail(tr("'steps' and 'points' exclude each other."));
     QVector<nTableFigure::Source> sources;
     for (int i = 0; i < file; ++i) {
-        nTableFigure::Source source{TableCommands::find(call, call.text(i)), -1, {}};
-        if (source.table.isNull() || !readColumns(call, *source.table, columns, source.x, source.y))
+        nTableFigure::Source source{TableCommands::find(call, call.text(i)), -1, {}, {}};
+        if (source.table.isNull() || !readColumns(call, *source.table, columns, source.y)
+            || !readColumns(call, *source.table, right, source.right))
             return false;
+        if (source.y.size() == 1)
+            return call.fail(tr("'columns' needs the column of the x axis and one at least to draw."));
+        if (!source.y.isEmpty())
+            source.x = source.y.takeFirst();
         sources.append(source);
     }
     nTableFigure::Options units;

@@ -23,6 +23,8 @@ private:
         QString title;
         QString xTitle;
         QString yTitle;
+        QString y2Title;
+        QString names; ///< of the curves, separated by commas
         QString xUnit;
         QString yUnits; ///< separated by commas
         double xFrom = Figure::unset;
@@ -34,7 +36,7 @@ private:
 
         ShellParameters& addTo(ShellParameters& parameters);
         QStringList yUnitList() const { return yUnits.split(QLatin1Char(','), Qt::SkipEmptyParts); }
-        void applyTo(Figure& figure) const;
+        bool applyTo(const ShellCall& call, Figure& figure) const;
     };
 
     static bool table(ShellCall& call);
@@ -44,7 +46,7 @@ private:
     static int fileIndex(const ShellCall& call);
     static bool draw(const ShellCall& call, const Options& options, Figure& figure);
     static bool drawProcess(const ShellCall& call, const QString& name, const Options& options);
-    static bool readColumns(const ShellCall& call, const kdDataTable& table, const QString& words, int& x,
-                            QVector<int>& y);
+    static bool readColumns(const ShellCall& call, const kdDataTable& table, const QString& words,
+                            QVector<int>& columns);
     static bool stateUnit(const ShellCall& call, const QString& symbol, Figure::Axis& axis);
 };

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void processErrors_data();
     void processErrors();
     void piecesOfACurve();
+    void curvesAreCutAtTheEndsOfTheAxes();
     void thinnedCurveKeepsItsExtremes();
 };
 
@@ -39,7 +40,7 @@ nTableFigure::Source source(const QString& name, QString text)
     QTextStream stream(&text);
     kdDataTable::importFromTextStream(stream, *table);
     table->setName(name);
-    return {table, -1, {}};
+    return {table, -1, {}, {}};
 }
 
 const QString stress = S("t [degC];yield_stress [MPa]\n20;355\n1200;0\n");
@@ -73,15 +74,18 @@ void TestFigure::tables_data()
     const QString two = S("t [degC];E [GPa];expansion [1/K]\n20;210;1e-5\n");
     const QString three = S("t [degC];E [GPa];heat [J/(kg K)];k [W/(m K)]\n20;210;440;53\n");
     QTest::newRow("as it is") << QStringList{stress} << S("") << QStringList{} << false
-                              << S("t [°C] | yield stress [MPa]: yield stress/0 (20, 355)");
+                              << S("t [°C] | Yield stress [MPa]: Yield stress/0 (20, 355)");
     QTest::newRow("given units") << QStringList{two} << S("K") << QStringList{S("1/K"), S("MPa")} << false
-                                 << S("t [K] | E [MPa] | expansion [1/K]: E/0 (293.15, 210000), "
-                                      "expansion/1 (293.15, 1e-05)");
+                                 << S("t [K] | E [MPa] | Expansion [1/K]: E/0 (293.15, 210000), "
+                                      "Expansion/1 (293.15, 1e-05)");
     QTest::newRow("view units") << QStringList{S("t [h];s [m]\n1;2\n")} << S("min") << QStringList{} << true
                                 << S("t [min] | s [mm]: s/0 (60, 2000)");
     QTest::newRow("two tables in the units of the first")
         << QStringList{stress, fire} << S("") << QStringList{} << false
         << S("t [°C] | Stress [MPa]: a/0 (20, 355), b/0 (20, 1)");
+    QTest::newRow("names for people")
+        << QStringList{S("time [s];kf_0 [MPa];kf [MPa]\n1;2;3\n")} << S("") << QStringList{} << false
+        << S("Time [s] | Stress [MPa]: Kf 0/0 (1, 2), kf/0 (1, 3)");
     QTest::newRow("no units") << QStringList{S("n;m\n1;2\n")} << S("") << QStringList{} << true
                               << S("n | m: m/0 (1, 2)");
     QTest::newRow("different x") << QStringList{stress, furnace} << S("") << QStringList{} << false
@@ -125,6 +129,11 @@ void TestFigure::columnsOfAnotherOrder()
     QString error;
     QVERIFY(nTableFigure::make({chosen}, {}, figure, error));
     QCOMPARE(text(figure), S("x [mm] | v [mm/s]: v/0 (2, 3)"));
+    chosen = source(S("a"), S("t [s];x [mm];y [mm];z [m]\n1;2;3;4\n"));
+    chosen.right = {1};
+    QVERIFY(
+        nTableFigure::make({chosen}, {false, {}, {S("m"), S("cm")}, Figure::Curve::Lines}, figure, error));
+    QCOMPARE(text(figure), S("t [s] | Length [m] | x [cm]: x/1 (1, 0.2), y/0 (1, 0.003), z/0 (1, 4)"));
     chosen.y = {0, 7};
     QVERIFY(!nTableFigure::make({chosen}, {}, figure, error));
     QCOMPARE(error, S("Table 'a' has no column 8."));
@@ -259,6 +268,31 @@ void TestFigure::piecesOfACurve()
     curve.form = Figure::Curve::Steps;
     figure.x.isLogarithmic = true;
     QCOMPARE(figure.pieces(curve), (Pieces{{{1, 2}}, {{4, 3}, {5, 3}, {6, 3}, {6, 4}}}));
+}
+
+void TestFigure::curvesAreCutAtTheEndsOfTheAxes()
+{
+    Figure figure;
+    figure.x.from = 0.0;
+    figure.x.to = 10.0;
+    figure.y = {{S("T"), S("K"), false, -1.0, 1.0}};
+    using Pieces = QVector<QVector<QPointF>>;
+    Figure::Curve curve{S("c"), {{-2, 0}, {2, 0}, {4, 4}, {8, -4}, {9, 0.5}, {9, 7}, {12, 8}}};
+    QCOMPARE(
+        figure.pieces(curve),
+        (Pieces{{{0, 0}, {2, 0}, {2.5, 1}}, {{5.5, 1}, {6.5, -1}}, {{8 + 3 / 4.5, -1}, {9, 0.5}, {9, 1}}}));
+    curve.form = Figure::Curve::Points;
+    QCOMPARE(figure.pieces(curve), (Pieces{{{2, 0}, {9, 0.5}}}));
+    // On logarithmic axes a power of x is a straight line.
+    figure.x = {S("x"), QString(), true, 1.0, 1e4};
+    figure.y = {{S("y"), QString(), true, 1.0, 100.0}};
+    curve = {S("square"), {{0.01, 1e-4}, {1e3, 1e6}}};
+    const QVector<QPointF> cut = figure.pieces(curve).value(0);
+    QCOMPARE(cut.value(0), QPointF(1.0, 1.0));
+    QCOMPARE(cut.value(1), QPointF(10.0, 100.0));
+    curve.points = {{1e-4, 1}, {0.9, 7}};
+    figure.curves = {curve};
+    QVERIFY(figure.pieces(curve).isEmpty() && figure.fault().contains(S("nothing to draw")));
 }
 
 void TestFigure::thinnedCurveKeepsItsExtremes()

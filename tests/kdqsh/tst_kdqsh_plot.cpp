@@ -11,6 +11,7 @@ private Q_SLOTS:
 #ifdef KDQPLOT_IS_BUILT
     void pictures_data();
     void pictures();
+    void documents();
     void png();
     void oldPictureStaysUntilTheNewIsComplete();
 #endif
@@ -54,10 +55,11 @@ void TestKdqshPlot::pictures_data()
     QTest::addColumn<QString>("commands");
     QTest::addColumn<QStringList>("shown");
     QTest::newRow("tables") << S("plot table a b to p.svg columns x,temperature xunit h title 'Two furnaces'")
-                            << QStringList{S("Two furnaces"), S("time [h]"), S("temperature [°C]"), S("a"),
+                            << QStringList{S("Two furnaces"), S("Time [h]"), S("Temperature [°C]"), S("a"),
                                            S("b")};
-    QTest::newRow("two axes") << S("plot table a to p.svg columns 1,2,4 yunit m,K steps ytitle Furnace")
-                              << QStringList{S("a"), S("Furnace [K]"), S("width [m]")};
+    QTest::newRow("two axes") << S("plot table a to p.svg columns 1,2,4 yunit m,K steps ytitle Furnace "
+                                   "y2title Strip names furnace,strip")
+                              << QStringList{S("a"), S("Furnace [K]"), S("Strip [m]"), S("strip")};
     QTest::newRow("range") << S("plot table b to p.svg points xrange 0 7200 yrange 0 2000 size 400x300")
                            << QStringList{S("7000"), S("2000")};
     QTest::newRow("formulas") << S(
@@ -93,6 +95,24 @@ void TestKdqshPlot::pictures()
         QVERIFY2(found.contains(text), qPrintable(text + S(" is not in ") + found.join(S(" / "))));
     QVERIFY(shell.runCommands(import + commands, {S("-q")}));
     QVERIFY2(shell.read(S("p.svg")) == first, "the same commands draw the same bytes");
+}
+
+/// The documents show what their script draws.
+void TestKdqshPlot::documents()
+{
+    KdqshRun shell;
+    shell.setVariable(S("LC_ALL"), S("C.UTF-8"));
+    const QString root = qEnvironmentVariable("KDQ_TEST_DATA");
+    QVERIFY(shell.run({S("-q"), root + S("/examples/case-hardening/gear.kdqsh")}));
+    QVERIFY(shell.run({S("-q"), root + S("/docs/pictures/pictures.kdqsh")}));
+    QCOMPARE(shell.errors, QString());
+    const QStringList shown = QDir(root + S("/docs/pictures")).entryList({S("*.svg")});
+    QCOMPARE(QDir(shell.folder()).entryList({S("*.svg")}), shown);
+    for (const QString& name : shown) {
+        QFile file(root + S("/docs/pictures/") + name);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(texts(shell.read(name)), texts(file.readAll()));
+    }
 }
 
 void TestKdqshPlot::png()
@@ -131,6 +151,7 @@ void TestKdqshPlot::errors_data()
     QTest::newRow("three quantities") << S("plot table a to p.svg") << S("choose columns");
     QTest::newRow("one column") << S("plot table a to p.svg columns 2") << S("'columns' needs");
     QTest::newRow("no column") << S("plot table a to p.svg columns 1,9") << S("Table 'a' has no column '9'");
+    QTest::newRow("few names") << S("plot table b to p.svg names a,b") << S("gives 2 names to 1 curves");
     QTest::newRow("both forms") << S("plot table b to p.svg steps points") << S("exclude each other");
     QTest::newRow("no unit") << S("plot formula x over x from 0 to 1 to p.svg xunit elephants")
                              << S("'elephants' is no unit.");

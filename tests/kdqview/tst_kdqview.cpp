@@ -236,7 +236,7 @@ private Q_SLOTS:
                      m_folder.filePath(name + QStringLiteral(".svg")));
         QFile picture(m_folder.filePath(name + QStringLiteral(".svg")));
         QVERIFY(picture.open(QIODevice::ReadOnly));
-        QVERIFY(picture.readAll().contains("temperature [°C]"));
+        QVERIFY(picture.readAll().contains("Temperature [°C]"));
     }
 
     void speaksGerman()
