@@ -281,13 +281,13 @@ QByteArray coTcpSocket::readBlocking(qint64 maxSize)
     return perform(read).data;
 }
 
-bool coTcpSocket::readLineBlocking(QByteArray& line)
+bool coTcpSocket::readLineBlocking(QString& line)
 {
     const SocketReply reply = perform([this] {
         Q_EMIT op_readLineBlocking();
         return d->inbox.readLine(d->exchange.timeout());
     });
-    line = reply.data;
+    line = QString::fromLatin1(reply.data.constData(), reply.data.size()); // with its zero bytes
     return reply.success;
 }
 
@@ -343,11 +343,11 @@ bool coTcpSocket::readSignedLine(QString& line)
 
 bool coTcpSocket::readPayload(QString& line)
 {
-    QByteArray received;
+    QString received;
     if (!readLineBlocking(received))
         return false;
     coSocketMessage message;
-    if (!message.decode(received))
+    if (!message.decode(received.toLatin1()))
         return setError(-1, message.errorString());
     if (d->sessionId == -1)
         d->sessionId = message.sessionId();

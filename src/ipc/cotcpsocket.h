@@ -140,7 +140,7 @@ private:
     template <typename Post>
     SocketReply request(const Post& post);
     int sendAtOnce(const QByteArray& bytes) const;
-    bool readLineBlocking(QByteArray& line);
+    bool readLineBlocking(QString& line);
     bool readPayload(QString& line);
     int sessionId();
     bool encode(const QStringList& lines, QByteArray& bytes);

@@ -102,9 +102,10 @@ std::optional<SocketReply> SocketInbox::take(int timeout, qint64 limit, const Co
     int found = count();
     if (found == 0) {
         m_limit = limit;
-        makeUseOfRoom();
         m_condition.wait_for(lock, std::chrono::milliseconds(timeout), [&] {
             found = count();
+            if (found == 0)
+                makeUseOfRoom(); // each time: the worker may just have stopped at the old limit
             return found > 0 || hasEnded() || m_isClosing;
         });
         m_limit = readAhead;

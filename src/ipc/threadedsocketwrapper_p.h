@@ -12,7 +12,7 @@
 /// The real socket, in the worker thread of its coTcpSocket. What arrives goes to the inbox at once. It
 /// carries out one request at a time: a slot begins it, and it ends with end(), called from the slot itself,
 /// from a signal of the socket or from the timer.
-class coTcpSocket::ThreadedSocketWrapper : public QObject {
+class KDQCORE_NO_EXPORT coTcpSocket::ThreadedSocketWrapper : public QObject {
     Q_OBJECT
 
 public:
