@@ -48,23 +48,6 @@ class TestTableCards : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void gridValueByValue()
-    {
-        coFeTableCard card = gridTable(grid1, grid2, &sixValues);
-        card.setDefaultReadMethodForMoreThan1IndependentVar(nMarc::ReadGridValueByValue);
-        const Written written = write(card, freeStandard);
-        QCOMPARE(written.deck,
-                 QByteArray("table,flow\n"
-                            "4,2,0,0,1,\n"
-                            "5,3,1,12,2,2,\n"
-                            "0.00000E+0,1.00000E-1,2.00000E-1,\n"
-                            "2.00000E+1,4.00000E+2,\n"
-                            "1.00000E+0 c\n2.00000E+0 c\n3.00000E+0 c\n"
-                            "4.00000E+0 c\n5.00000E+0 c\n6.00000E+0,\n"));
-        QVERIFY(written.result);
-        QVERIFY(write(card, freeStandard, false).result);
-    }
-
     void formula()
     {
         coFeTableCardUsingFormula card(QStringLiteral("k\nof T"), 9,

@@ -224,17 +224,6 @@ private Q_SLOTS:
             }
     }
 
-    void fortyIntegers()
-    {
-        DeckBuffer deck;
-        QVERIFY(deck.writer().writeList(numbersUpTo(40), 100));
-        const QList<QByteArray> lines = deck.bytes().split('\n');
-        QCOMPARE(lines.size(), 3);
-        QCOMPARE(lines.at(0).size(), 162);
-        QVERIFY(lines.at(0).endsWith("   32 c"));
-        QCOMPARE(lines.at(1), QByteArray("   33   34   35   36   37   38   39   40"));
-    }
-
     void comments_data()
     {
         QTest::addColumn<QByteArray>("text");

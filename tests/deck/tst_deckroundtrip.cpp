@@ -245,6 +245,36 @@ private Q_SLOTS:
         }
     }
 
+    void literalDecks_data()
+    {
+        QTest::addColumn<QByteArray>("deck"); // free, standard
+        QTest::newRow("table section") << QByteArray("table,0,0,2,1,1,0,0,1,\n");
+        QTest::newRow("process") << QByteArray("autoforge,2,3,2,9,0,21,1,4,5,15,1,6,\n");
+        QTest::newRow("auto load") << QByteArray("auto load\n100,0,10,3,4,2.50000E+0,1.25000E-1,\n");
+        QTest::newRow("grid value by value")
+            << QByteArray("table,flow\n4,2,0,0,1,\n5,3,1,12,2,2,\n0.00000E+0,1.00000E-1,2.00000E-1,\n"
+                          "2.00000E+1,4.00000E+2,\n1.00000E+0 c\n2.00000E+0 c\n3.00000E+0 c\n"
+                          "4.00000E+0 c\n5.00000E+0 c\n6.00000E+0,\n");
+        const QByteArray load = "$ Point load for component 'Punch %1'.\n$ from above\npoint load\n1,0,0,\n"
+                                "1,0,0,0,0,0,ptld_0_punch top\n";
+        QTest::newRow("point load 3-D")
+            << load + "1.50000E+0,-2.5000E+0,1.23456E+3,\n0,0,0,\n2,\npunch top\n";
+        QTest::newRow("point load 2-D") << load + "1.23456E+3,1.50000E+0,\n0,0,\n2,\npunch top\n";
+        QTest::newRow("point current")
+            << QByteArray("point current\n0,0,\n1,0,0,0,0,0,weld,\n1.25000E+4,0.00000E+0,0.00000E+0,\n"
+                          "7,0,0,\n2,\nnode_1,\n");
+    }
+
+    void literalDecks()
+    {
+        QFETCH(QByteArray, deck);
+        const auto card = read(deck, freeStandard).card;
+        QVERIFY(card);
+        QCOMPARE(write(*card, freeStandard).deck, deck);
+        const Written dryRun = write(*card, freeStandard, false);
+        QVERIFY(dryRun.result && dryRun.deck.isEmpty());
+    }
+
     /// Options follow each other without a gap and without taking each other's lines.
     void decks_data() { cards_data(); }
 
