@@ -27,13 +27,15 @@ if(KDQCORE_DEBIAN)
     execute_process(COMMAND gzip -9nf ${CMAKE_BINARY_DIR}/debian/changelog.Debian COMMAND_ERROR_IS_FATAL ANY)
 endif()
 
-# debian_package(<component> <name> SECTION <s> SUMMARY <one line> TEXT <lines> [DEPENDS <packages>] [ALL])
+# debian_package(<component> <name> SECTION <s> SUMMARY <one line> TEXT <lines> [DEPENDS <packages>] [RECOMMENDS <packages>]
+#                [ALL])
 function(debian_package component name)
-    cmake_parse_arguments(DEB "ALL" "SECTION;SUMMARY;TEXT;DEPENDS" "" ${ARGN})
+    cmake_parse_arguments(DEB "ALL" "SECTION;SUMMARY;TEXT;DEPENDS;RECOMMENDS" "" ${ARGN})
     string(TOUPPER ${component} key)
     set(CPACK_DEBIAN_${key}_PACKAGE_NAME ${name} PARENT_SCOPE)
     set(CPACK_DEBIAN_${key}_PACKAGE_SECTION ${DEB_SECTION} PARENT_SCOPE)
     set(CPACK_DEBIAN_${key}_PACKAGE_DEPENDS "${DEB_DEPENDS}" PARENT_SCOPE)
+    set(CPACK_DEBIAN_${key}_PACKAGE_RECOMMENDS "${DEB_RECOMMENDS}" PARENT_SCOPE)
     set(CPACK_DEBIAN_${key}_DESCRIPTION "${DEB_SUMMARY}\n${DEB_TEXT}" PARENT_SCOPE)
     if(DEB_ALL)
         set(CPACK_DEBIAN_${key}_PACKAGE_ARCHITECTURE all PARENT_SCOPE)
@@ -64,7 +66,8 @@ debian_package(Applications kdqcore-tools SECTION science
     SUMMARY "command shell and viewers of kdQCore"
     TEXT "${about}This package holds the command shell kdqsh, which works on all of these
 from a prompt or a script, and the programs that draw and show them."
-    DEPENDS "${library_package} (= ${debian_version})")
+    DEPENDS "${library_package} (= ${debian_version})"
+    RECOMMENDS "qttranslations5-l10n") # the dialogues of Qt itself in German
 debian_package(Documentation kdqcore-doc SECTION doc ALL
     SUMMARY "documents and examples of the kdQCore library"
     TEXT "${about}This package holds the tutorial, the how-to pages and the examples.")
