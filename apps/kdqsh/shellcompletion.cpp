@@ -77,7 +77,7 @@ QStringList following(const QStringList& typed, const QString& prefix)
         usage.startsWith(QLatin1String("parameter")) || usage.contains(QLatin1String("FORMULA"));
     const ShellSession& session = ShellSession::I();
     QStringList words = takesParameters ? session.parameters.names() : session.tables.names();
-    if (usage.startsWith(QLatin1String("heat")))
+    if (usage.contains(QLatin1String("heat ")))
         words += session.processes.names();
     words += keywords(QLatin1String(entry->usage));
     if (usage.contains(QLatin1String("FILE")) || usage.contains(QLatin1String("FOLDER")))

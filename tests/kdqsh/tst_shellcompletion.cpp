@@ -54,6 +54,8 @@ void TestShellCompletion::candidates_data()
     row("la", {QStringLiteral("language")});
     row("h", {QStringLiteral("heat"), QStringLiteral("help"), QStringLiteral("history")});
     row("heat show ge", {QStringLiteral("gear")});
+    row("plot heat ge", {QStringLiteral("gear")});
+    row("plot formula fir", {QStringLiteral("firing")});
     row("undo; ta", {QStringLiteral("table")});
     row("table lo", {QStringLiteral("load"), QStringLiteral("lookup")});
     row("help log e", {QStringLiteral("echo")});
