@@ -64,7 +64,7 @@ private:
         server.listen(address);
         port.set_value(server.serverPort());
         while (!m_isEnding) {
-            if (!server.waitForNewConnection(20))
+            if (!server.hasPendingConnections() && !server.waitForNewConnection(20))
                 continue;
             const std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
             script(*socket);
