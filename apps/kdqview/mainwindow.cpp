@@ -48,12 +48,7 @@ MainWindow::MainWindow(Language& language)
     showSheet(nullptr, 0);
 }
 
-MainWindow::~MainWindow()
-{
-    Workspace::I().disconnect(this);
-    if (kdCommandDispatcher::created())
-        kdCommandDispatcher::I().stopReportingTo(m_reporter);
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::createDocks()
 {

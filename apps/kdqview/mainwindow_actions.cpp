@@ -129,9 +129,11 @@ void MainWindow::retranslateUi()
     m_actions.aboutQt->setText(tr("About &Qt"));
     m_toolBar->setWindowTitle(tr("Tools"));
     m_documentsDock->setWindowTitle(tr("Documents"));
-    m_welcome->setText(tr("<h2>Tables, heat treatments, decks</h2>"
-                          "<p>Open a file (%1), or drop files here.</p>")
-                           .arg(m_actions.open->shortcut().toString(QKeySequence::NativeText)));
+    const QString welcome = tr("<h2>Tables, heat treatments, decks</h2>"
+                               "<p>Open a file (%1), or drop files here.</p>")
+                                .arg(m_actions.open->shortcut().toString(QKeySequence::NativeText));
+    m_welcome->setText(
+        QStringLiteral("<div align='center'><img src=':/icons/kdqview.svg'>%1</div>").arg(welcome));
     for (QAction* const action : m_languages->actions())
         action->setChecked(action->data().toInt() == Language::current());
     if (m_sheet->document() != nullptr)

@@ -61,8 +61,11 @@ void SheetView::shareWidth()
 {
     if (m_isMoved)
         return;
-    const int needed = m_table->horizontalHeader()->length() + m_table->verticalHeader()->sizeHint().width()
-        + m_table->verticalScrollBar()->sizeHint().width() + 2 * m_table->frameWidth();
+    const QString rows = QString::number(m_table->model()->rowCount());
+    const int needed = m_table->horizontalHeader()->length()
+        + qMax(m_table->verticalHeader()->sizeHint().width(),
+               m_table->fontMetrics().horizontalAdvance(rows) + 2 * m_table->fontMetrics().averageCharWidth())
+        + m_table->verticalScrollBar()->sizeHint().width() + 4 * m_table->frameWidth();
     const int tableWidth = qBound(width() / 5, needed, width() / 2);
     setSizes({tableWidth, width() - tableWidth});
 }

@@ -15,10 +15,13 @@
 #include <kdQCore/kdCommandDispatcher>
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTableView>
 #include <QtCharts/QChartView>
 #include <QtCharts/QXYSeries>
@@ -200,7 +203,7 @@ private Q_SLOTS:
         const int number = m_workspace->documents().constFirst()->number();
         QVERIFY(kdCommandDispatcher::I().execute(QStringLiteral("unit %1 1 2 K").arg(number)));
         QCOMPARE(mark(), QPointF(3.0, 298.25 + 273.15));
-        press(Qt::Key_A, Qt::ControlModifier);
+        QTest::mouseClick(table().horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
         press(Qt::Key_Delete, Qt::ControlModifier);
         QCOMPARE(table().model()->rowCount(), 0);
         for (int i = 0; i < 4; ++i)
@@ -282,7 +285,12 @@ private Q_SLOTS:
 
     void showsDeck()
     {
-        m_window->openFiles({deckFile()});
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(deckFile())});
+        QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(m_window.get(), &enter);
+        QDropEvent drop(QPointF(100, 100), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(m_window.get(), &drop);
         QCOMPARE(part<OutlineView>("outline").topLevelItemCount(), 2);
         QCOMPARE(cell(1, 1), QStringLiteral("276900000"));
         QCOMPARE(mark(), QPointF(293.15, 355e6));
