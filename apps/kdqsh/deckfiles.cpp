@@ -96,19 +96,18 @@ private:
 /// The new lines of a change; "remove" has none.
 bool readLines(const ShellCall& call, const QString& path, QByteArray& lines)
 {
-    const bool isRemoval = call.is(1, "remove");
-    if (isRemoval && !path.isEmpty())
-        return call.fail(DeckCommands::tr("An option is removed without new lines (with LINESFILE)."));
-    if (!isRemoval && path.isEmpty())
+    if (call.is(1, "remove"))
+        return path.isEmpty()
+            || call.fail(DeckCommands::tr("An option is removed without new lines (with LINESFILE)."));
+    if (path.isEmpty())
         return call.fail(
             DeckCommands::tr("'%1' needs a file of the new lines (with LINESFILE).").arg(call.text(1)));
     QFile file(path);
-    if (!isRemoval && !file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly))
         return call.fail(
             DeckCommands::tr("The file '%1' of the new lines (with LINESFILE) cannot be read: %2")
                 .arg(path, file.errorString()));
-    if (!isRemoval)
-        lines = file.readAll();
+    lines = file.readAll();
     return true;
 }
 

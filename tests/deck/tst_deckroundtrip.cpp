@@ -273,6 +273,7 @@ private Q_SLOTS:
         QCOMPARE(write(*card, freeStandard).deck, deck);
         const Written dryRun = write(*card, freeStandard, false);
         QVERIFY(dryRun.result && dryRun.deck.isEmpty());
+        QVERIFY(!read("table,t\n1,1,0,0,2,\n1,1,2,\n1.00000E+0,,\n", freeStandard).card);
     }
 
     /// Options follow each other without a gap and without taking each other's lines.
