@@ -1,12 +1,12 @@
 #include "csvcommands.h"
 
+#include "shelloutput.h"
 #include "shellsession.h"
 #include "tablecommands.h"
 
 #include <kdQCore/coCSVSettings>
 #include <kdQCore/coTableCSVWriter>
 
-#include <QFile>
 #include <QSettings>
 
 namespace {
@@ -82,9 +82,14 @@ bool CsvCommands::exportTable(ShellCall& call)
     ShellCsvWriter writer(*table);
     if (!setForm(call, *table, writer))
         return false;
-    QFile file(call.text(1));
-    if (!writer.write(&file))
-        return call.fail(tr("'%1' cannot be written: %2").arg(call.text(1), file.errorString()));
+    const auto write = [&](const kdDataTable& values, QIODevice& device) {
+        ShellCsvWriter form(values);
+        static_cast<coCSVWriter&>(form) = writer;
+        device.setTextModeEnabled(true);
+        return form.write(&device);
+    };
+    if (!nShellOutput::write(call, call.text(1), *table, write))
+        return false;
     call.tell(tr("Table '%1' written to '%2'.").arg(call.text(0), call.text(1)));
     return true;
 }

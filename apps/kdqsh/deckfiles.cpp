@@ -1,4 +1,5 @@
 #include "deckcommands.h"
+#include "progressfile.h"
 #include "shellsession.h"
 
 #include <kdQCore/coDeckCheck>
@@ -63,13 +64,13 @@ private:
 class DeckFile {
 public:
     /// The widths are all that follows the path.
-    explicit DeckFile(const ShellCall& call) : m_file(call.text(0))
+    explicit DeckFile(const ShellCall& call) : DeckFile(call, call.text(0))
     {
         Widths widths;
         ShellParameters parameters(call, 1);
         m_isGood = widths.addTo(parameters).read() && widths.check(call) && open(call, widths);
     }
-    DeckFile(const ShellCall& call, const QString& path, const Widths& widths) : m_file(path)
+    DeckFile(const ShellCall& call, const QString& path, const Widths& widths) : DeckFile(call, path)
     {
         m_isGood = open(call, widths);
     }
@@ -79,6 +80,12 @@ public:
     const coDeckLayout& layout() const { return m_layout; }
 
 private:
+    DeckFile(const ShellCall& call, const QString& path)
+        : m_file(path, call.reporter(), call.stopCondition()),
+          m_operation(call, DeckCommands::tr("Reading '%1'").arg(path))
+    {
+    }
+
     bool open(const ShellCall& call, const Widths& widths)
     {
         if (!m_file.open(QIODevice::ReadOnly))
@@ -88,7 +95,8 @@ private:
         return true;
     }
 
-    QFile m_file;
+    ProgressFile m_file;
+    ShellOperation m_operation;
     coDeckLayout m_layout;
     bool m_isGood = false;
 };
@@ -146,6 +154,8 @@ bool DeckCommands::check(ShellCall& call)
         return false;
     coDeckCheck check(deck.layout());
     const bool isSound = check.run(deck.file());
+    if (call.isStopped())
+        return false;
     for (const coDeckFinding& finding : check.findings())
         call.show(finding.toString());
     call.tell(tr("Deck '%1' (%2): options %3, errors %4, warnings %5.")
@@ -184,7 +194,7 @@ bool DeckCommands::diff(ShellCall& call)
     coDeckCompare compare(tolerance);
     if (compare.run(first.file(), first.layout(), second.file(), second.layout()))
         return true;
-    if (!compare.errorText().isEmpty())
+    if (call.isStopped() || !compare.errorText().isEmpty())
         return call.fail(compare.errorText());
     call.show(compare.report().trimmed());
     return call.fail(tr("The decks differ: %1.").arg(compare.differences().size()));

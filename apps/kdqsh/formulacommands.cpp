@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr int blockSize = 65536; // points between two looks at Ctrl-C
+
 QString errorText(const coExpression& formula)
 {
     return QStringLiteral("%1 %2").arg(formula.errorString(), formula.errorDetails()).trimmed();
@@ -166,11 +168,17 @@ bool FormulaCommands::evaluateOver(const ShellCall& call, const Range& range, co
     int variable = 0;
     while (variable < formula.nbVariables() && formula.variableName(variable) != range.variable)
         ++variable;
-    int firstFailure = -1;
-    if (!formula.evaluateAll(variable, x.constData(), x.size(), y.data(), &firstFailure))
-        return call.fail(
-            QStringLiteral("%1 = %2: %3")
-                .arg(range.variable, ShellCall::numberText(x.at(firstFailure)), errorText(formula)));
+    const ShellOperation operation(call, tr("Evaluating the formula"));
+    for (int begin = 0; begin < x.size(); begin += blockSize) {
+        if (!call.goOn(static_cast<double>(begin) / x.size()))
+            return false;
+        int firstFailure = -1;
+        if (!formula.evaluateAll(variable, x.constData() + begin, qMin(blockSize, x.size() - begin),
+                                 y.data() + begin, &firstFailure))
+            return call.fail(QStringLiteral("%1 = %2: %3")
+                                 .arg(range.variable, ShellCall::numberText(x.at(begin + firstFailure)),
+                                      errorText(formula)));
+    }
     table = kdDataTable(kdUnitSystem::None, kdUnitSystem::None);
     table.columnRef(0).setName(range.variable);
     table.columnRef(0).setValues(x);

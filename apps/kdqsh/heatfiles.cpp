@@ -1,20 +1,20 @@
 #include "heatcommands.h"
 #include "heatfile.h"
+#include "shelloutput.h"
 #include "shellsession.h"
 
 #include <kdQCore/coPredefinedTableListModel>
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 bool HeatCommands::save(ShellCall& call)
 {
     const ShellProcesses::Process process = find(call, call.text(0));
     if (process.isNull())
         return false;
-    QSaveFile file(call.text(1));
-    if (!file.open(QIODevice::WriteOnly) || !HeatFile::write(file, *process) || !file.commit())
-        return call.fail(tr("'%1' cannot be written: %2").arg(call.text(1), file.errorString()));
+    if (!nShellOutput::write(call, call.text(1), 1,
+                             [&](QIODevice& device) { return HeatFile::write(device, *process); }))
+        return false;
     call.tell(tr("Process '%1' written to '%2'.").arg(call.text(0), call.text(1)));
     return true;
 }

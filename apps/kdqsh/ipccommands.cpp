@@ -2,6 +2,7 @@
 
 #include "ipcpeer.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -20,14 +21,19 @@ const QStringList& productWords()
 
 enum Outcome { Done, Closed, TimedOut };
 
-/// Runs until something ends it or the time is over.
+/// Runs until something ends it, the time is over or the user stops it.
 class Session {
 public:
-    explicit Session(int seconds)
+    Session(const ShellCall& call, const QString& text, int seconds) : m_operation(call, text)
     {
-        m_timer.setSingleShot(true);
-        QObject::connect(&m_timer, &QTimer::timeout, &m_loop, [this] { end(TimedOut); });
-        m_timer.start(seconds * 1000);
+        const double total = seconds * 1000.0;
+        m_elapsed.start();
+        QObject::connect(&m_timer, &QTimer::timeout, &m_loop, [this, &call, total] {
+            const double done = static_cast<double>(m_elapsed.elapsed()) / total;
+            if (!call.goOn(done) || done >= 1.0)
+                end(TimedOut);
+        });
+        m_timer.start(100);
     }
 
     Outcome run() { return static_cast<Outcome>(m_loop.exec()); }
@@ -39,8 +45,10 @@ public:
     }
 
 private:
+    ShellOperation m_operation;
     QEventLoop m_loop;
     QTimer m_timer;
+    QElapsedTimer m_elapsed;
 };
 
 } // namespace
@@ -84,7 +92,7 @@ bool IpcCommands::listen(ShellCall& call)
         return call.fail(tr("'%1' cannot be opened: %2").arg(name, server.errorString()));
     call.show(tr("Process %1 listens as %2.").arg(QString::number(pid), call.text(0)));
 
-    Session session(seconds);
+    Session session(call, tr("Waiting for greetings"), seconds);
     int taken = 0;
     const auto count = [&](const IpcPeer& peer) {
         if (peer.hasGreeted() && ++taken >= greetings)
@@ -126,7 +134,7 @@ bool IpcCommands::greet(ShellCall& call)
         || !checkSeconds(call, seconds))
         return false;
 
-    Session session(seconds);
+    Session session(call, tr("Waiting for an answer"), seconds);
     QLocalSocket socket;
     socket.connectToServer(coIpcController::socketName(product, pid));
     if (!socket.waitForConnected(seconds * 1000))

@@ -1,28 +1,42 @@
 #include "lineeditor.h"
-
-#include <QFile>
-#include <QSet>
+#include "linehistory.h"
 
 #include <cstdio>
 #include <histedit.h>
 
 namespace {
-constexpr int maximalHistory = 1000;
+
+constexpr char invisible = '\1'; // stands around what takes no place on the screen
+
+QByteArray emphasised(const QByteArray& text)
+{
+    return QByteArray("\1\033[1m\1").append(text).append("\1\033[0m\1");
 }
+
+} // namespace
 
 class LineEditor::Private {
 public:
+    explicit Private(const QString& historyFile) : lines(historyFile) { }
+
     static char* prompt(EditLine* editor) { return self(editor)->promptBytes.data(); }
     static unsigned char complete(EditLine* editor, int) { return self(editor)->completeWord(); }
+    static unsigned char drop(EditLine* editor, int)
+    {
+        self(editor)->isDropped = true;
+        return CC_EOF;
+    }
     unsigned char completeWord();
-    bool insertCommonPart(const QString& word, const QStringList& candidates);
+    void bindKeys();
+    void fillHistory();
 
     EditLine* editor = nullptr;
     History* history = nullptr;
     HistEvent event = {};
-    QByteArray historyPath;
+    LineHistory lines;
     QByteArray promptBytes;
     Completer completer;
+    bool isDropped = false;
 
 private:
     static Private* self(EditLine* editor)
@@ -38,76 +52,79 @@ unsigned char LineEditor::Private::completeWord()
     const LineInfo* info = el_line(editor);
     const QString before =
         QString::fromLocal8Bit(info->buffer, static_cast<int>(info->cursor - info->buffer));
-    int wordBegin = before.size();
-    while (wordBegin > 0 && !before.at(wordBegin - 1).isSpace())
-        --wordBegin;
-    const QStringList candidates = completer(before);
-    if (candidates.isEmpty())
+    const Completion completion = completer(before);
+    if (completion.candidates.isEmpty())
         return CC_ERROR;
-    if (insertCommonPart(before.mid(wordBegin), candidates))
+    const QString typed = before.mid(completion.begin);
+    if (completion.text.size() > typed.size()
+        || (completion.candidates.size() == 1 && completion.text != typed)) {
+        el_deletestr(editor, static_cast<int>(typed.size()));
+        el_insertstr(editor, completion.text.toLocal8Bit().constData());
         return CC_REFRESH;
-    std::printf("\n%s\n", candidates.join(QLatin1String("  ")).toLocal8Bit().constData());
+    }
+    std::printf("\n%s\n", completion.candidates.join(QLatin1String("  ")).toLocal8Bit().constData());
     return CC_REDISPLAY;
 }
 
-bool LineEditor::Private::insertCommonPart(const QString& word, const QStringList& candidates)
+void LineEditor::Private::bindKeys()
 {
-    QString common = candidates.first();
-    for (const QString& candidate : candidates)
-        while (!candidate.startsWith(common))
-            common.chop(1);
-    if (candidates.size() == 1 && !common.endsWith(QLatin1Char('/')))
-        common.append(QLatin1Char(' '));
-    if (common.size() <= word.size())
-        return false;
-    return el_insertstr(editor, common.mid(word.size()).toLocal8Bit().constData()) == 0;
+    el_set(editor, EL_EDITOR, "emacs");
+    el_set(editor, EL_ADDFN, "kdqsh-complete", "complete the word", &complete);
+    el_set(editor, EL_BIND, "^I", "kdqsh-complete", nullptr);
+    el_set(editor, EL_ADDFN, "kdqsh-drop", "drop the line", &drop);
+    el_set(editor, EL_SETTY, "-d", "-isig", nullptr); // Ctrl-C is a key like others
+    el_set(editor, EL_BIND, "^C", "kdqsh-drop", nullptr);
+    el_set(editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
 }
 
-LineEditor::LineEditor(const QString& historyFile, Completer completer) : d(new Private)
+void LineEditor::Private::fillHistory()
 {
-    d->historyPath = QFile::encodeName(historyFile);
+    ::history(history, &event, H_CLEAR);
+    for (const QString& line : lines.lines())
+        ::history(history, &event, H_ENTER, line.toLocal8Bit().constData());
+}
+
+LineEditor::LineEditor(const QString& historyFile, Completer completer) : d(new Private(historyFile))
+{
     d->completer = std::move(completer);
     d->editor = el_init("kdqsh", stdin, stdout, stderr);
     d->history = history_init();
-    history(d->history, &d->event, H_SETSIZE, maximalHistory);
-    history(d->history, &d->event, H_SETUNIQUE, 1);
-    if (!historyFile.isEmpty())
-        history(d->history, &d->event, H_LOAD, d->historyPath.constData());
+    history(d->history, &d->event, H_SETSIZE, d->lines.lines().size() + 2000);
+    d->fillHistory();
     el_set(d->editor, EL_CLIENTDATA, d.get());
     el_set(d->editor, EL_SIGNAL, 1);
-    el_set(d->editor, EL_EDITOR, "emacs");
-    el_set(d->editor, EL_PROMPT, &Private::prompt);
+    el_set(d->editor, EL_PROMPT_ESC, &Private::prompt, invisible);
     el_set(d->editor, EL_HIST, history, d->history);
-    el_set(d->editor, EL_ADDFN, "kdqsh-complete", "complete the word", &Private::complete);
-    el_set(d->editor, EL_BIND, "^I", "kdqsh-complete", nullptr);
-    // Ctrl-C drops the line instead of the session.
-    el_set(d->editor, EL_SETTY, "-d", "-isig", nullptr);
-    el_set(d->editor, EL_BIND, "^C", "em-kill-line", nullptr);
-    el_set(d->editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
+    d->bindKeys();
     el_source(d->editor, nullptr);
 }
 
 LineEditor::~LineEditor()
 {
-    if (!d->historyPath.isEmpty())
-        history(d->history, &d->event, H_SAVE, d->historyPath.constData());
     history_end(d->history);
     el_end(d->editor);
 }
 
-bool LineEditor::readLine(const QString& prompt, QString& line)
+LineEditor::Outcome LineEditor::readLine(const QString& prompt, bool isEmphasised, QString& line)
 {
     d->promptBytes = prompt.toLocal8Bit();
+    if (isEmphasised)
+        d->promptBytes = emphasised(d->promptBytes);
+    d->isDropped = false;
     int count = 0;
     const char* bytes = el_gets(d->editor, &count);
+    if (d->isDropped) {
+        std::puts("^C");
+        return Dropped;
+    }
     if (bytes == nullptr || count <= 0) {
         std::puts(""); // the cursor is still behind the prompt
-        return false;
+        return End;
     }
     line = QString::fromLocal8Bit(bytes, count);
-    if (!line.trimmed().isEmpty())
-        history(d->history, &d->event, H_ENTER, bytes);
     while (line.endsWith(QLatin1Char('\n')) || line.endsWith(QLatin1Char('\r')))
         line.chop(1);
-    return true;
+    d->lines.add(line);
+    d->fillHistory();
+    return Line;
 }

@@ -1,4 +1,5 @@
 #include "lineeditor.h"
+#include "shellinterrupt.h"
 
 #include <QTextStream>
 
@@ -14,8 +15,15 @@ LineEditor::LineEditor(const QString&, Completer) : d(new Private) { }
 
 LineEditor::~LineEditor() = default;
 
-bool LineEditor::readLine(const QString& prompt, QString& line)
+LineEditor::Outcome LineEditor::readLine(const QString& prompt, bool isEmphasised, QString& line)
 {
-    d->out << prompt << Qt::flush;
-    return d->in.readLineInto(&line);
+    d->out << (isEmphasised ? QStringLiteral("\033[1m%1\033[0m").arg(prompt) : prompt) << Qt::flush;
+    if (d->in.readLineInto(&line))
+        return Line;
+    if (!nInterrupt::isRequested())
+        return End;
+    std::clearerr(stdin); // Ctrl-C ends a read of Windows' window like the end of the input
+    d->in.resetStatus();
+    d->out << Qt::endl;
+    return Dropped;
 }

@@ -12,7 +12,7 @@ namespace {
 
 using Lock = ShellLocks::Lock;
 
-constexpr int sliceMs = 200; // between two lines of progress
+constexpr int sliceMs = 200; // the longest that Ctrl-C waits for an answer
 
 Lock lockOf(const ShellCall& call)
 {
@@ -31,7 +31,8 @@ bool checkSeconds(const ShellCall& call, double seconds)
         || call.fail(LockCommands::tr("SECONDS must be 0 to 1000000, not %1.").arg(seconds));
 }
 
-/// Runs \a step until it returns true or the time is over, and shows how much of the time has gone.
+/// Runs \a step until it returns true, the time is over or the user stops it; shows how much of the time has
+/// gone.
 template <typename Step>
 bool repeatFor(const ShellCall& call, double seconds, Step step)
 {
@@ -41,7 +42,8 @@ bool repeatFor(const ShellCall& call, double seconds, Step step)
     for (qint64 left = total; left > 0; left = total - timer.elapsed()) {
         if (step(static_cast<int>(qMin<qint64>(left, sliceMs))))
             return true;
-        call.reporter().progress(static_cast<double>(timer.elapsed()) / static_cast<double>(total));
+        if (!call.goOn(static_cast<double>(timer.elapsed()) / static_cast<double>(total)))
+            break;
     }
     return false;
 }
@@ -52,9 +54,9 @@ bool takeWithin(const ShellCall& call, const Lock& lock, double seconds)
         return true;
     bool isTaken = false;
     if (seconds > 0.0 && lock->error() == coSysLockFile::LockFailedError) {
-        call.reporter().startOperation(LockCommands::tr("Waiting for the lock of '%1'").arg(folderOf(lock)));
+        const ShellOperation operation(call,
+                                       LockCommands::tr("Waiting for the lock of '%1'").arg(folderOf(lock)));
         isTaken = repeatFor(call, seconds, [&lock](int timeout) { return lock->tryLock(timeout); });
-        call.reporter().finishOperation(QString());
     }
     return isTaken || call.fail(ShellLocks::refusal(*lock));
 }
@@ -107,12 +109,11 @@ bool LockCommands::hold(ShellCall& call)
     const Lock lock = lockOf(call);
     if (!takeWithin(call, lock, 0.0))
         return false;
-    call.reporter().startOperation(tr("Holding the lock of '%1'").arg(folderOf(lock)));
+    const ShellOperation operation(call, tr("Holding the lock of '%1'").arg(folderOf(lock)));
     const bool isLost = repeatFor(call, seconds, [&lock](int timeout) {
         QThread::msleep(static_cast<unsigned long>(timeout));
         return !lock->isLocked();
     });
-    call.reporter().finishOperation(QString());
     return !isLost || call.fail(tr("The lock of '%1' was lost to another process.").arg(folderOf(lock)));
 }
 

@@ -4,6 +4,7 @@
 #include "shell.h"
 #include "shellcompletion.h"
 #include "shellgroups.h"
+#include "shellinterrupt.h"
 #include "shelloptions.h"
 #include "shellsession.h"
 
@@ -17,12 +18,13 @@ namespace {
 
 enum ExitStatus { AllWell = 0, CommandFailed = 1, WrongCommandLine = 2 };
 
-std::unique_ptr<LineSource> openSource(const ShellOptions& options, QString& error)
+std::unique_ptr<LineSource> openSource(const ShellOptions& options, const ShellConsole& console,
+                                       QString& error)
 {
     if (options.source == ShellOptions::Prompt)
         return std::make_unique<PromptLines>(
             QDir(FamilyApplication::dataFolder()).filePath(QStringLiteral("kdqsh_history")),
-            nShellCompletion::candidates);
+            nShellCompletion::complete, console.paintsOutput());
     if (options.source == ShellOptions::CommandText)
         return std::make_unique<TextLines>(options.commands);
     auto file = std::make_unique<QFile>(options.scriptFile);
@@ -39,11 +41,12 @@ int runShell(const ShellOptions& options)
 {
     ShellConsole console;
     console.setQuiet(options.isQuiet);
+    console.setColours(options.colours);
     kdCommandDispatcher::I().startReportingTo(console.reporter());
     ShellSession session;
     session.setSettingsFile(QDir(FamilyApplication::dataFolder()).filePath(QStringLiteral("kdqsh.ini")));
     QString error;
-    const std::unique_ptr<LineSource> source = openSource(options, error);
+    const std::unique_ptr<LineSource> source = openSource(options, console, error);
     if (source == nullptr) {
         console.error(error);
         return WrongCommandLine;
@@ -59,6 +62,8 @@ int runShell(const ShellOptions& options)
         console.error(session.deck.errorText());
         ok = false;
     }
+    if (nInterrupt::isRequested() && options.source != ShellOptions::Prompt)
+        return nInterrupt::exitStatus;
     return ok ? AllWell : CommandFailed;
 }
 
@@ -70,6 +75,7 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     FamilyApplication::describe(QStringLiteral("kdqsh"));
 
+    nInterrupt::watch();
     const FamilyApplication family(argc, argv);
     nShellGroups::registerCommands();
     FamilyApplication::setUserLanguage();

@@ -71,7 +71,7 @@ bool NameCommands::number(ShellCall& call)
         return call.fail(tr("COUNT must be at least 1, not %1.").arg(count));
     coUniqueNameGenerator names;
     names.reserve(call.textsFrom(2));
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count && !call.isStopped(); ++i)
         call.show(names.next(call.text(0)));
     return true;
 }

@@ -175,7 +175,7 @@ bool PlotCommands::formula(ShellCall& call)
     QStringList words = call.textsFrom(0);
     options.file = words.at(file + 1);
     words.erase(words.begin() + file, words.begin() + file + 2);
-    const ShellCall settings(call.reporter(), words);
+    const ShellCall settings = call.with(words);
     ShellParameters parameters(settings, over);
     if (!options.addTo(range.addEndsTo(parameters)).read() || !range.check(call))
         return false;

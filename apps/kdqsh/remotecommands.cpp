@@ -49,12 +49,11 @@ bool RemoteCommands::serve(ShellCall& call)
     ShellListener listener;
     if (!listener.open(call, address, port))
         return false;
-    RemoteServer server(call.reporter());
+    RemoteServer server(call);
     for (int client = 1; clients <= 0 || client <= clients; ++client) {
-        const std::unique_ptr<coTcpSocket> socket = listener.accept(-1);
+        const std::unique_ptr<ShellSocket> socket = listener.accept(call, -1, timeout);
         if (socket == nullptr)
             return call.fail(tr("Cannot accept a connection: %1").arg(listener.errorString()));
-        socket->setTimeout(timeout);
         call.tell(tr("Serving %1.").arg(socket->peerAddress().toString()));
         server.serve(*socket);
     }
@@ -63,10 +62,10 @@ bool RemoteCommands::serve(ShellCall& call)
 
 bool RemoteCommands::connect(ShellCall& call)
 {
-    std::unique_ptr<coTcpSocket> socket = nShellSockets::connectTo(call);
+    std::unique_ptr<ShellSocket> socket = nShellSockets::connectTo(call);
     if (socket == nullptr)
         return false;
-    RemoteLink link(*socket);
+    RemoteLink link(*socket, call);
     RemoteLink::Kind kind = RemoteLink::Done;
     QString greeting;
     if (!link.receive(kind, greeting) || kind != RemoteLink::Hello)
@@ -84,7 +83,7 @@ bool RemoteCommands::run(ShellCall& call)
     if (words.size() > 1)
         for (QString& word : words)
             word = ShellLineParser::quoted(word);
-    RemoteLink link(*ShellSession::I().remote);
+    RemoteLink link(*ShellSession::I().remote, call);
     if (link.send(RemoteLink::Run, words.join(QLatin1Char(' '))))
         return showAnswers(call, link);
     return lost(call, link);

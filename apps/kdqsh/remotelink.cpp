@@ -1,6 +1,6 @@
 #include "remotelink.h"
 
-#include <kdQCore/coTcpSocket>
+#include "shellsockets.h"
 
 #include <QCoreApplication>
 
@@ -47,7 +47,7 @@ bool RemoteLink::receive(Kind& kind, QString& text)
     QString all;
     QString line;
     for (bool isLast = false; !isLast;) {
-        if (!m_socket.readSignedLine(line)) {
+        if (!m_socket.readLine(m_call, line, ShellSocket::Silent)) {
             m_errorText = m_socket.errorString();
             return false;
         }

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-class coTcpSocket;
+class ShellCall;
+class ShellSocket;
 
 /// The talk of two shells over signed lines: pieces of text, each with a word that says what it is. A signed
 /// line carries some 2000 ASCII characters in one line; texts of any length and content are escaped and cut.
@@ -11,7 +12,8 @@ class RemoteLink {
 public:
     enum Kind { Hello, Run, Result, Account, Error, Start, Progress, Finish, Done };
 
-    explicit RemoteLink(coTcpSocket& socket) : m_socket(socket) { }
+    /// \a call stops the waiting for a piece.
+    RemoteLink(ShellSocket& socket, const ShellCall& call) : m_socket(socket), m_call(call) { }
 
     bool send(Kind kind, const QString& text);
     /// False after a failure, which errorText() tells; the connection is of no more use then.
@@ -24,6 +26,7 @@ public:
     static QString unescaped(const QString& text);
 
 private:
-    coTcpSocket& m_socket;
+    ShellSocket& m_socket;
+    const ShellCall& m_call;
     QString m_errorText;
 };

@@ -3,6 +3,7 @@
 #include "linesource.h"
 #include "remotelink.h"
 #include "shell.h"
+#include "shellsockets.h"
 
 #include <kdQCore/kdCommandDispatcher>
 
@@ -18,7 +19,7 @@ public:
 protected:
     void showMessage(const QString& text, int level) override
     {
-        m_link.send(level == Result ? RemoteLink::Result : RemoteLink::Account, text);
+        m_link.send(level <= Result ? RemoteLink::Result : RemoteLink::Account, text);
     }
     void showError(const QString& line) override { m_link.send(RemoteLink::Error, line); }
     void startOperation(const QString& text) override { m_link.send(RemoteLink::Start, text); }
@@ -37,7 +38,7 @@ class RemoteLines : public LineSource {
 public:
     RemoteLines(RemoteLink& link, const ShellConsole& console) : m_link(link), m_console(console) { }
 
-    bool next(QString& line, bool) override
+    bool next(QString& line, bool&) override
     {
         finishLine();
         RemoteLink::Kind kind = RemoteLink::Done;
@@ -64,21 +65,21 @@ private:
 
 } // namespace
 
-RemoteServer::RemoteServer(kdReporterInterface& command) : m_command(command)
+RemoteServer::RemoteServer(const ShellCall& call) : m_call(call)
 {
-    kdCommandDispatcher::I().stopReportingTo(m_command);
+    kdCommandDispatcher::I().stopReportingTo(m_call.reporter());
     s_isRunning = true;
 }
 
 RemoteServer::~RemoteServer()
 {
-    kdCommandDispatcher::I().startReportingTo(m_command);
+    kdCommandDispatcher::I().startReportingTo(m_call.reporter());
     s_isRunning = false;
 }
 
-void RemoteServer::serve(coTcpSocket& socket)
+void RemoteServer::serve(ShellSocket& socket)
 {
-    RemoteLink link(socket);
+    RemoteLink link(socket, m_call);
     RemoteConsole console(link);
     if (!link.send(RemoteLink::Hello, QStringLiteral("kdqsh ") + QCoreApplication::applicationVersion()))
         return;

@@ -3,6 +3,7 @@
 #include "linesource.h"
 #include "shellgroups.h"
 #include "shellhelp.h"
+#include "shellinterrupt.h"
 
 #include <kdQCore/kdCommandDispatcher>
 
@@ -17,8 +18,12 @@ bool Shell::run(LineSource& source)
     m_sourceName = source.name();
     bool ok = true;
     QString line;
-    while (!m_isQuitting && (ok || m_keepsGoing) && source.next(line, m_parser.needsMoreLines()))
+    for (bool isContinued = false; !m_isQuitting && (ok || m_keepsGoing) && source.next(line, isContinued);
+         isContinued = m_parser.needsMoreLines()) {
+        if (!isContinued)
+            m_parser.drop();
         ok = runLine(line) && ok;
+    }
     if (m_parser.finish()) {
         setPlace(m_parser.errorLine());
         m_console.error(m_parser.errorText());
@@ -38,7 +43,7 @@ bool Shell::runLine(const QString& line)
     bool ok = true;
     const QVector<ShellStatement> statements = m_parser.takeStatements();
     for (const ShellStatement& statement : statements) {
-        if (m_isQuitting || (!ok && !m_keepsGoing))
+        if (m_isQuitting || (!ok && !m_keepsGoing) || nInterrupt::isRequested())
             break;
         const ShellCommandGroup* const group = nShellGroups::find(statement.name);
         const QString subCommand = statement.parameters.section(QLatin1Char(' '), 0, 0);

@@ -4,8 +4,9 @@
 
 #include <algorithm>
 
-ShellCall::ShellCall(kdReporterInterface& reporter, const QStringList& arguments)
-    : m_reporter(reporter), m_arguments(arguments)
+ShellCall::ShellCall(kdReporterInterface& reporter, const QStringList& arguments,
+                     std::function<bool()> isStopped)
+    : m_reporter(reporter), m_arguments(arguments), m_isStopped(std::move(isStopped))
 {
 }
 
@@ -35,6 +36,13 @@ QString ShellCall::numberText(double value)
     return QString::number(value, 'g', digits);
 }
 
+bool ShellCall::goOn(double fraction) const
+{
+    constexpr double almostDone = 0.999; // a full 1 would end the operation
+    m_reporter.progress(qMin(fraction, almostDone));
+    return !isStopped();
+}
+
 void ShellCall::show(const QString& text) const
 {
     m_reporter.message(text, ShellConsole::Result);
@@ -50,7 +58,8 @@ void ShellCall::showAligned(QVector<QStringList> rows) const
             row[column] = row.at(column).rightJustified(width);
     }
     for (const QStringList& row : qAsConst(rows))
-        show(row.join(QLatin1String("  ")));
+        if (!isStopped())
+            show(row.join(QLatin1String("  ")));
 }
 
 void ShellCall::tell(const QString& text) const
@@ -60,13 +69,14 @@ void ShellCall::tell(const QString& text) const
 
 void ShellCall::warn(const QString& text) const
 {
-    show(tr("Warning: %1").arg(text));
+    m_reporter.message(tr("Warning: %1").arg(text), ShellConsole::Warning);
 }
 
 bool ShellCall::fail(const QString& text) const
 {
     m_hasFailed = true;
-    m_reporter.errorMessage(text);
+    if (!isStopped()) // else it failed because it was stopped
+        m_reporter.errorMessage(text);
     return false;
 }
 

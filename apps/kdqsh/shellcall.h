@@ -13,7 +13,14 @@ class ShellCall {
     Q_DECLARE_TR_FUNCTIONS(ShellCall)
 
 public:
-    ShellCall(kdReporterInterface& reporter, const QStringList& arguments);
+    /// \a isStopped tells whether the user wants the command to end early.
+    ShellCall(kdReporterInterface& reporter, const QStringList& arguments, std::function<bool()> isStopped);
+
+    /// The same call with other arguments.
+    ShellCall with(const QStringList& arguments) const
+    {
+        return ShellCall(m_reporter, arguments, m_isStopped);
+    }
 
     int count() const { return m_arguments.size(); }
     /// Empty beyond the last argument.
@@ -31,6 +38,12 @@ public:
     static QString numberText(double value);
 
     kdReporterInterface& reporter() const { return m_reporter; }
+    /// Whether to end early: a command that may take long asks now and then, and returns false. What it
+    /// changed is taken back, and nothing more is reported.
+    bool isStopped() const { return m_isStopped(); }
+    const std::function<bool()>& stopCondition() const { return m_isStopped; }
+    /// Shows how much of the running operation is done, 0 to 1; false where the command shall stop.
+    bool goOn(double fraction) const;
     /// What the user asked for.
     void show(const QString& text) const;
     /// Rows of a table, its columns right-aligned; every row has the cells of the first.
@@ -46,7 +59,26 @@ public:
 private:
     kdReporterInterface& m_reporter;
     QStringList m_arguments;
+    std::function<bool()> m_isStopped;
     mutable bool m_hasFailed = false;
+};
+
+/// What takes long, as the user is told: from here to the end of the object's life.
+class ShellOperation {
+public:
+    ShellOperation(const ShellCall& call, const QString& text) : m_call(call)
+    {
+        m_call.reporter().startOperation(text);
+    }
+    ~ShellOperation() { m_call.reporter().finishOperation(m_outcome); }
+    Q_DISABLE_COPY(ShellOperation)
+
+    /// Told at the end; nothing where none is set.
+    void setOutcome(const QString& text) { m_outcome = text; }
+
+private:
+    const ShellCall& m_call;
+    QString m_outcome;
 };
 
 /// The optional "name value" pairs and single words after a command's fixed arguments, in any order.

@@ -1,5 +1,6 @@
 #include "shellcommand.h"
 
+#include "shellinterrupt.h"
 #include "shelllineparser.h"
 #include "shellsession.h"
 
@@ -98,7 +99,7 @@ bool ShellCommand::allowUndo()
 
 bool ShellCommand::execute()
 {
-    ShellCall call(*this, m_arguments);
+    ShellCall call(*this, m_arguments, [this] { return isStopped(); });
     if (!m_wordsError.isEmpty())
         return call.fail(m_wordsError);
     if (m_entry == nullptr) {
@@ -128,6 +129,8 @@ bool ShellCommand::run(ShellCall& call)
 
     Complaints complaints;
     bool ok = m_entry->run(call);
+    if (stopRequested())
+        return takeBackStopped();
     if (m_entry->effect == ShellCommandEntry::ChangesParameters)
         m_parameterChange = session.parameters.lastChange();
     if (m_entry->effect == ShellCommandEntry::WritesDeck && !session.deck.flush())
@@ -137,6 +140,26 @@ bool ShellCommand::run(ShellCall& call)
     else if (ok && !complaints.text().isEmpty())
         call.warn(complaints.text());
     return ok;
+}
+
+/// Ctrl-C is one who asks to stop; a remote end or a window may be others, through slotStop().
+bool ShellCommand::isStopped()
+{
+    if (nInterrupt::isRequested())
+        slotStop();
+    return stopRequested();
+}
+
+bool ShellCommand::takeBackStopped()
+{
+    const bool hasChanged = m_entry->effect == ShellCommandEntry::ChangesTables
+        || m_entry->effect == ShellCommandEntry::ChangesProcesses
+        || m_entry->effect == ShellCommandEntry::WritesDeck;
+    if (hasChanged && !undo())
+        errorMessage(tr("Stopped; what it has written so far stays."));
+    else
+        errorMessage(hasChanged ? tr("Stopped; everything is as it was before.") : tr("Stopped."));
+    return false;
 }
 
 bool ShellCommand::undo()

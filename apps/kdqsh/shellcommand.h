@@ -62,12 +62,15 @@ public:
 
     QString name() const override;
     QString helpMessage() const override;
+    bool allowStop() override { return true; }
     bool allowUndo() override;
     bool execute() override;
     bool undo() override;
 
 private:
     bool run(ShellCall& call);
+    bool isStopped();
+    bool takeBackStopped();
 
     const ShellCommandGroup& m_group;
     const ShellCommandEntry* m_entry = nullptr;

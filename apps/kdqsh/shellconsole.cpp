@@ -33,24 +33,41 @@ void ShellConsole::error(const QString& text)
     showError(m_place.isEmpty() ? line : QStringLiteral("%1: %2").arg(m_place, line));
 }
 
-void ShellConsole::showMessage(const QString& text, int)
+void ShellConsole::setColours(Colours colours)
+{
+    const bool isWanted = colours == Always
+        || (colours == OnTerminals && qEnvironmentVariableIsEmpty("NO_COLOR")
+            && qEnvironmentVariable("TERM") != QLatin1String("dumb"));
+    const auto paints = [&](nPlatform::StandardStream stream) {
+        return isWanted && (nPlatform::enableEscapeSequences(stream) || colours == Always);
+    };
+    m_paintsOut = paints(nPlatform::StandardStream::Output);
+    m_paintsErrors = paints(nPlatform::StandardStream::Error);
+}
+
+QString ShellConsole::painted(const QString& text, const char* style, bool isPainted)
+{
+    return isPainted ? QStringLiteral("\033[%1m%2\033[0m").arg(QLatin1String(style), text) : text;
+}
+
+void ShellConsole::showMessage(const QString& text, int level)
 {
     eraseBar();
-    m_out << text << Qt::endl;
+    m_out << painted(text, "33", m_paintsOut && level == Warning) << Qt::endl;
 }
 
 void ShellConsole::showError(const QString& line)
 {
     eraseBar();
     m_out.flush();
-    m_err << line << Qt::endl;
+    m_err << painted(line, "31", m_paintsErrors) << Qt::endl;
 }
 
 void ShellConsole::startOperation(const QString& text)
 {
     m_operation = text;
-    if (!m_hasTerminal)
-        message(text, Account);
+    m_operationTimer.start();
+    m_toldTenths = -1;
 }
 
 void ShellConsole::showProgress(double fraction)
@@ -58,20 +75,42 @@ void ShellConsole::showProgress(double fraction)
     if (m_maximalLevel < Account)
         return;
     const double done = std::clamp(fraction, 0.0, 1.0);
+    const int tenths = static_cast<int>(done * 10.0);
     const QString percent = tr("%1 %").arg(static_cast<int>(done * 100.0), 3);
-    if (!m_hasTerminal) {
-        message(percent, Account);
-        return;
+    if (m_hasTerminal) {
+        showBar(done, percent);
+    } else if (tenths > m_toldTenths) { // a wait of hours must not fill a log
+        message(QStringLiteral("%1 %2").arg(percent, m_operation), Account);
+        m_toldTenths = tenths;
     }
-    constexpr int width = 30;
+}
+
+QString ShellConsole::timeLeft(double done) const
+{
+    constexpr double tooEarlyToTell = 0.02;
+    if (done < tooEarlyToTell)
+        return QString();
+    const auto seconds =
+        qRound64(static_cast<double>(m_operationTimer.elapsed()) / 1000.0 * (1.0 - done) / done);
+    return tr(", %1:%2 left")
+        .arg(QString::number(seconds / 60),
+             QString::number(seconds % 60).rightJustified(2, QLatin1Char('0')));
+}
+
+void ShellConsole::showBar(double done, const QString& percent)
+{
+    constexpr int brackets = 3; // with the blank behind them
+    const QString text = percent + timeLeft(done) + QLatin1Char(' ') + m_operation;
+    const int columns = nPlatform::terminalColumns() - 1;
+    const int width = std::clamp(columns - brackets - static_cast<int>(text.size()), 10, 40);
     const int filled = static_cast<int>(done * width);
-    const QString bar = QStringLiteral("[%1%2] %3 %4")
-                            .arg(QString(filled, QLatin1Char('#')), QString(width - filled, QLatin1Char('.')),
-                                 percent, m_operation)
-                            .left(nPlatform::terminalColumns() - 1);
+    const QString bar =
+        QStringLiteral("[%1%2] %3")
+            .arg(QString(filled, QLatin1Char('#')), QString(width - filled, QLatin1Char('.')), text)
+            .left(columns);
     eraseBar();
     m_err << bar << Qt::flush;
-    m_barLength = bar.size();
+    m_barLength = static_cast<int>(bar.size());
 }
 
 void ShellConsole::finishOperation(const QString& text)

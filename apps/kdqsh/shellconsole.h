@@ -3,18 +3,23 @@
 #include <kdQCore/kdReporter>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QTextStream>
 
 /// Shows what the library reports: results and the account of what was done on standard output, errors and a
 /// progress bar on standard error. Where standard error is no terminal, progress comes as plain lines.
+/// Neither shows for what takes less than a second.
 ///
 /// Commands reach it through reporter(), as any producer of the library reaches its receivers.
 class ShellConsole {
     Q_DECLARE_TR_FUNCTIONS(ShellConsole)
 
 public:
-    /// Levels of messages: what a query was asked for, and what a command tells about its work.
-    enum Level { Result = 0, Account = 1 };
+    /// Levels of messages: what the user should look at, what a query was asked for, and what a command tells
+    /// about its work.
+    enum Level { Warning = -1, Result = 0, Account = 1 };
+
+    enum Colours { OnTerminals, Always, Never };
 
     ShellConsole();
     virtual ~ShellConsole() = default;
@@ -25,6 +30,11 @@ public:
 
     /// Leaves out everything but results and errors.
     void setQuiet(bool isQuiet) { m_maximalLevel = isQuiet ? Result : Account; }
+
+    /// On terminals means: not where NO_COLOR is set to anything, or TERM to "dumb".
+    void setColours(Colours colours);
+    /// Whether standard output takes colours.
+    bool paintsOutput() const { return m_paintsOut; }
 
     /// Opens every error line: where the command stands, and which one it is.
     void setPlace(const QString& place) { m_place = place; }
@@ -43,6 +53,9 @@ protected:
     virtual void finishOperation(const QString& text);
 
 private:
+    static QString painted(const QString& text, const char* style, bool isPainted);
+    QString timeLeft(double done) const;
+    void showBar(double done, const QString& percent);
     void eraseBar();
 
     kdReporter m_reporter;
@@ -50,8 +63,12 @@ private:
     QTextStream m_err;
     QString m_place;
     QString m_operation;
+    QElapsedTimer m_operationTimer;
     int m_maximalLevel = Account;
     int m_errorCount = 0;
     int m_barLength = 0;
+    int m_toldTenths = 0;
     bool m_hasTerminal;
+    bool m_paintsOut = false;
+    bool m_paintsErrors = false;
 };

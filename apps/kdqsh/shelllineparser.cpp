@@ -111,6 +111,29 @@ QString ShellLineParser::quoted(const QString& word)
     return QLatin1Char('"') + inner + QLatin1Char('"');
 }
 
+ShellTyped ShellLineParser::typed(const QString& text)
+{
+    ShellTyped typed;
+    for (int from = 0;;) {
+        const Token token = nextToken(text, from);
+        from = token.end;
+        typed.lastBegin = token.begin;
+        if (token.kind == Token::Separator) {
+            typed.words.clear();
+        } else if (token.kind == Token::End) {
+            typed.isComment = token.begin < text.size();
+            return typed;
+        } else if (token.end >= text.size()) {
+            typed.last = token.text;
+            if (token.isQuoted)
+                typed.quote = text.at(token.begin);
+            return typed;
+        } else {
+            typed.words.append(token.text);
+        }
+    }
+}
+
 bool ShellLineParser::addLine(const QString& line)
 {
     ++m_lineNumber;
@@ -161,12 +184,17 @@ bool ShellLineParser::parse(const QString& text)
     return true;
 }
 
+void ShellLineParser::drop()
+{
+    m_isContinued = false;
+    m_pending.clear();
+}
+
 bool ShellLineParser::finish()
 {
     if (!m_isContinued)
         return false;
-    m_isContinued = false;
-    m_pending.clear();
+    drop();
     m_errorText = tr("The input ends within a continued line.");
     return true;
 }

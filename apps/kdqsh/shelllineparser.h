@@ -11,6 +11,15 @@ struct ShellStatement {
     int line = 0;       ///< where it starts, counted from 1
 };
 
+/// What has been typed so far of a statement, for completion.
+struct ShellTyped {
+    QStringList words;      ///< that are complete
+    QString last;           ///< the word at the end, unquoted, which may go on; empty behind a blank
+    int lastBegin = 0;      ///< where it begins, with its quote
+    QChar quote;            ///< that opened the last word; null without
+    bool isComment = false; ///< nothing that is read any more
+};
+
 /// Turns the lines of a script into statements.
 ///
 /// - Statements are separated by line ends and by ";".
@@ -42,10 +51,15 @@ public:
     /// \a word in a spelling that is read as exactly this one word; it must hold no line break.
     static QString quoted(const QString& word);
 
+    /// The last statement of \a text, whose last quote may be open.
+    static ShellTyped typed(const QString& text);
+
     bool addLine(const QString& line);
     bool needsMoreLines() const { return m_isContinued; }
     /// True where input ended within a continued statement, which is then dropped.
     bool finish();
+    /// Forgets a continued statement.
+    void drop();
     QString errorText() const { return m_errorText; }
     int errorLine() const { return m_firstLine; }
 

@@ -24,6 +24,14 @@ bool ShellLocks::release(const Lock& lock)
     return m_kept.remove(lock->path()) > 0;
 }
 
+QStringList ShellLocks::keptFolders() const
+{
+    QStringList folders;
+    for (const Lock& lock : m_kept)
+        folders.append(QDir::toNativeSeparators(lock->folder()));
+    return folders;
+}
+
 QString ShellLocks::owner(const coProjectPathLockFile& lock)
 {
     coSysLockFile::Info info;

@@ -21,6 +21,8 @@ public:
     /// False where keep() was not called for it.
     bool release(const Lock& lock);
 
+    QStringList keptFolders() const;
+
     /// Who holds the lock; empty where the lock file does not say.
     static QString owner(const coProjectPathLockFile& lock);
     /// Why it could not be taken.

@@ -1,5 +1,7 @@
 #include "shelloptions.h"
 
+#include "shellmanual.h"
+
 #include <QCommandLineParser>
 
 ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isInteractive)
@@ -9,8 +11,8 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
         "Tables of material data and solver input decks by text commands. Commands come from a script, from\n"
         "-c, from standard input, or from a prompt. The exit status is 0 only if all went well, 1 if a "
         "command\n"
-        "failed, 2 if this command line was wrong. \"-basePath FOLDER\" names the installation, with\n"
-        "\"-undoSetup\" for this run only."));
+        "failed, 2 if this command line was wrong, 130 after Ctrl-C. \"-basePath FOLDER\" names the\n"
+        "installation, with \"-undoSetup\" for this run only."));
     const QCommandLineOption commandsOption(QStringLiteral("c"),
                                             tr("Runs these commands, separated by \";\"."), tr("commands"));
     const QCommandLineOption keepGoingOption({QStringLiteral("k"), QStringLiteral("keep-going")},
@@ -21,11 +23,19 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
     const QCommandLineOption quietOption(
         {QStringLiteral("q"), QStringLiteral("quiet")},
         tr("Shows errors and the results that were asked for, nothing else."));
+    const QCommandLineOption colorOption(
+        QStringLiteral("color"),
+        tr("Colours: auto (on terminals, unless NO_COLOR is set or TERM is dumb), always, never."),
+        tr("when"), QStringLiteral("auto"));
+    const QCommandLineOption manualOption(QStringLiteral("manual"),
+                                          tr("Writes the manual page to standard output, in mdoc."));
     const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
                                         tr("Shows this help."));
     const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("version")},
-                                           tr("Shows the version."));
-    parser.addOptions({commandsOption, keepGoingOption, stopOption, quietOption, helpOption, versionOption});
+                                           tr("Shows the version, and what it was built with."));
+    const QList<QCommandLineOption> all{commandsOption, keepGoingOption, stopOption,    quietOption,
+                                        colorOption,    helpOption,      versionOption, manualOption};
+    parser.addOptions(all);
     parser.addPositionalArgument(QStringLiteral("script"),
                                  tr("File with commands (UTF-8); \"-\" is standard input."),
                                  QStringLiteral("[script]"));
@@ -41,7 +51,13 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
         return ShowText;
     }
     if (parser.isSet(versionOption)) {
-        text = QStringLiteral("kdqsh %1").arg(QCoreApplication::applicationVersion());
+        text = QStringLiteral("kdqsh %1\nQt %2, glog %3, %4")
+                   .arg(QCoreApplication::applicationVersion(), QLatin1String(qVersion()),
+                        QStringLiteral(KDQSH_GLOG_VERSION), QStringLiteral(KDQSH_COMPILER));
+        return ShowText;
+    }
+    if (parser.isSet(manualOption)) {
+        text = nShellManual::page(parser.applicationDescription(), all);
         return ShowText;
     }
     const QStringList scripts = parser.positionalArguments();
@@ -51,6 +67,12 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
     if (scripts.size() + (hasCommands ? 1 : 0) > 1)
         return refuse(tr("Only one script or one -c can be run."));
 
+    const QStringList colourWords{QStringLiteral("auto"), QStringLiteral("always"), QStringLiteral("never")};
+    const int colourWord = colourWords.indexOf(parser.value(colorOption));
+    if (colourWord < 0)
+        return refuse(tr("--color takes auto, always or never, not '%1'.").arg(parser.value(colorOption)));
+
+    colours = static_cast<ShellConsole::Colours>(colourWord);
     isQuiet = parser.isSet(quietOption);
     if (hasCommands) {
         source = CommandText;

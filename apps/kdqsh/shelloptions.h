@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shellconsole.h"
+
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -16,6 +18,7 @@ public:
     QString scriptFile;      ///< of ScriptFile
     bool keepsGoing = false; ///< goes on after a command that failed
     bool isQuiet = false;    ///< shows errors and asked-for results only
+    ShellConsole::Colours colours = ShellConsole::OnTerminals;
 
     QString text; ///< help, version, or why the command line is refused
 

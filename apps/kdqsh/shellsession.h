@@ -4,9 +4,8 @@
 #include "shellformulas.h"
 #include "shelllocks.h"
 #include "shellprocesses.h"
+#include "shellsockets.h"
 #include "shelltables.h"
-
-#include <kdQCore/coTcpSocket>
 
 /// What the commands of one run work on. Made once, in main; commands reach it through I(), as the
 /// dispatcher's factories cannot carry it.
@@ -24,8 +23,8 @@ public:
     ShellLocks locks;
     ShellProcesses processes;
     ShellDeck deck;
-    std::unique_ptr<coTcpSocket> lines;  ///< of the commands "tcp"; null without a connection
-    std::unique_ptr<coTcpSocket> remote; ///< to a remote shell; null without one
+    std::unique_ptr<ShellSocket> lines;  ///< of the commands "tcp"; null without a connection
+    std::unique_ptr<ShellSocket> remote; ///< to a remote shell; null without one
 
     void setScriptFolder(const QString& folder) { m_scriptFolder = folder; }
     /// A file to read is looked for in the working directory, then beside the script.

@@ -1,9 +1,53 @@
 #include "shellsockets.h"
 
+#include <QElapsedTimer>
 #include <QTcpSocket>
 
 #include <algorithm>
 #include <cmath>
+
+namespace {
+
+constexpr int sliceMs = 100; // the longest that Ctrl-C waits for an answer
+
+/// A time to wait, in slices.
+class Wait {
+public:
+    /// Without limit where \a milliseconds are negative.
+    Wait(const ShellCall& call, int milliseconds, ShellSocket::Waiting waiting = ShellSocket::WithProgress)
+        : m_call(call), m_total(milliseconds), m_isSilent(waiting == ShellSocket::Silent)
+    {
+        m_timer.start();
+    }
+
+    /// False where the time is over or the user stops the call.
+    bool goesOn() const
+    {
+        const double elapsed = static_cast<double>(m_timer.elapsed());
+        if (m_total >= 0 && elapsed >= m_total)
+            return false;
+        return m_isSilent || m_total < 0 ? !m_call.isStopped() : m_call.goOn(elapsed / m_total);
+    }
+
+private:
+    const ShellCall& m_call;
+    double m_total;
+    bool m_isSilent;
+    QElapsedTimer m_timer;
+};
+
+} // namespace
+
+bool ShellSocket::readLine(const ShellCall& call, QString& line, Waiting waiting)
+{
+    setTimeout(qMin(m_timeout, sliceMs));
+    const Wait wait(call, m_timeout, waiting);
+    bool isRead = readSignedLine(line);
+    while (!isRead && error() == QAbstractSocket::SocketTimeoutError && wait.goesOn())
+        isRead = readSignedLine(line);
+    setTimeout(m_timeout);
+    return isRead;
+}
 
 ShellListener::~ShellListener()
 {
@@ -27,11 +71,15 @@ bool ShellListener::open(const ShellCall& call, const QString& address, int port
     return true;
 }
 
-std::unique_ptr<coTcpSocket> ShellListener::accept(int milliseconds)
+std::unique_ptr<ShellSocket> ShellListener::accept(const ShellCall& call, int milliseconds, int timeout)
 {
-    if (m_callers.isEmpty() && (!waitForNewConnection(milliseconds) || m_callers.isEmpty()))
+    const ShellOperation operation(call, tr("Waiting for a connection"));
+    const Wait wait(call, milliseconds);
+    while (m_callers.isEmpty() && wait.goesOn())
+        waitForNewConnection(sliceMs);
+    if (m_callers.isEmpty())
         return nullptr;
-    auto socket = std::make_unique<coTcpSocket>();
+    auto socket = std::make_unique<ShellSocket>(timeout);
     return socket->setSocketDescriptor(m_callers.takeFirst()) ? std::move(socket) : nullptr;
 }
 
@@ -40,7 +88,7 @@ void ShellListener::incomingConnection(qintptr descriptor)
     m_callers.append(descriptor);
 }
 
-std::unique_ptr<coTcpSocket> nShellSockets::connectTo(const ShellCall& call)
+std::unique_ptr<ShellSocket> nShellSockets::connectTo(const ShellCall& call)
 {
     int timeout = 0;
     double seconds = 60.0;
@@ -52,18 +100,35 @@ std::unique_ptr<coTcpSocket> nShellSockets::connectTo(const ShellCall& call)
         call.fail(ShellListener::tr("A port is 1 to 65535, not %1.").arg(port));
         return nullptr;
     }
-    auto socket = std::make_unique<coTcpSocket>();
-    socket->setTimeout(timeout);
+    auto socket = std::make_unique<ShellSocket>(timeout);
     QString reason = ShellListener::tr("The name has no address.");
     QObject::connect(socket.get(), &coTcpSocket::signalError,
                      [&reason](int, const QString& text) { reason = text; });
-    if (socket->connectToHost(call.text(0), static_cast<quint16>(port))) {
+    const ShellOperation operation(call, ShellListener::tr("Connecting to %1").arg(call.text(0)));
+    auto attempt = std::async(std::launch::async, [&call, port, to = socket.get()] {
+        return to->connectToHost(call.text(0), static_cast<quint16>(port));
+    });
+    if (waitFor(call, std::move(attempt), timeout, [&socket] { socket.reset(); })) {
         QObject::disconnect(socket.get(), &coTcpSocket::signalError, nullptr, nullptr);
         return socket;
     }
     call.fail(ShellListener::tr("Cannot connect to %1, port %2: %3")
                   .arg(call.text(0), QString::number(port), reason));
     return nullptr;
+}
+
+bool nShellSockets::waitFor(const ShellCall& call, std::future<bool> work, int milliseconds,
+                            const std::function<void()>& abort)
+{
+    const Wait wait(call, milliseconds);
+    while (work.wait_for(std::chrono::milliseconds(sliceMs)) != std::future_status::ready) {
+        wait.goesOn();
+        if (call.isStopped()) {
+            abort();
+            work.wait();
+        }
+    }
+    return work.get() && !call.isStopped();
 }
 
 bool nShellSockets::readTimeout(const ShellCall& call, double seconds, int& milliseconds)

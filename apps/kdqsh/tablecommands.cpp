@@ -149,7 +149,7 @@ void TableCommands::showRows(const ShellCall& call, const kdDataTable& table, in
     QVector<QStringList> lines(1);
     for (int column = 0; column < table.columns(); ++column)
         lines[0].append(heading(table, column));
-    for (int row = 0; row < qBound(0, rows, table.rows()); ++row) {
+    for (int row = 0; row < qBound(0, rows, table.rows()) && !call.isStopped(); ++row) {
         QStringList cells;
         for (int column = 0; column < table.columns(); ++column)
             cells.append(ShellCall::numberText(table.columnRef(column).value(row)));

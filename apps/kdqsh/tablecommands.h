@@ -23,13 +23,15 @@ public:
     static bool setColumnUnit(const ShellCall& call, kdDataColumn& column, const QString& symbol);
     /// Shows names and units of the columns and the first \a rows.
     static void showRows(const ShellCall& call, const kdDataTable& table, int rows);
+    /// Name, rows and columns in a sentence.
+    static QString size(const kdDataTable& table);
 
 private:
     static bool list(ShellCall& call);
     static bool import(ShellCall& call);
     static bool load(ShellCall& call);
     static bool exportTable(ShellCall& call);
-    static bool exportText(const kdDataTable& table, QFile& file, const QString& separator);
+    static bool exportText(const kdDataTable& table, QIODevice& device, const QString& separator);
 
     static bool show(ShellCall& call);
     static bool info(ShellCall& call);
@@ -44,6 +46,4 @@ private:
     static bool sort(ShellCall& call);
     static bool scale(ShellCall& call);
     static bool combine(ShellCall& call);
-
-    static QString size(const kdDataTable& table);
 };

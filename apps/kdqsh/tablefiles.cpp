@@ -1,4 +1,5 @@
 #include "progressfile.h"
+#include "shelloutput.h"
 #include "shellsession.h"
 #include "tablecommands.h"
 
@@ -25,6 +26,16 @@ bool openForReading(const ShellCall& call, QFile& file)
     return call.fail(TableCommands::tr("'%1' cannot be read: %2").arg(file.fileName(), file.errorString()));
 }
 
+bool keep(const ShellCall& call, ShellOperation& operation, const QString& name, kdDataTable&& table)
+{
+    if (call.isStopped())
+        return false;
+    ShellTables& tables = ShellSession::I().tables;
+    tables.put(name, std::move(table));
+    operation.setOutcome(TableCommands::size(*tables.find(name)));
+    return true;
+}
+
 } // namespace
 
 QString TableCommands::separator(const QString& word)
@@ -41,22 +52,19 @@ bool TableCommands::import(ShellCall& call)
     QString name;
     if (!newName(call, name))
         return false;
-    ProgressFile file(ShellSession::I().inputPath(call.text(0)), call.reporter());
+    ProgressFile file(ShellSession::I().inputPath(call.text(0)), call.reporter(), call.stopCondition());
     if (!openForReading(call, file))
         return false;
-    call.reporter().startOperation(tr("Reading '%1'").arg(call.text(0)));
+    ShellOperation operation(call, tr("Reading '%1'").arg(call.text(0)));
     kdDataTable table;
     try {
         QTextStream stream(&file);
         stream.setCodec("UTF-8");
         kdDataTable::importFromTextStream(stream, table);
     } catch (const kdException& exception) {
-        call.reporter().finishOperation(QString());
         return call.fail(QStringLiteral("'%1': %2").arg(call.text(0), exception.nonHTMLErrorMessage()));
     }
-    ShellSession::I().tables.put(name, std::move(table));
-    call.reporter().finishOperation(size(*ShellSession::I().tables.find(name)));
-    return true;
+    return keep(call, operation, name, std::move(table));
 }
 
 bool TableCommands::load(ShellCall& call)
@@ -64,23 +72,19 @@ bool TableCommands::load(ShellCall& call)
     QString name;
     if (!newName(call, name))
         return false;
-    ProgressFile file(ShellSession::I().inputPath(call.text(0)), call.reporter());
+    ProgressFile file(ShellSession::I().inputPath(call.text(0)), call.reporter(), call.stopCondition());
     if (!openForReading(call, file))
         return false;
-    call.reporter().startOperation(tr("Reading '%1'").arg(call.text(0)));
+    ShellOperation operation(call, tr("Reading '%1'").arg(call.text(0)));
     kdDataTable table;
     QXmlStreamReader reader(&file);
     const bool isRead = table.readXML(reader, kdDataTable::xmlStartElement());
-    if (!isRead || reader.hasError()) {
-        call.reporter().finishOperation(QString());
+    if (!isRead || reader.hasError())
         return call.fail(tr("'%1', line %2: %3")
                              .arg(call.text(0), QString::number(reader.lineNumber()), reader.errorString()));
-    }
     if (call.count() == 1 && !table.name().isEmpty())
         name = table.name();
-    ShellSession::I().tables.put(name, std::move(table));
-    call.reporter().finishOperation(size(*ShellSession::I().tables.find(name)));
-    return true;
+    return keep(call, operation, name, std::move(table));
 }
 
 bool TableCommands::exportTable(ShellCall& call)
@@ -91,19 +95,18 @@ bool TableCommands::exportTable(ShellCall& call)
     const bool isXml = call.is(0, "xml");
     if (!isXml && !call.is(0, "text"))
         return call.fail(tr("'%1' is no form of a table; possible are xml and text.").arg(call.text(0)));
-    QFile file(call.text(2));
-    if (!file.open(QIODevice::WriteOnly))
-        return call.fail(tr("'%1' cannot be written: %2").arg(call.text(2), file.errorString()));
-    const bool isWritten = isXml ? table->writeXML(file) : exportText(*table, file, separator(call.text(3)));
-    if (!file.flush() || !isWritten)
-        return call.fail(tr("'%1' cannot be written: %2").arg(call.text(2), file.errorString()));
+    const auto write = [&](const kdDataTable& values, QIODevice& device) {
+        return isXml ? values.writeXML(device) : exportText(values, device, separator(call.text(3)));
+    };
+    if (!nShellOutput::write(call, call.text(2), *table, write))
+        return false;
     call.tell(tr("Table '%1' written to '%2'.").arg(call.text(1), call.text(2)));
     return true;
 }
 
-bool TableCommands::exportText(const kdDataTable& table, QFile& file, const QString& separator)
+bool TableCommands::exportText(const kdDataTable& table, QIODevice& device, const QString& separator)
 {
-    QTextStream stream(&file);
+    QTextStream stream(&device);
     stream.setCodec("UTF-8");
     const bool isWritten = table.exportValuesToTextStream(stream, separator);
     stream.flush();

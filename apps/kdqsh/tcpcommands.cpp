@@ -41,10 +41,9 @@ bool TcpCommands::serve(ShellCall& call)
     ShellListener listener;
     if (!listener.open(call, address, port))
         return false;
-    std::unique_ptr<coTcpSocket> socket = listener.accept(timeout);
+    std::unique_ptr<ShellSocket> socket = listener.accept(call, timeout, timeout);
     if (socket == nullptr)
         return call.fail(tr("Nobody has connected within %1 s.").arg(ShellCall::numberText(seconds)));
-    socket->setTimeout(timeout);
     call.tell(tr("Connected from %1, port %2.")
                   .arg(socket->peerAddress().toString(), QString::number(socket->peerPort())));
     ShellSession::I().lines = std::move(socket);
@@ -53,7 +52,7 @@ bool TcpCommands::serve(ShellCall& call)
 
 bool TcpCommands::connect(ShellCall& call)
 {
-    std::unique_ptr<coTcpSocket> socket = nShellSockets::connectTo(call);
+    std::unique_ptr<ShellSocket> socket = nShellSockets::connectTo(call);
     if (socket == nullptr)
         return false;
     call.tell(tr("Connected to %1, port %2.")
@@ -75,9 +74,10 @@ bool TcpCommands::receive(ShellCall& call)
 {
     if (!isConnected(call))
         return false;
-    coTcpSocket& socket = *ShellSession::I().lines;
+    ShellSocket& socket = *ShellSession::I().lines;
     QString line;
-    if (!socket.readSignedLine(line))
+    const ShellOperation operation(call, tr("Waiting for a line"));
+    if (!socket.readLine(call, line, ShellSocket::WithProgress))
         return call.fail(tr("Nothing received: %1").arg(socket.errorString()));
     call.show(nShellSockets::printable(line));
     return true;

@@ -33,7 +33,9 @@ bool TimeCommands::ask(ShellCall& call)
     if (port < 1 || port > 65535)
         return call.fail(tr("A port is 1 to 65535, not %1.").arg(port));
     client = coSntpClient(server, static_cast<quint16>(port));
-    if (!client.update(timeout))
+    const ShellOperation operation(call, tr("Asking %1").arg(server));
+    auto answer = std::async(std::launch::async, [&client, timeout] { return client.update(timeout); });
+    if (!nShellSockets::waitFor(call, std::move(answer), timeout, [] {}))
         return call.fail(tr("%1, port %2, does not tell the time: %3")
                              .arg(server, QString::number(port), client.errorString()));
     call.show(client.dateTime().toString(Qt::ISODate));

@@ -77,6 +77,15 @@ bool isTerminal(StandardStream stream);
 /// Width of the window behind the standard error stream in columns; 80 where it is not known.
 int terminalColumns();
 
+/// Makes the window behind a standard stream obey escape sequences for colours; false where it cannot, or
+/// where there is none.
+bool enableEscapeSequences(StandardStream stream);
+
+/// Calls \a handler instead of ending the process when the user presses Ctrl-C (on Windows also Ctrl-Break).
+/// It runs in a signal handler or in a thread of the system: it may touch lock-free atomics and end the
+/// process by std::_Exit(), nothing else.
+void watchInterrupts(void (*handler)());
+
 /// Names the system's zone in the environment where it names none, so that the C library does not look the
 /// zone file up for every time text. Does nothing on Windows. Call it before other threads start.
 void presetTimeZone();

@@ -25,6 +25,8 @@ namespace nPlatform {
 
 namespace {
 
+void (*interruptHandler)() = nullptr;
+
 unsigned long currentError()
 {
     return static_cast<unsigned long>(errno);
@@ -301,6 +303,20 @@ bool isTerminal(StandardStream stream)
         return isatty(STDERR_FILENO) == 1;
     }
     return false;
+}
+
+bool enableEscapeSequences(StandardStream stream)
+{
+    return isTerminal(stream);
+}
+
+void watchInterrupts(void (*handler)())
+{
+    interruptHandler = handler;
+    struct sigaction action = {};
+    action.sa_handler = [](int) { interruptHandler(); };
+    action.sa_flags = SA_RESTART; // nobody who writes a file just now sees half of it refused
+    sigaction(SIGINT, &action, nullptr);
 }
 
 void presetTimeZone()

@@ -16,6 +16,8 @@ namespace nPlatform {
 
 namespace {
 
+void (*interruptHandler)() = nullptr;
+
 const wchar_t* wide(const QString& text)
 {
     return reinterpret_cast<const wchar_t*>(text.utf16());
@@ -334,13 +336,45 @@ ProcessFacts processFacts(qint64 processId)
     return facts;
 }
 
-bool isTerminal(StandardStream stream)
+namespace {
+
+HANDLE handleOf(StandardStream stream)
 {
     DWORD id = STD_ERROR_HANDLE;
     if (stream != StandardStream::Error)
         id = stream == StandardStream::Input ? STD_INPUT_HANDLE : STD_OUTPUT_HANDLE;
+    return GetStdHandle(id);
+}
+
+BOOL WINAPI onConsoleEvent(DWORD event)
+{
+    if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
+        return FALSE;
+    interruptHandler();
+    return TRUE;
+}
+
+} // namespace
+
+bool isTerminal(StandardStream stream)
+{
     DWORD mode = 0;
-    return GetConsoleMode(GetStdHandle(id), &mode) != 0;
+    return GetConsoleMode(handleOf(stream), &mode) != 0;
+}
+
+bool enableEscapeSequences(StandardStream stream)
+{
+    DWORD mode = 0;
+    const HANDLE handle = handleOf(stream);
+    return GetConsoleMode(handle, &mode) != 0
+        && SetConsoleMode(handle, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
+void watchInterrupts(void (*handler)())
+{
+    interruptHandler = handler;
+    SetConsoleCtrlHandler(nullptr, FALSE); // a parent may have had it ignored
+    SetConsoleCtrlHandler(onConsoleEvent, TRUE);
 }
 
 int terminalColumns()

@@ -93,10 +93,10 @@ void TestKdqshMessages::commandsRunInTheOtherShell()
     QCOMPARE(client.status, 1);
     QCOMPARE(client.output,
              S("Connected to kdqsh %1.\n"
-               "Reading 'curve.csv'\nTable 'a \u20AC': 2 rows, 2 columns.\n"
+               "Table 'a \u20AC': 2 rows, 2 columns.\n"
                "2 -\n"
                "Undone: table import curve.csv as \"a \u20AC\"\n"
-               "Reading 'curve.csv'\nTable 'left': 2 rows, 2 columns.\n")
+               "Table 'left': 2 rows, 2 columns.\n")
                  .arg(S(KDQSH_VERSION)));
     QCOMPARE(client.errors,
              S("-c:3: remote run: table lookup: There is no table 'x', only a \u20AC.\n"

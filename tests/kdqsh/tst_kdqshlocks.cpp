@@ -117,7 +117,7 @@ private Q_SLOTS:
         OtherShell waiting(shell);
         waiting.write("lock take . wait 600\n");
         QVERIFY(waiting.waitForReadyRead());
-        QVERIFY(waiting.readAllStandardOutput().startsWith("Waiting for the lock of "));
+        QVERIFY(waiting.readAllStandardOutput().contains("Waiting for the lock of "));
         QVERIFY(owner.ends() && waiting.ends());
         QVERIFY(waiting.readAllStandardOutput().contains(" locked."));
     }
