@@ -25,7 +25,8 @@ constexpr Example examples[] = {
     {"table list", "table import iso834_fire_curve.csv as fire\ntable list"},
     {"table import", "table import iso834_fire_curve.csv as fire\ntable show fire 3"},
     {"table load",
-     "table import iso834_fire_curve.csv as fire\ntable export xml fire fire.xml\ntable load fire.xml as again"},
+     "table import iso834_fire_curve.csv as fire\ntable export xml fire fire.xml\ntable load fire.xml as "
+     "again"},
     {"table export", "table import iso834_fire_curve.csv as fire\ntable export text fire fire.txt tab"},
     {"table show", "table import iso834_fire_curve.csv as fire\ntable show fire 5"},
     {"table info", "table import steel_s355_en1993.csv as steel\ntable info steel"},

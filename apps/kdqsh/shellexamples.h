@@ -7,7 +7,8 @@
 /// conversation, over port 4711 or with process 4711.
 namespace nShellExamples {
 
-/// The lines of the example of \a command, its name as it is typed ("table import"); none where it is unknown.
+/// The lines of the example of \a command, its name as it is typed ("table import"); none where it is
+/// unknown.
 QStringList of(const QString& command);
 
 } // namespace nShellExamples

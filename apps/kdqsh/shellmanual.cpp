@@ -88,10 +88,9 @@ QString commands()
             + sentences(group->translatedSummary());
         QStringList lines;
         for (const ShellCommandEntry& entry : group->entries)
-            lines += *entry.name == '\0' ? QStringList{QLatin1String(group->name),
-                                                       QStringLiteral("    ") + group->summaryOf(entry)}
-                                         : helpOn(QStringLiteral("%1 %2").arg(QLatin1String(group->name),
-                                                                              QLatin1String(entry.name)));
+            lines += *entry.name == '\0'
+                ? QStringList{QLatin1String(group->name), QStringLiteral("    ") + group->summaryOf(entry)}
+                : helpOn(QStringLiteral("%1 %2").arg(QLatin1String(group->name), QLatin1String(entry.name)));
         text += list(lines);
     }
     return text;
@@ -116,7 +115,8 @@ QString date()
 {
     bool isGiven = false;
     const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isGiven);
-    const QDateTime time = isGiven ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC) : QDateTime::currentDateTime();
+    const QDateTime time =
+        isGiven ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC) : QDateTime::currentDateTime();
     return QLocale::c().toString(time.date(), QStringLiteral("MMMM d, yyyy"));
 }
 
@@ -124,9 +124,9 @@ QString date()
 
 QString nShellManual::page(const QString& description, const QList<QCommandLineOption>& options)
 {
-    return QStringLiteral(".Dd %1\n.Dt KDQSH 1\n.Os\n").arg(date())
-        + section("NAME") + QLatin1String(".Nm kdqsh\n.Nd tables of material data and solver input decks by text commands\n")
-        + section("SYNOPSIS") + QLatin1String(".Nm\n.Op Ar options\n.Op Ar script\n")
-        + section("DESCRIPTION") + sentences(description) + section("OPTIONS") + optionList(options)
-        + section("COMMANDS") + commands() + section("THE PROMPT") + list(helpOn(QStringLiteral("prompt"))).trimmed();
+    return QStringLiteral(".Dd %1\n.Dt KDQSH 1\n.Os\n").arg(date()) + section("NAME")
+        + QLatin1String(".Nm kdqsh\n.Nd tables of material data and solver input decks by text commands\n")
+        + section("SYNOPSIS") + QLatin1String(".Nm\n.Op Ar options\n.Op Ar script\n") + section("DESCRIPTION")
+        + sentences(description) + section("OPTIONS") + optionList(options) + section("COMMANDS") + commands()
+        + section("THE PROMPT") + list(helpOn(QStringLiteral("prompt"))).trimmed();
 }

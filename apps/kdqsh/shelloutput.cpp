@@ -78,8 +78,8 @@ qint64 expectedSize(const kdDataTable& table, const nShellOutput::WriteTable& wr
 
 bool nShellOutput::write(const ShellCall& call, const QString& path, qint64 expectedSize, const Write& write)
 {
-    const ShellOperation operation(
-        call, QCoreApplication::translate("ShellOutput", "Writing '%1'").arg(path));
+    const ShellOperation operation(call,
+                                   QCoreApplication::translate("ShellOutput", "Writing '%1'").arg(path));
     const QFileInfo existing(path);
     if (existing.exists() && !existing.isFile()) {
         WatchedFile<QFile> device(path, call, expectedSize);

@@ -149,7 +149,7 @@ def ctrl_c_stops_a_command():
         assert not list(folder.glob("big.csv.*"))
         for waiting in ("tcp serve timeout 5000", "ipc listen jes seconds 5000", "remote serve"):
             shell.type(waiting + "\r")
-            assert "Stopped." in shell.stop_when("Waiting|istening")
+            assert "Stopped." in shell.stop_when("Waiting|Listening|listens")
 
 
 def colours():
