@@ -35,10 +35,6 @@
         <translation>Zeigt die Trennzeichen, die CSV-Dateien ohne Angabe erhalten; speichert andere für diesen und spätere Läufe.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; cannot be written: %2</source>
-        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
-    </message>
-    <message>
         <source>Table &apos;%1&apos; written to &apos;%2&apos;.</source>
         <translation>Tabelle „%1“ in „%2“ geschrieben.</translation>
     </message>
@@ -352,6 +348,10 @@
         <source>The deck &apos;%1&apos; (%2) holds no option &quot;%3&quot; of number %4; see &apos;deck show&apos;.</source>
         <translation>Das Deck „%1“ (%2) enthält keine Option „%3“ mit der Nummer %4; siehe „deck show“.</translation>
     </message>
+    <message>
+        <source>Reading &apos;%1&apos;</source>
+        <translation>„%1“ wird gelesen</translation>
+    </message>
 </context>
 <context>
     <name>DeckDocument</name>
@@ -562,13 +562,13 @@
         <source>&apos;%1&apos; needs two ends to run between (from A to B).</source>
         <translation>„%1“ braucht zwei Enden, zwischen denen es läuft (from A to B).</translation>
     </message>
+    <message>
+        <source>Evaluating the formula</source>
+        <translation>Die Formel wird ausgewertet</translation>
+    </message>
 </context>
 <context>
     <name>HeatCommands</name>
-    <message>
-        <source>&apos;%1&apos; cannot be written: %2</source>
-        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
-    </message>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
         <translation>„%1“ lässt sich nicht lesen: %2</translation>
@@ -876,6 +876,14 @@
     <message>
         <source>&apos;seconds&apos; must be from 1 to 86400, not %1.</source>
         <translation>„seconds“ muss zwischen 1 und 86400 liegen, nicht %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for greetings</source>
+        <translation>Warten auf Grüße</translation>
+    </message>
+    <message>
+        <source>Waiting for an answer</source>
+        <translation>Warten auf eine Antwort</translation>
     </message>
 </context>
 <context>
@@ -1710,12 +1718,28 @@
         <source>The command failed.</source>
         <translation>Der Befehl ist gescheitert.</translation>
     </message>
+    <message>
+        <source>Stopped; what it has written so far stays.</source>
+        <translation>Angehalten; was bis dahin geschrieben ist, bleibt.</translation>
+    </message>
+    <message>
+        <source>Stopped; everything is as it was before.</source>
+        <translation>Angehalten; alles ist wie zuvor.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Angehalten.</translation>
+    </message>
 </context>
 <context>
     <name>ShellConsole</name>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>, %1:%2 left</source>
+        <translation>, noch %1:%2</translation>
     </message>
 </context>
 <context>
@@ -1747,10 +1771,6 @@
         <translation>Es gibt keinen Befehl „%1“; „help“ zeigt alle.</translation>
     </message>
     <message>
-        <source>Shows all commands, or one with its usage.</source>
-        <translation>Zeigt alle Befehle oder einen mit seinem Aufruf.</translation>
-    </message>
-    <message>
         <source>Shows the commands of this session.</source>
         <translation>Zeigt die Befehle dieser Sitzung.</translation>
     </message>
@@ -1773,6 +1793,50 @@
     <message>
         <source>Statements end at the line end or at &quot;;&quot;. Words that hold blanks, &quot;;&quot; or &quot;#&quot; stand in quotes. &quot;#&quot; opens a comment, &quot;\&quot; at the end continues a line.</source>
         <translation>Anweisungen enden am Zeilenende oder bei „;“. Wörter mit Leerzeichen, „;“ oder „#“ stehen in Anführungszeichen (&quot; oder &apos;). „#“ beginnt einen Kommentar, „\“ am Ende setzt eine Zeile fort.</translation>
+    </message>
+    <message>
+        <source>Shows all commands, or one with an example; &apos;help prompt&apos; tells of keys and colours.</source>
+        <translation>Zeigt alle Befehle, oder einen mit Beispiel; „help prompt“ nennt Tasten und Farben.</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Beispiel:</translation>
+    </message>
+    <message>
+        <source>Completes the word by what may stand there: commands and their words, files, tables, columns, units, processes, stages, parameters, locked folders; shows what is possible where there is a choice.</source>
+        <translation>Ergänzt das Wort durch das, was dort stehen kann: Befehle und ihre Wörter, Dateien, Tabellen, Spalten, Einheiten, Prozesse, Stufen, Parameter, gesperrte Ordner; zeigt, was möglich ist, wo es eine Wahl gibt.</translation>
+    </message>
+    <message>
+        <source>Bring earlier lines back, also those of earlier sessions, and search them. A line that begins with a blank is not kept.</source>
+        <translation>Holen frühere Zeilen zurück, auch die früherer Sitzungen, und durchsuchen sie. Eine Zeile, die mit einem Leerzeichen beginnt, wird nicht behalten.</translation>
+    </message>
+    <message>
+        <source>Drops the line being typed. Stops a command that runs and takes back what it has changed so far; pressed once more, ends kdqsh at once.</source>
+        <translation>Verwirft die Zeile, die gerade getippt wird. Hält einen laufenden Befehl an und nimmt zurück, was er bis dahin geändert hat; noch einmal gedrückt, beendet es kdqsh sofort.</translation>
+    </message>
+    <message>
+        <source>Ends the session, on an empty line.</source>
+        <translation>Beendet die Sitzung, auf einer leeren Zeile.</translation>
+    </message>
+    <message>
+        <source>Errors are red, warnings yellow: on terminals, unless NO_COLOR is set to anything or TERM is dumb; or as the option says.</source>
+        <translation>Fehler sind rot, Warnungen gelb: auf Terminals, außer wenn NO_COLOR auf irgendetwas gesetzt oder TERM dumb ist; oder wie die Option es sagt.</translation>
+    </message>
+    <message>
+        <source>The user&apos;s languages, as de_AT:en; else the system&apos;s.</source>
+        <translation>Die Sprachen des Benutzers, wie de_AT:en; sonst die des Systems.</translation>
+    </message>
+    <message>
+        <source>The user&apos;s data folder. In its folder kaldoran: kdqsh_history, kdqsh.ini and log.</source>
+        <translation>Der Datenordner des Benutzers. In seinem Ordner kaldoran: kdqsh_history, kdqsh.ini und log.</translation>
+    </message>
+    <message>
+        <source>The root of the installation.</source>
+        <translation>Die Wurzel der Installation.</translation>
+    </message>
+    <message>
+        <source>Exit statuses: all went well; a command failed; the command line was wrong; ended by Ctrl-C.</source>
+        <translation>Rückgabewerte: alles ging gut; ein Befehl schlug fehl; die Befehlszeile war falsch; beendet durch Strg-C.</translation>
     </message>
 </context>
 <context>
@@ -1828,6 +1892,14 @@
         <source>A timeout is more than 0 and up to 1000000 seconds, not %1.</source>
         <translation>Eine Wartezeit ist mehr als 0 und bis zu 1000000 Sekunden, nicht %1.</translation>
     </message>
+    <message>
+        <source>Waiting for a connection</source>
+        <translation>Warten auf eine Verbindung</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Verbindung zu %1 wird aufgebaut</translation>
+    </message>
 </context>
 <context>
     <name>ShellLocks</name>
@@ -1879,10 +1951,6 @@
         <translation>Zeigt diese Hilfe.</translation>
     </message>
     <message>
-        <source>Shows the version.</source>
-        <translation>Zeigt die Version.</translation>
-    </message>
-    <message>
         <source>File with commands (UTF-8); &quot;-&quot; is standard input.</source>
         <translation>Datei mit Befehlen (UTF-8); „-“ ist die Standardeingabe.</translation>
     </message>
@@ -1897,12 +1965,43 @@
     <message>
         <source>Tables of material data and solver input decks by text commands. Commands come from a script, from
 -c, from standard input, or from a prompt. The exit status is 0 only if all went well, 1 if a command
-failed, 2 if this command line was wrong. &quot;-basePath FOLDER&quot; names the installation, with
-&quot;-undoSetup&quot; for this run only.</source>
-        <translation>Tabellen von Werkstoffdaten und Eingabedecks des Solvers durch Textbefehle. Die Befehle kommen aus einem
-Skript, aus -c, von der Standardeingabe oder von einer Eingabezeile. Der Endestatus ist 0 nur, wenn alles
-gelang, 1, wenn ein Befehl scheiterte, 2, wenn diese Kommandozeile falsch war. „-basePath ORDNER“ nennt die
-Installation, mit „-undoSetup“ nur für diesen Lauf.</translation>
+failed, 2 if this command line was wrong, 130 after Ctrl-C. &quot;-basePath FOLDER&quot; names the
+installation, with &quot;-undoSetup&quot; for this run only.</source>
+        <translation>Tabellen von Werkstoffdaten und Eingabedecks des Lösers durch Textbefehle. Befehle kommen aus einem
+Skript, aus -c, von der Standardeingabe oder von einer Eingabezeile. Der Rückgabewert ist 0 nur, wenn
+alles gut ging, 1, wenn ein Befehl fehlschlug, 2, wenn diese Befehlszeile falsch war, 130 nach Strg-C.
+„-basePath ORDNER“ nennt die Installation, mit „-undoSetup“ nur für diesen Lauf.</translation>
+    </message>
+    <message>
+        <source>Colours: auto (on terminals, unless NO_COLOR is set or TERM is dumb), always, never.</source>
+        <translation>Farben: auto (auf Terminals, außer wenn NO_COLOR gesetzt oder TERM dumb ist), always, never.</translation>
+    </message>
+    <message>
+        <source>when</source>
+        <translation>wann</translation>
+    </message>
+    <message>
+        <source>Writes the manual page to standard output, in mdoc.</source>
+        <translation>Schreibt die Handbuchseite auf die Standardausgabe, in mdoc.</translation>
+    </message>
+    <message>
+        <source>Shows the version, and what it was built with.</source>
+        <translation>Zeigt die Version, und womit sie gebaut wurde.</translation>
+    </message>
+    <message>
+        <source>--color takes auto, always or never, not &apos;%1&apos;.</source>
+        <translation>--color nimmt auto, always oder never, nicht „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>ShellOutput</name>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Writing &apos;%1&apos;</source>
+        <translation>„%1“ wird geschrieben</translation>
     </message>
 </context>
 <context>
@@ -2095,10 +2194,6 @@ Installation, mit „-undoSetup“ nur für diesen Lauf.</translation>
         <translation>„%1“ ist keine Form einer Tabelle; möglich sind xml und text.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; cannot be written: %2</source>
-        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
-    </message>
-    <message>
         <source>Table &apos;%1&apos; written to &apos;%2&apos;.</source>
         <translation>Tabelle „%1“ in „%2“ geschrieben.</translation>
     </message>
@@ -2179,6 +2274,10 @@ Installation, mit „-undoSetup“ nur für diesen Lauf.</translation>
         <source>A signed line cannot hold &apos;%1&apos;, only Latin-1.</source>
         <translation>Eine signierte Zeile kann „%1“ nicht enthalten, nur Latin-1.</translation>
     </message>
+    <message>
+        <source>Waiting for a line</source>
+        <translation>Warten auf eine Zeile</translation>
+    </message>
 </context>
 <context>
     <name>TimeCommands</name>
@@ -2201,6 +2300,10 @@ Installation, mit „-undoSetup“ nur für diesen Lauf.</translation>
     <message>
         <source>This machine&apos;s clock is off by %1 s.</source>
         <translation>Die Uhr dieses Rechners weicht um %1 s ab.</translation>
+    </message>
+    <message>
+        <source>Asking %1</source>
+        <translation>%1 wird gefragt</translation>
     </message>
 </context>
 <context>
