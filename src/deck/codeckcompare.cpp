@@ -148,9 +148,14 @@ bool coDeckCompare::isSame(const QByteArray& a, const QByteArray& b, double& rel
         return false;
     if (valueA == valueB || (std::isnan(valueA) && std::isnan(valueB)))
         return true;
-    // Scaled first: the distance of two large values of unlike sign would be infinite.
     const double scale = std::max(std::fabs(valueA), std::fabs(valueB));
-    relative = std::isfinite(scale) ? std::fabs(valueA / scale - valueB / scale) : 2.0;
+    const double distance = std::fabs(valueA - valueB);
+    if (!std::isfinite(scale))
+        relative = 2.0;
+    else if (std::isfinite(distance))
+        relative = distance / scale;
+    else // of two large values of unlike sign
+        relative = std::fabs(valueA / scale - valueB / scale);
     return relative <= m_tolerance;
 }
 
