@@ -148,8 +148,7 @@ def environment(source, prefix, work):
     result = {key: value for key, value in os.environ.items() if not key.startswith(("KDQ", "KALDORAN", "CTEST"))}
     cache = subprocess.run(["ccache", "-k", "cache_dir"], capture_output=True, text=True) if shutil.which("ccache") else None
     if cache and cache.returncode == 0:
-        result.update(CCACHE_DIR=cache.stdout.strip(), CCACHE_BASEDIR=str(work), CCACHE_NOHASHDIR="1",
-                      CCACHE_SLOPPINESS="include_file_mtime,include_file_ctime")
+        result["CCACHE_DIR"] = cache.stdout.strip()  # not in the home below
     result.update(HOME=str(home), LOCALAPPDATA=str(home), LC_ALL="C.UTF-8", TZ="UTC", USER="jana", LOGNAME="jana",
                   PATH=f"{prefix}/bin:{os.environ['PATH']}", CMAKE_GENERATOR="Ninja", CMAKE_BUILD_TYPE="Debug")
     return result
