@@ -27,16 +27,6 @@ private:
 
 namespace {
 
-QStringList texts(const QByteArray& svg)
-{
-    QStringList texts;
-    QXmlStreamReader reader(svg);
-    while (!reader.atEnd())
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == S("text"))
-            texts.append(reader.readElementText());
-    return reader.hasError() ? QStringList() : texts;
-}
-
 const QString import = S("table import a.csv; table import b.csv; ");
 
 } // namespace
@@ -49,6 +39,16 @@ bool TestKdqshPlot::writeTables(const KdqshRun& shell)
 }
 
 #ifdef KDQPLOT_IS_BUILT
+
+static QStringList texts(const QByteArray& svg)
+{
+    QStringList texts;
+    QXmlStreamReader reader(svg);
+    while (!reader.atEnd())
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == S("text"))
+            texts.append(reader.readElementText());
+    return reader.hasError() ? QStringList() : texts;
+}
 
 void TestKdqshPlot::pictures_data()
 {
