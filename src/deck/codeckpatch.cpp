@@ -105,8 +105,9 @@ void coDeckPatch::add(int index, Place place, const QByteArray& lines)
     QByteArray text = lines;
     if (!text.endsWith('\n'))
         text.append('\n');
+    text.replace("\r\n", "\n");
     if (m_hasCrLf)
-        text.replace("\r\n", "\n").replace("\n", "\r\n");
+        text.replace("\n", "\r\n");
     m_edits.append({index, place, text});
 }
 

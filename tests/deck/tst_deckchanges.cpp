@@ -139,7 +139,7 @@ private Q_SLOTS:
         const int table = patch.find(QStringLiteral("table 'k'"));
         QVERIFY(solver > table && table > 0);
         QCOMPARE(patch.find(QStringLiteral("table 'k'"), 1), -1);
-        patch.insertAfter(solver, "end");
+        patch.insertAfter(solver, "end\r\n");
         patch.replace(solver, patch.bytesOf(coFeSolverCard(nSolver::MultifrontalDirect), solver));
         patch.insertBefore(solver, "nodal    1");
         patch.insertBefore(table, "feature    7\n");

@@ -259,6 +259,9 @@ private Q_SLOTS:
                                 "1,0,0,0,0,0,ptld_0_punch top\n";
         QTest::newRow("point load 3-D")
             << load + "1.50000E+0,-2.5000E+0,1.23456E+3,\n0,0,0,\n2,\npunch top\n";
+        QTest::newRow("comment that looks like a component")
+            << QByteArray("$ Point load for component 'a'.\n$ Point load for component 'b'.\n")
+                + load.mid(load.indexOf("point load")) + "1.23456E+3,1.50000E+0,\n0,0,\n2,\npunch top\n";
         QTest::newRow("point load 2-D") << load + "1.23456E+3,1.50000E+0,\n0,0,\n2,\npunch top\n";
         QTest::newRow("point current")
             << QByteArray("point current\n0,0,\n1,0,0,0,0,0,weld,\n1.25000E+4,0.00000E+0,0.00000E+0,\n"
