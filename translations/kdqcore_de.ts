@@ -352,6 +352,10 @@
         <source>Reading &apos;%1&apos;</source>
         <translation>„%1“ wird gelesen</translation>
     </message>
+    <message>
+        <source>Changing &apos;%1&apos;</source>
+        <translation>„%1“ wird geändert</translation>
+    </message>
 </context>
 <context>
     <name>DeckDocument</name>
@@ -2495,6 +2499,10 @@ alles gut ging, 1, wenn ein Befehl fehlschlug, 2, wenn diese Befehlszeile falsch
     <message>
         <source>The deck &apos;%1&apos; stays as it was: there are no new lines.</source>
         <translation>Das Deck „%1“ bleibt, wie es war: Es gibt keine neuen Zeilen.</translation>
+    </message>
+    <message>
+        <source>Stopped; the deck &apos;%1&apos; stays as it was.</source>
+        <translation>Angehalten; das Deck „%1“ bleibt, wie es war.</translation>
     </message>
 </context>
 <context>

@@ -214,6 +214,8 @@ bool DeckCommands::patch(ShellCall& call)
         return false;
     coDeckPatch patch =
         widths.isGiven() ? coDeckPatch(call.text(0), widths.given()) : coDeckPatch(call.text(0));
+    patch.setProgress([&call](double done) { return call.goOn(done); });
+    const ShellOperation operation(call, tr("Changing '%1'").arg(call.text(0)));
     if (!patch.read())
         return call.fail(patch.errorText());
     const int index = patch.find(call.text(2), number - 1);

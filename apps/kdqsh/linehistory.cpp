@@ -31,9 +31,10 @@ LineHistory::LineHistory(const QString& path) : m_path(path)
         shorter.commit();
 }
 
-void LineHistory::add(const QString& line)
+void LineHistory::add(const QString& typed)
 {
-    if (line.trimmed().isEmpty() || line.at(0).isSpace())
+    const QString line = typed.trimmed();
+    if (line.isEmpty() || typed.at(0).isSpace())
         return;
     take(line);
     QFile file(m_path);

@@ -12,7 +12,7 @@ public:
 
     /// Oldest first.
     const QStringList& lines() const { return m_lines; }
-    void add(const QString& line);
+    void add(const QString& typed);
 
 private:
     void take(const QString& line);

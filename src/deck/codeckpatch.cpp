@@ -53,8 +53,10 @@ bool coDeckPatch::read()
     m_hasCrLf = hasCrLf(file);
     coDeckReader reader(file, m_layout, coDeckReader::NoCards);
     coDeckOption option;
-    while (reader.next(option))
+    while (goOn(0.0, file.pos()) && reader.next(option))
         m_options.append(option);
+    if (!m_errorText.isEmpty())
+        return false;
     if (reader.hasFailed())
         return fail(reader.errorText());
     return true;
@@ -177,6 +179,8 @@ bool coDeckPatch::write(QIODevice& from, QIODevice& to)
 bool coDeckPatch::copy(QIODevice& from, QIODevice& to, qint64 count)
 {
     while (count > 0) {
+        if (!goOn(0.5, from.pos()))
+            return false;
         const QByteArray block = from.read(std::min(count, blockSize));
         if (block.isEmpty())
             return fail(tr("The deck '%1' cannot be read: %2").arg(m_path, from.errorString()));
@@ -193,6 +197,14 @@ bool coDeckPatch::put(const QByteArray& bytes, QIODevice& to)
         m_endsInLine = bytes.endsWith('\n');
     return to.write(bytes) == bytes.size()
         || fail(tr("The changed deck cannot be written: %1").arg(to.errorString()));
+}
+
+/// \a half is what was done before the deck was gone through this time.
+bool coDeckPatch::goOn(double half, qint64 position)
+{
+    const double part = static_cast<double>(position) / static_cast<double>(std::max<qint64>(m_size, 1));
+    return !m_progress || m_progress(half + 0.5 * part)
+        || fail(tr("Stopped; the deck '%1' stays as it was.").arg(m_path));
 }
 
 bool coDeckPatch::fail(const QString& text)

@@ -7,6 +7,8 @@
 #include <QDateTime>
 #include <QVector>
 
+#include <functional>
+
 class QIODevice;
 
 /// Changes single options of an existing input deck and leaves every other byte as it was.
@@ -40,6 +42,11 @@ public:
     explicit coDeckPatch(const QString& path);
     /// Where the widths are known.
     coDeckPatch(const QString& path, const coDeckLayout& layout);
+
+    /// Told while read() and apply() go through the deck how much of both is done, 0 to 1. Once it answers
+    /// false they fail, the deck as it was.
+    using Progress = std::function<bool(double done)>;
+    void setProgress(Progress progress) { m_progress = std::move(progress); }
 
     /// Finds the deck's options. False with errorText() set where the file cannot be read.
     bool read();
@@ -81,6 +88,7 @@ private:
     };
 
     bool fail(const QString& text);
+    bool goOn(double half, qint64 position);
     bool isUnchanged() const;
     void add(int index, Place place, const QByteArray& lines);
     bool write(QIODevice& from, QIODevice& to);
@@ -88,6 +96,7 @@ private:
     bool put(const QByteArray& bytes, QIODevice& to);
     bool replaceFile(Old old);
 
+    Progress m_progress;
     QString m_path;
     coDeckLayout m_layout;
     bool m_isLayoutGiven = false;

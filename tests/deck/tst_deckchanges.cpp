@@ -173,6 +173,22 @@ private Q_SLOTS:
         QVERIFY(!patch.apply());
         QVERIFY2(patch.errorText().contains(QStringLiteral("no new lines")), qPrintable(patch.errorText()));
         QVERIFY(!coDeckPatch(m_folder.filePath(QStringLiteral("missing.dat"))).read());
+        const int files = QDir(m_folder.path()).entryList(QDir::Files).size();
+        for (const double end : {0.0, 0.4, 0.6}) { // at once, while reading, while writing
+            const QByteArray before = deck.repeated(5000);
+            write(before);
+            coDeckPatch stopped(m_path);
+            stopped.setProgress([end](double done) { return done < end; });
+            const bool isRead = stopped.read();
+            QCOMPARE(isRead, end > 0.5);
+            if (isRead)
+                stopped.remove(0);
+            QVERIFY(!isRead || !stopped.apply(coDeckPatch::KeepOld));
+            QVERIFY2(stopped.errorText().startsWith(QStringLiteral("Stopped")),
+                     qPrintable(stopped.errorText()));
+            QCOMPARE(content(m_path), before);
+            QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files).size(), files);
+        }
     }
 };
 

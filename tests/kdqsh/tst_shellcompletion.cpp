@@ -161,7 +161,7 @@ void TestShellCompletion::historyIsKept()
     LineHistory second(path);
     for (int i = 0; i < 1500; ++i)
         first.add(QStringLiteral("line %1").arg(i));
-    for (const char* line : {"table list", "gr\xc3\xbc\xc3\x9f", " hidden", "", "table list", "line 1499"})
+    for (const char* line : {"table list", "gr\xc3\xbc\xc3\x9f", " hidden", "", "table list ", "line 1499"})
         second.add(QString::fromUtf8(line));
     const LineHistory later(path);
     QCOMPARE(later.lines().size(), 1000);
