@@ -1202,28 +1202,8 @@
         <translation>Tabelle exportieren</translation>
     </message>
     <message>
-        <source>XML (*.xml)</source>
-        <translation>XML (*.xml)</translation>
-    </message>
-    <message>
-        <source>Text with all digits (*.txt)</source>
-        <translation>Text mit allen Stellen (*.txt)</translation>
-    </message>
-    <message>
-        <source>For spreadsheets (*.csv)</source>
-        <translation>Für Tabellenkalkulationen (*.csv)</translation>
-    </message>
-    <message>
         <source>Export curve</source>
         <translation>Kurve exportieren</translation>
-    </message>
-    <message>
-        <source>Vector graphics (*.svg)</source>
-        <translation>Vektorgrafik (*.svg)</translation>
-    </message>
-    <message>
-        <source>Picture (*.png)</source>
-        <translation>Bild (*.png)</translation>
     </message>
     <message>
         <source>&apos;%1&apos; written.</source>
@@ -1232,6 +1212,26 @@
     <message>
         <source>&apos;%1&apos; cannot be written: %2</source>
         <translation>„%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation>XML</translation>
+    </message>
+    <message>
+        <source>Text with all digits</source>
+        <translation>Text mit allen Stellen</translation>
+    </message>
+    <message>
+        <source>For spreadsheets</source>
+        <translation>Für Tabellenkalkulationen</translation>
+    </message>
+    <message>
+        <source>Vector graphics</source>
+        <translation>Vektorgrafik</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,8 @@ public:
     /// Of the icon in the resources.
     virtual QString iconPath() const = 0;
 
-    virtual bool canSave() const { return true; }
+    /// Of the names under which it can be saved; the ending decides on the form. None for what cannot be.
+    virtual QStringList fileEndings() const = 0;
     /// Replaces the file, or leaves it as it was. False where it could not be written, \a error says why.
     bool save(const QString& path, QString& error);
     /// Whether somebody else wrote to the file since it was read or saved.

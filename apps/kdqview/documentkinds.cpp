@@ -2,7 +2,6 @@
 
 #include "heatfigure.h"
 #include "heatfile.h"
-#include "tableexport.h"
 
 #include <kdQCore/coHtCaseHardeningStageProp>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document.h"
+#include "tableexport.h"
 
 #include <kdQCore/coHeatTreatmentData>
 
@@ -13,6 +14,7 @@ public:
 
     QString summary() const override;
     QString iconPath() const override { return QStringLiteral(":/icons/table.svg"); }
+    QStringList fileEndings() const override { return TableExport::endings(); }
 
 protected:
     bool write(QIODevice& device, const QString& path) const override;
@@ -28,6 +30,7 @@ public:
 
     QString summary() const override;
     QString iconPath() const override { return QStringLiteral(":/icons/heat.svg"); }
+    QStringList fileEndings() const override { return {QStringLiteral("xml")}; }
     QString sheetName(int index) const override;
     Outline outline() const override;
     /// Of the process with the names of its stages.
@@ -69,7 +72,7 @@ public:
     QString summary() const override;
     QString iconPath() const override { return QStringLiteral(":/icons/deck.svg"); }
     Outline outline() const override;
-    bool canSave() const override { return false; }
+    QStringList fileEndings() const override { return {}; }
 
 protected:
     bool write(QIODevice& device, const QString& path) const override;

@@ -70,7 +70,8 @@ private:
     bool mayClose(Document& document);
     void exportTable();
     void exportCurve();
-    QString askForFile(const QString& title, const QString& baseName, const QStringList& filters);
+    QString askForFile(const QString& title, const QString& baseName, const QStringList& endings);
+    static QString filterOf(const QString& ending);
     void writeFile(const QString& path, const QByteArray& content);
 
     void createDocks();

@@ -28,7 +28,7 @@ void MainWindow::createActions()
 {
     m_actions.open = newAction("open", QKeySequence::Open, &MainWindow::open);
     m_actions.save = newAction("save", QKeySequence::Save, &MainWindow::save);
-    m_actions.saveAs = newAction("", QKeySequence::SaveAs, &MainWindow::saveAs);
+    m_actions.saveAs = newAction("", Qt::CTRL | Qt::SHIFT | Qt::Key_S, &MainWindow::saveAs);
     m_actions.exportTable = newAction("exporttable", Qt::CTRL | Qt::Key_E, &MainWindow::exportTable);
     m_actions.exportCurve =
         newAction("exportcurve", Qt::CTRL | Qt::SHIFT | Qt::Key_E, &MainWindow::exportCurve);
@@ -174,9 +174,10 @@ void MainWindow::updateActions()
 {
     const Document* const document = m_sheet->document();
     const bool hasSheet = document != nullptr && document->sheet(m_sheet->sheet()) != nullptr;
+    const bool canSave = document != nullptr && !document->fileEndings().isEmpty();
     const bool hasRow = hasSheet && m_sheet->currentRow() >= 0;
-    m_actions.save->setEnabled(document != nullptr && document->canSave() && document->isModified());
-    m_actions.saveAs->setEnabled(document != nullptr && document->canSave());
+    m_actions.save->setEnabled(canSave && document->isModified());
+    m_actions.saveAs->setEnabled(canSave);
     m_actions.close->setEnabled(document != nullptr);
     m_actions.exportTable->setEnabled(hasSheet);
     m_actions.exportCurve->setEnabled(hasSheet);

@@ -98,7 +98,7 @@ bool MainWindow::saveDocument(Document& document, bool asksForName)
 {
     QString path = document.path();
     if (asksForName)
-        path = QFileDialog::getSaveFileName(this, tr("Save"), path); // asks before it overwrites
+        path = askForFile(tr("Save"), QFileInfo(path).completeBaseName(), document.fileEndings());
     else if (document.isChangedOnDisk()
              && QMessageBox::question(this, tr("Save"),
                                       tr("Another program has changed '%1' in the meantime. Overwrite it?")
@@ -130,17 +130,28 @@ bool MainWindow::mayClose(Document& document)
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && saveDocument(document, false));
 }
 
-/// The ending of the chosen filter is added where the name has none. Asks before it overwrites.
-QString MainWindow::askForFile(const QString& title, const QString& baseName, const QStringList& filters)
+QString MainWindow::filterOf(const QString& ending)
+{
+    const QMap<QString, QString> names{{QStringLiteral("xml"), tr("XML")},
+                                       {QStringLiteral("txt"), tr("Text with all digits")},
+                                       {QStringLiteral("csv"), tr("For spreadsheets")},
+                                       {QStringLiteral("svg"), tr("Vector graphics")},
+                                       {QStringLiteral("png"), tr("Picture")}};
+    return QStringLiteral("%1 (*.%2)").arg(names.value(ending), ending);
+}
+
+/// The ending that was chosen is added where the name has none. Asks before it overwrites.
+QString MainWindow::askForFile(const QString& title, const QString& baseName, const QStringList& endings)
 {
     QFileDialog dialog(this, title, QFileInfo(m_sheet->document()->path()).path());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
+    QStringList filters;
+    for (const QString& ending : endings)
+        filters.append(filterOf(ending));
     dialog.setNameFilters(filters);
-    const auto takeSuffix = [&dialog](const QString& filter) {
-        dialog.setDefaultSuffix(filter.section(QLatin1String("*."), 1).section(QLatin1Char(')'), 0, 0));
-    };
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);
-    takeSuffix(filters.constFirst());
+    dialog.setDefaultSuffix(endings.constFirst());
+    connect(&dialog, &QFileDialog::filterSelected, &dialog,
+            [&](const QString& filter) { dialog.setDefaultSuffix(endings.value(filters.indexOf(filter))); });
     dialog.selectFile(fileNameOf(baseName));
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
@@ -149,8 +160,7 @@ void MainWindow::exportTable()
 {
     const Document& document = *m_sheet->document();
     const QString path =
-        askForFile(tr("Export table"), document.sheetName(m_sheet->sheet()),
-                   {tr("XML (*.xml)"), tr("Text with all digits (*.txt)"), tr("For spreadsheets (*.csv)")});
+        askForFile(tr("Export table"), document.sheetName(m_sheet->sheet()), TableExport::endings());
     if (path.isEmpty())
         return;
     QBuffer buffer;
@@ -162,7 +172,7 @@ void MainWindow::exportTable()
 void MainWindow::exportCurve()
 {
     const QString path = askForFile(tr("Export curve"), m_sheet->curve().figure().title,
-                                    {tr("Vector graphics (*.svg)"), tr("Picture (*.png)")});
+                                    {QStringLiteral("svg"), QStringLiteral("png")});
     if (path.isEmpty())
         return;
     const bool isPng = path.endsWith(QLatin1String(".png"), Qt::CaseInsensitive);

@@ -35,6 +35,11 @@ TableExport::Form TableExport::formOf(const QString& path)
     return suffix == QLatin1String("csv") ? Csv : Text;
 }
 
+QStringList TableExport::endings()
+{
+    return {QStringLiteral("xml"), QStringLiteral("txt"), QStringLiteral("csv")};
+}
+
 bool TableExport::write(const kdDataTable& table, QIODevice& device, Form form)
 {
     switch (form) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 class kdDataTable;
 
@@ -19,6 +19,8 @@ enum Form {
 
 /// By the ending of the file's name: "xml", "csv", text for all others.
 Form formOf(const QString& path);
+/// One for each form.
+QStringList endings();
 
 bool write(const kdDataTable& table, QIODevice& device, Form form);
 

@@ -189,8 +189,10 @@ private Q_SLOTS:
         type(1, 1, QStringLiteral("65O"));
         QCOMPARE(cell(1, 1), QStringLiteral("650.25"));
         QVERIFY2(lastMessage().contains(QLatin1String("'65O' is no number")), qPrintable(lastMessage()));
-        press(Qt::Key_S, Qt::ControlModifier);
+        pressAndName(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier,
+                     m_folder.filePath(QStringLiteral("other"))); // gets the ending of the chosen form
         QVERIFY(!m_window->isWindowModified());
+        QCOMPARE(m_workspace->documents().constFirst()->fileName(), QStringLiteral("other.xml"));
     }
 
     void changesRowsAndUnits()
