@@ -127,23 +127,31 @@ void tst_cotcpsocket_load::nothingLeaks()
     };
     coTcpSocket kept;
     QVERIFY(round(kept));
-    const auto before = openThings();
-    for (int i = 0; i < count(kdqOnWindows ? 200 : 2000, 10000); ++i) {
-        QVERIFY(round(kept));
-        if (i % 10 == 0) {
-            coTcpSocket fresh;
-            QVERIFY(round(fresh));
+    // wine opens a batch for itself at times, more of them on a busy machine; a leak would grow every time.
+    const int attempts = kdqOnWindows ? 4 : 1;
+    const uint ofTheSystem = kdqOnWindows ? 5 : 0;
+    QStringList found;
+    bool isSteady = false;
+    for (int attempt = 0; attempt < attempts && !isSteady; ++attempt) {
+        const auto before = openThings();
+        for (int i = 0; i < count(kdqOnWindows ? 100 : 2000, 10000); ++i) {
+            QVERIFY(round(kept));
+            if (i % 10 == 0) {
+                coTcpSocket fresh;
+                QVERIFY(round(fresh));
+            }
         }
+        isSteady = QTest::qWaitFor([&] {
+            return openThings().first <= before.first + ofTheSystem
+                && openThings().second <= before.second + ofTheSystem;
+        });
+        found += QStringLiteral("%1 descriptors, %2 threads; before %3, %4")
+                     .arg(openThings().first)
+                     .arg(openThings().second)
+                     .arg(before.first)
+                     .arg(before.second);
     }
-    // wine opens some for itself at times; a leak would leave 20 or 220 behind.
-    constexpr uint ofTheSystem = kdqOnWindows ? 8 : 0;
-    QTRY_VERIFY2(openThings().first <= before.first + ofTheSystem
-                     && openThings().second <= before.second + ofTheSystem,
-                 qPrintable(QStringLiteral("%1 descriptors, %2 threads; before %3, %4")
-                                .arg(openThings().first)
-                                .arg(openThings().second)
-                                .arg(before.first)
-                                .arg(before.second)));
+    QVERIFY2(isSteady, qPrintable(found.join(QLatin1Char('\n'))));
 }
 
 void tst_cotcpsocket_load::aPeerOfAnotherMake()
