@@ -27,8 +27,8 @@ Figure sample()
     figure.title = S("Grüße <&> \"x\"");
     figure.x = {S("Time"), S("µs"), true, 1e-3, 0.1 + 0.2};
     figure.y = {{S("T"), S("°C")}, {S("s"), S("-"), false, Figure::unset, 7.0}};
-    figure.curves = {{S("a"), {{1, 2}, {Figure::unset, 0}, {1e-310, 1.0 / 3.0}}, 1, Figure::Curve::Steps},
-                     {S("b"), {{5, 6}}, 0, Figure::Curve::Points}};
+    figure.curves = {{S("a"), {{0.01, 2}, {Figure::unset, 0}, {0.1, 1e-310}}, 1, Figure::Curve::Steps},
+                     {S("b"), {{0.2, 6}}, 0, Figure::Curve::Points}};
     figure.stretches = {{S("Halten"), 0.5, 2.0}};
     return figure;
 }
@@ -111,7 +111,7 @@ void TestFigureJson::faults_data()
     QTest::newRow("axis of a curve") << with([](Figure& f) { f.curves[0].axis = 2; })
                                      << S("Curve 'a' belongs to y axis 3, and there are only 2.");
     QTest::newRow("far out") << with([](Figure& f) { f.curves[1].points[0].setY(-1e305); })
-                             << S("(5, -1e+305)");
+                             << S("(0.2, -1e+305)");
     QTest::newRow("logarithm of 0") << with([](Figure& f) { f.x.from = 0.0; }) << S("must begin above 0");
     QTest::newRow("falling axis") << with([](Figure& f) { f.y[1].from = 8.0; }) << S("not run from 8 to 7");
     QTest::newRow("endless axis") << with([](Figure& f) { f.y[1].to = HUGE_VAL; })
@@ -119,10 +119,10 @@ void TestFigureJson::faults_data()
     QTest::newRow("many curves") << with([](Figure& f) { f.curves.resize(101); }) << S("at most 100 curves");
     QTest::newRow("many gaps") << with([](Figure& f) {
         for (int i = 0; i < 2002; ++i)
-            f.curves[0].points.append({i + 1.0, i % 2 == 0 ? 1.0 : Figure::unset});
+            f.curves[0].points.append({0.01 + i * 1e-5, i % 2 == 0 ? 1.0 : Figure::unset});
     }) << S("pieces with gaps");
     QTest::newRow("many points") << with([](Figure& f) {
-        f.curves[1].points.fill({1, 1}, 10001);
+        f.curves[1].points.fill({0.1, 1}, 10001);
     }) << S("at most 10000 can be drawn singly");
 }
 

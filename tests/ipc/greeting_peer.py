@@ -68,7 +68,7 @@ def test_client():
         peer.connect(name)
         greeting = receive(peer)
         assert greeting.attrib == {"type": "Greeting"}
-        version = subprocess.run([KDQSH, "--version"], capture_output=True, text=True).stdout.split()[-1]
+        version = subprocess.run([KDQSH, "--version"], capture_output=True, text=True).stdout.split()[1]
         content = [(element.tag, element.text) for element in greeting]
         assert content == [("ProductId", "8"), ("ProductVersion", f"{version}.0"), ("Pid", str(pid))], content
         peer.sendall(GREETING + message("Text", "Grüße & <more>"))
