@@ -318,6 +318,7 @@ private Q_SLOTS:
             QVERIFY(reader.next(option));
             QCOMPARE(option.offset, end);
             end += option.size;
+            QCOMPARE(option.kind == coDeckOption::Nodal, bytes.startsWith("nodal"));
             QCOMPARE(buffer.bytes().mid(int(option.offset), int(option.size)), bytes);
         }
         QVERIFY(!reader.next(option));
