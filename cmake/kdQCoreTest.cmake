@@ -14,6 +14,10 @@ if(LOCALEDEF AND NOT EXISTS ${kdqcore_locale_dir}/de_DE.UTF-8)
                     OUTPUT_QUIET ERROR_QUIET)
 endif()
 
+set(kdqcore_test_environment "LOCPATH=${kdqcore_locale_dir};LC_ALL=de_DE.UTF-8;TZ=Asia/Kathmandu"
+    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp"
+    "LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp")
+
 function(kdqcore_test source)
     cmake_parse_arguments(TEST "" "TIMEOUT" "LAYERS;LIBRARIES;LABELS;LAUNCHER" ${ARGN})
     get_filename_component(name ${source} NAME_WE)
@@ -42,5 +46,5 @@ function(kdqcore_test source)
     set_tests_properties(${name} PROPERTIES
         LABELS "${folder};${TEST_LABELS}" TIMEOUT ${TEST_TIMEOUT}
         FAIL_REGULAR_EXPRESSION "QWARN  :" # an unexpected warning of Qt is a failure
-        ENVIRONMENT "LOCPATH=${kdqcore_locale_dir};LC_ALL=de_DE.UTF-8;TZ=Asia/Kathmandu;KDQ_TEST_DATA=${PROJECT_SOURCE_DIR};TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp")
+        ENVIRONMENT "${kdqcore_test_environment};KDQ_TEST_DATA=${PROJECT_SOURCE_DIR}")
 endfunction()

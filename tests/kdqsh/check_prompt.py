@@ -89,6 +89,7 @@ def completion():
         shell.type("table l" + TAB)
         assert "list  load  lookup" in shell.wait_for("lookup\r\n") + shell.seen
         shell.type(CTRL_C)
+        shell.wait_for(r"\^C\s+" + re.escape(PROMPT))  # what comes before it is dropped, too
 
 
 def history():
