@@ -111,6 +111,7 @@ LineEditor::Outcome LineEditor::readLine(const QString& prompt, bool isEmphasise
     if (isEmphasised)
         d->promptBytes = emphasised(d->promptBytes);
     d->isDropped = false;
+    el_set(d->editor, EL_PREP_TERM, 1); // before the prompt shows: the keys that follow it must not be lost
     int count = 0;
     const char* bytes = el_gets(d->editor, &count);
     if (d->isDropped) {
