@@ -2,6 +2,7 @@
 #include "shelloutput.h"
 #include "shellsession.h"
 #include "tablecommands.h"
+#include "tablefile.h"
 
 #include <kdQCore/kdException>
 
@@ -57,13 +58,9 @@ bool TableCommands::import(ShellCall& call)
         return false;
     ShellOperation operation(call, tr("Reading '%1'").arg(call.text(0)));
     kdDataTable table;
-    try {
-        QTextStream stream(&file);
-        stream.setCodec("UTF-8");
-        kdDataTable::importFromTextStream(stream, table);
-    } catch (const kdException& exception) {
-        return call.fail(QStringLiteral("'%1': %2").arg(call.text(0), exception.nonHTMLErrorMessage()));
-    }
+    QString error;
+    if (!nTableFile::readText(file, call.text(0), table, error))
+        return call.fail(error);
     return keep(call, operation, name, std::move(table));
 }
 

@@ -2,15 +2,14 @@
 
 #include "documentkinds.h"
 #include "heatfile.h"
+#include "tablefile.h"
 
 #include <kdQCore/coDeckReader>
 #include <kdQCore/coFeDataTableCard>
-#include <kdQCore/kdException>
 
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
-#include <QTextStream>
 #include <QXmlStreamReader>
 
 namespace {
@@ -131,13 +130,9 @@ QSharedPointer<Document> DocumentReader::readDeck(QFile& file)
 QSharedPointer<Document> DocumentReader::readText(QFile& file)
 {
     kdDataTable table;
-    try {
-        QTextStream stream(&file);
-        stream.setCodec("UTF-8");
-        kdDataTable::importFromTextStream(stream, table);
-    } catch (const kdException& exception) {
-        return fail(QStringLiteral("'%1': %2").arg(nameOf(file), exception.nonHTMLErrorMessage()));
-    }
+    QString error;
+    if (!nTableFile::readText(file, nameOf(file), table, error))
+        return fail(error);
     if (table.columns() == 0)
         return fail(tr("'%1' holds no table.").arg(nameOf(file)));
     return tableDocument(file, std::move(table));
