@@ -4,8 +4,6 @@
 #include "tablecommands.h"
 #include "tablefile.h"
 
-#include <kdQCore/kdException>
-
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
