@@ -34,11 +34,20 @@ private:
 } // namespace
 
 struct coTcpSocket::Private {
+    explicit Private(const coTcpSocket& socket)
+        : inbox([this] { callWorker(); },
+                [&socket] {
+                    static const QMetaMethod signal = QMetaMethod::fromSignal(&coTcpSocket::readyRead);
+                    return socket.isSignalConnected(signal);
+                })
+    {
+    }
+
     /// Held by a call for its whole length; recursive, as calls are made of calls. Nobody waits on it: the
     /// sleeping is the exchange's, with a plain mutex of its own.
     std::recursive_mutex turns;
     SocketExchange exchange;
-    SocketInbox inbox{[this] { askForMore(); }};
+    SocketInbox inbox;
     SocketOutlet outlet;
     WorkerThread worker{exchange};
     ThreadedSocketWrapper* wrapper = nullptr; ///< lives in the worker, which deletes it
@@ -50,11 +59,19 @@ struct coTcpSocket::Private {
 
     bool isInWorker() const { return QThread::currentThread() == &worker; }
 
-    void askForMore()
+    void callWorker()
     {
         exchange.tell([this] {
-            QMetaObject::invokeMethod(wrapper, &ThreadedSocketWrapper::receive, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(wrapper, &ThreadedSocketWrapper::resume, Qt::QueuedConnection);
         });
+    }
+
+    /// What has come is kept, also where the request ends the connection.
+    template <typename Post>
+    std::optional<SocketReply> hand(const Post& post)
+    {
+        inbox.update();
+        return exchange.call(post);
     }
 };
 
@@ -85,7 +102,7 @@ private:
     bool m_isGranted;
 };
 
-coTcpSocket::coTcpSocket(QObject* parent) : QObject(parent), d(std::make_unique<Private>())
+coTcpSocket::coTcpSocket(QObject* parent) : QObject(parent), d(std::make_unique<Private>(*this))
 {
     std::srand(static_cast<unsigned>(std::time(nullptr)));
     d->wrapper = new ThreadedSocketWrapper(*this, d->exchange, d->inbox, d->outlet);
@@ -153,7 +170,7 @@ SocketReply coTcpSocket::perform(const Call& call)
 template <typename Post>
 SocketReply coTcpSocket::request(const Post& post)
 {
-    return perform([&] { return d->exchange.call(post); });
+    return perform([&] { return d->hand(post); });
 }
 
 bool coTcpSocket::connectToHost(const QHostAddress& address, quint16 port)
@@ -163,8 +180,8 @@ bool coTcpSocket::connectToHost(const QHostAddress& address, quint16 port)
     const auto connect = [&] {
         // Not through state() and disconnectFromHost(), which would take the last error away.
         if (d->inbox.state() != QAbstractSocket::UnconnectedState)
-            d->exchange.call([&] { Q_EMIT op_disconnectFromHost(); });
-        return d->exchange.call([&] { Q_EMIT op_connectToHost(text, port, QIODevice::ReadWrite); });
+            d->hand([&] { Q_EMIT op_disconnectFromHost(); });
+        return d->hand([&] { Q_EMIT op_connectToHost(text, port, QIODevice::ReadWrite); });
     };
     const SocketReply reply = outcome(turn, connect);
     if (reply.success) {
@@ -260,7 +277,7 @@ bool coTcpSocket::writeBlocking(const QByteArray& bytes)
         const int sent = sendAtOnce(bytes);
         if (sent == bytes.size())
             return SocketReply::done();
-        return d->exchange.call([&] { Q_EMIT op_writeBlocking(bytes.mid(sent)); });
+        return d->hand([&] { Q_EMIT op_writeBlocking(bytes.mid(sent)); });
     };
     return perform(write).success;
 }

@@ -28,10 +28,11 @@ struct SocketReply;
 /// setSocketDescriptor().
 ///
 /// Each object owns a worker thread in which the real socket lives. It receives ahead of the callers, who
-/// take what is there or sleep until it has come; connecting and the like is handed to it. A call writes what
-/// the system takes at once by itself, except on Windows, and leaves the rest to the worker. An event loop is
-/// not needed. Who has one may listen to the signals as well: those of the socket come in the thread in which
-/// the coTcpSocket lives. Where bytesWritten() has a listener, the worker writes everything.
+/// take what is there; connecting and the like is handed to it. A call writes what the system takes at once
+/// by itself, and one that waits for bytes receives them itself, except on Windows; the rest is left to the
+/// worker. An event loop is not needed. Who has one may listen to the signals as well: those of the socket
+/// come in the thread in which the coTcpSocket lives. Where readyRead() has a listener the worker receives
+/// everything, where bytesWritten() has one it writes everything.
 ///
 /// Thread-safe: one call runs at a time, others wait for their turn. Two threads that each send and then read
 /// share one stream of lines, so a reply belongs to whoever reads first; keep such pairs together with a

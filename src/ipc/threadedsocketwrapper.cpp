@@ -12,11 +12,14 @@ constexpr qint64 chunk = 1024 * 1024;
 
 coTcpSocket::ThreadedSocketWrapper::ThreadedSocketWrapper(coTcpSocket& owner, SocketExchange& exchange,
                                                           SocketInbox& inbox, SocketOutlet& outlet)
-    : m_owner(owner), m_exchange(exchange), m_inbox(inbox), m_outlet(outlet), m_socket(this), m_timer(this)
+    : m_owner(owner), m_exchange(exchange), m_inbox(inbox), m_outlet(outlet), m_socket(this), m_timer(this),
+      m_patience(this)
 {
     m_socket.setProxy(QNetworkProxy(QNetworkProxy::NoProxy));
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(SocketInbox::patience);
 
     using Self = ThreadedSocketWrapper;
     connect(&m_socket, &QTcpSocket::connected, this, &Self::onConnected);
@@ -26,6 +29,7 @@ coTcpSocket::ThreadedSocketWrapper::ThreadedSocketWrapper(coTcpSocket& owner, So
     connect(&m_socket, &QTcpSocket::errorOccurred, this, &Self::onError);
     connect(&m_socket, &QTcpSocket::stateChanged, this, &Self::onStateChanged);
     connect(&m_timer, &QTimer::timeout, this, &Self::onTimeout);
+    connect(&m_patience, &QTimer::timeout, this, &Self::onPatienceOver);
     forwardSignals();
     publishState();
 }
@@ -167,6 +171,34 @@ void coTcpSocket::ThreadedSocketWrapper::peerAddress()
     answer(m_socket.peerAddress().toString());
 }
 
+/// Only Qt's notifier comes here.
+bool coTcpSocket::ThreadedSocketWrapper::eventFilter(QObject* notifier, QEvent* event)
+{
+    if (event->type() != QEvent::SockAct)
+        return false;
+    if (m_inbox.claim()) {
+        notifier->event(event);
+        m_inbox.release();
+    } else {
+        m_readNotifier->setEnabled(false);
+        m_patience.start();
+    }
+    return true;
+}
+
+void coTcpSocket::ThreadedSocketWrapper::onPatienceOver()
+{
+    if (!m_inbox.promiseCall())
+        resume();
+}
+
+void coTcpSocket::ThreadedSocketWrapper::resume()
+{
+    receive();
+    if (m_readNotifier)
+        m_readNotifier->setEnabled(true);
+}
+
 void coTcpSocket::ThreadedSocketWrapper::receive()
 {
     if (!m_socket.isReadable())
@@ -207,8 +239,10 @@ void coTcpSocket::ThreadedSocketWrapper::onError(QAbstractSocket::SocketError co
 /// The outlet is closed in the same step as Qt's descriptor: the peer sees the end when both are.
 void coTcpSocket::ThreadedSocketWrapper::onStateChanged(QAbstractSocket::SocketState state)
 {
-    if (state != QAbstractSocket::ConnectedState)
+    if (state != QAbstractSocket::ConnectedState) {
         m_outlet.close();
+        m_inbox.detach();
+    }
     publishState();
 }
 
@@ -222,7 +256,21 @@ void coTcpSocket::ThreadedSocketWrapper::prepareConnection()
 {
     m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
     m_socket.setReadBufferSize(chunk);
+    shareReceiving();
     openOutlet();
+}
+
+/// Qt has one object that tells of bytes to read, somewhere below the socket. Where it has none, callers
+/// cannot be kept apart from it and do not receive.
+void coTcpSocket::ThreadedSocketWrapper::shareReceiving()
+{
+    for (QSocketNotifier* notifier : m_socket.findChildren<QSocketNotifier*>())
+        if (notifier->type() == QSocketNotifier::Read)
+            m_readNotifier = notifier;
+    if (!m_readNotifier || !m_socket.isReadable())
+        return;
+    m_readNotifier->installEventFilter(this);
+    m_inbox.attach(m_socket.socketDescriptor());
 }
 
 void coTcpSocket::ThreadedSocketWrapper::openOutlet()

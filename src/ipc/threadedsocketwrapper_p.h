@@ -6,6 +6,8 @@
 #include "socketoutlet_p.h"
 
 #include <QMetaMethod>
+#include <QPointer>
+#include <QSocketNotifier>
 #include <QTcpSocket>
 #include <QTimer>
 
@@ -21,8 +23,8 @@ public:
                           SocketOutlet& outlet);
     ~ThreadedSocketWrapper() override;
 
-    /// Moves to the inbox what has come, as far as there is room.
-    void receive();
+    /// Moves to the inbox what has come, as far as there is room, and watches for more.
+    void resume();
 
     void connectToHost(const QString& address, quint16 port, int openMode);
     void disconnectFromHost();
@@ -36,6 +38,8 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    /// Lets Qt receive only where callers do not.
+    bool eventFilter(QObject* notifier, QEvent* event) override;
 
 private:
     /// What is under way; errors of the socket end those from Connect on. Reading is left to the inbox.
@@ -56,7 +60,10 @@ private:
     void onError(QAbstractSocket::SocketError code);
     void onStateChanged(QAbstractSocket::SocketState state);
     void onTimeout();
+    void onPatienceOver();
 
+    void receive();
+    void shareReceiving();
     void prepareConnection();
     void openOutlet();
     void publishState();
@@ -70,5 +77,7 @@ private:
     SocketOutlet& m_outlet;
     QTcpSocket m_socket;
     QTimer m_timer;
+    QTimer m_patience;                        ///< runs where callers are left to receive
+    QPointer<QSocketNotifier> m_readNotifier; ///< Qt's own; none where callers cannot receive
     e_Operation m_pending = None;
 };

@@ -201,9 +201,9 @@ private:
     unsigned long m_errorCode = 0;
 };
 
-/// A second descriptor of a connected socket. With it one thread may send while another owns the socket and
-/// closes it whenever it likes: the number stays this object's own and is not given to another connection.
-/// For the peer the connection ends when both are closed.
+/// A second descriptor of a connected socket. With it one thread may send and receive while another owns the
+/// socket and closes it whenever it likes: the number stays this object's own and is not given to another
+/// connection. For the peer the connection ends when both are closed.
 ///
 /// POSIX systems only. On Windows a duplicate shares what the socket's owner set for its own waiting and its
 /// own notifications, and nothing promises that sending on it never waits; open() returns false there.
@@ -220,6 +220,29 @@ public:
     /// Sends what the system takes without waiting and returns its size: 0 where it takes nothing, and after
     /// an error.
     int send(const char* bytes, int count) const;
+    /// What is there already, at most \a most bytes. Nothing at the end and after an error, too, which are
+    /// left for the socket's owner to find.
+    QByteArray receive(int most) const;
+
+private:
+    friend class SocketBell;
+    qintptr m_descriptor = -1;
+};
+
+/// Lets one thread wait for a socket and for another thread at once. Not usable where no SocketTwin can be
+/// opened.
+class SocketBell {
+public:
+    SocketBell();
+    ~SocketBell();
+    Q_DISABLE_COPY(SocketBell)
+
+    /// False where the system is out of descriptors.
+    bool isUsable() const { return m_descriptor != -1; }
+    /// Until the open \a socket has something to receive or has ended, and then true, ring() was called, or
+    /// the time is over. A ring that nobody waits for ends the next wait.
+    bool wait(const SocketTwin& socket, int milliseconds) const;
+    void ring() const;
 
 private:
     qintptr m_descriptor = -1;

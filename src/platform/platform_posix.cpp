@@ -11,7 +11,9 @@
 #include <ctime>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <pwd.h>
+#include <sys/eventfd.h>
 #include <sys/ioctl.h>
 #include <sys/mman.h>
 #include <sys/socket.h>
@@ -512,6 +514,42 @@ int SocketTwin::send(const char* bytes, int count) const
         return 0;
     return int(
         qMax<ssize_t>(0, ::send(int(m_descriptor), bytes, size_t(count), MSG_NOSIGNAL | MSG_DONTWAIT)));
+}
+
+/// The size comes first: receiving would take the error of the connection away from its owner.
+QByteArray SocketTwin::receive(int most) const
+{
+    int there = 0;
+    if (!isOpen() || ioctl(int(m_descriptor), FIONREAD, &there) != 0 || qMin(there, most) <= 0)
+        return QByteArray();
+    QByteArray bytes(qMin(there, most), Qt::Uninitialized);
+    bytes.truncate(
+        int(qMax<ssize_t>(0, recv(int(m_descriptor), bytes.data(), size_t(bytes.size()), MSG_DONTWAIT))));
+    return bytes;
+}
+
+SocketBell::SocketBell() : m_descriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) { }
+
+SocketBell::~SocketBell()
+{
+    if (m_descriptor != -1)
+        ::close(int(m_descriptor));
+}
+
+bool SocketBell::wait(const SocketTwin& socket, int milliseconds) const
+{
+    pollfd sources[] = {{int(socket.m_descriptor), POLLIN, 0}, {int(m_descriptor), POLLIN, 0}};
+    if (poll(sources, 2, milliseconds) <= 0)
+        return false;
+    eventfd_t rings = 0;
+    if (sources[1].revents != 0)
+        eventfd_read(int(m_descriptor), &rings);
+    return sources[0].revents != 0;
+}
+
+void SocketBell::ring() const
+{
+    eventfd_write(int(m_descriptor), 1);
 }
 
 } // namespace nPlatform

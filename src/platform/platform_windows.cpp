@@ -565,4 +565,20 @@ int SocketTwin::send(const char*, int) const
     return 0;
 }
 
+QByteArray SocketTwin::receive(int) const
+{
+    return QByteArray();
+}
+
+SocketBell::SocketBell() = default;
+
+SocketBell::~SocketBell() = default;
+
+bool SocketBell::wait(const SocketTwin&, int) const
+{
+    return false;
+}
+
+void SocketBell::ring() const { }
+
 } // namespace nPlatform

@@ -266,12 +266,20 @@ void tst_cotcpsocket::bytesAreReadAsAsked()
 
 void tst_cotcpsocket::endedConnectionIsToldAtOnce()
 {
-    Peer peer([](QTcpSocket& socket) { Peer::send(socket, "last words"); });
+    Peer peer([](QTcpSocket& socket) {
+        socket.waitForReadyRead(20000);
+        Peer::send(socket, socket.readAll());
+        socket.waitForReadyRead(20000);
+        Peer::send(socket, "last words");
+    });
     coTcpSocket socket;
     QString line;
     QVERIFY(socket.readBlocking(0).isEmpty());
     QCOMPARE(socket.errorString(), QStringLiteral("The socket is not connected."));
     QVERIFY(socket.connectToHost(loopback, peer.port()));
+    QVERIFY(socket.writeBlocking("?"));
+    QCOMPARE(socket.readBlocking(0), QByteArray("?")); // received by the caller, the rest by the worker
+    QVERIFY(socket.writeBlocking("!"));
     QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
     QCOMPARE(socket.readBlocking(0), QByteArray("last words"));
     // None of these may wait for its minute.
