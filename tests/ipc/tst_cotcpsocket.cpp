@@ -269,6 +269,8 @@ void tst_cotcpsocket::endedConnectionIsToldAtOnce()
     Peer peer([](QTcpSocket& socket) {
         socket.waitForReadyRead(20000);
         Peer::send(socket, socket.readAll());
+        socket.waitForReadyRead(50); // long enough for the worker to give up waiting
+        Peer::send(socket, "later");
         socket.waitForReadyRead(20000);
         Peer::send(socket, "last words");
     });
@@ -278,7 +280,8 @@ void tst_cotcpsocket::endedConnectionIsToldAtOnce()
     QCOMPARE(socket.errorString(), QStringLiteral("The socket is not connected."));
     QVERIFY(socket.connectToHost(loopback, peer.port()));
     QVERIFY(socket.writeBlocking("?"));
-    QCOMPARE(socket.readBlocking(0), QByteArray("?")); // received by the caller, the rest by the worker
+    QCOMPARE(socket.readBlocking(0), QByteArray("?")); // received by the caller, the last words by the worker
+    QCOMPARE(socket.readBlocking(0), QByteArray("later"));
     QVERIFY(socket.writeBlocking("!"));
     QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
     QCOMPARE(socket.readBlocking(0), QByteArray("last words"));
@@ -399,7 +402,7 @@ void tst_cotcpsocket::floodIsHeldBack()
     QSemaphore started;
     constexpr int most = 16 * 1024 * 1024;
     Peer peer([&](QTcpSocket& socket) {
-        const QByteArray chunk(1000000, 'x');
+        const QByteArray chunk = QByteArray("0123456789").repeated(100000);
         while (!peer.isEnding() && socket.state() == QAbstractSocket::ConnectedState) {
             socket.write(chunk);
             while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(100)) { }
@@ -414,9 +417,14 @@ void tst_cotcpsocket::floodIsHeldBack()
     started.acquire(); // the peer cannot get rid of more
     const qint64 available = socket.bytesAvailable();
     QVERIFY2(available > most / 2 && available <= most, qPrintable(QString::number(available)));
-    qint64 count = 0; // what is held back comes once there is room
-    while (count <= most)
-        count += socket.readBlocking(1000000).size();
+    qint64 count = 0; // what is held back comes once there is room, in its order
+    while (count <= most) {
+        const QByteArray bytes = socket.readBlocking(qMin<qint64>(socket.bytesAvailable(), 1000000));
+        for (const char byte : bytes)
+            if (byte != '0' + count++ % 10)
+                QFAIL(qPrintable(QStringLiteral("'%1' at %2").arg(byte).arg(count - 1)));
+        QVERIFY(!bytes.isEmpty());
+    }
 }
 
 void tst_cotcpsocket::destructionEndsAPendingCall()
