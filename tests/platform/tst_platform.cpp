@@ -4,19 +4,8 @@
 #include <atomic>
 #include <climits>
 #include <cstdio>
-#include <thread>
 
 using namespace nPlatform;
-
-namespace {
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 /// What every system promises; the sources' own sides are tested beside it.
 class TestPlatform : public QObject {
@@ -86,7 +75,7 @@ private Q_SLOTS:
         const QByteArray record("PID=1\nUserName=J\xc3\xb6rg\n");
         QVERIFY(first.write(record));
         QVERIFY(first.flush());
-        QCOMPARE(contentOf(path), record);
+        QCOMPARE(kdqContentOf(path), record);
         first.close();
         QVERIFY(!first.write(record));
         QCOMPARE(first.failure(), ExclusiveFile::Failure::Unexpected);
@@ -141,16 +130,12 @@ private Q_SLOTS:
     {
         QTemporaryDir folder;
         std::atomic<int> wins{0};
-        const auto compete = [&] {
+        kdqInThreads(2, [&](int) {
             for (int i = 0; i < 200; ++i) {
                 ExclusiveFile file;
-                if (file.create(folder.filePath(QString::number(i))))
-                    ++wins;
+                wins += file.create(folder.filePath(QString::number(i)));
             }
-        };
-        std::thread other(compete);
-        compete();
-        other.join();
+        });
         QCOMPARE(wins.load(), 200);
     }
 };

@@ -12,16 +12,6 @@
 
 using namespace nPlatform;
 
-namespace {
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
-
 class TestPlatformPosix : public QObject {
     Q_OBJECT
 
@@ -46,7 +36,7 @@ private Q_SLOTS:
         QVERIFY(id.waitForFinished());
         QCOMPARE(information.userName, QString::fromLocal8Bit(id.readAll().trimmed()));
         const QByteArray memory =
-            contentOf(QStringLiteral("/proc/meminfo")).split('\n').constFirst().simplified();
+            kdqContentOf(QStringLiteral("/proc/meminfo")).split('\n').constFirst().simplified();
         QCOMPARE(information.physicalMemory / 1024, memory.split(' ').at(1).toULongLong());
         QCOMPARE(information.architecture == QLatin1String("x64"),
                  QSysInfo::currentCpuArchitecture() == QLatin1String("x86_64"));
