@@ -1,7 +1,7 @@
 // A process that takes locks, for tests of what happens between processes. Log lines go to standard error.
-// Usage: lockhelper hold PATH          one attempt; waits for the end of standard input; ends with the error
-//        lockhelper count PATH FILE N  adds N to the number in FILE, one by one, each under the lock
-//        lockhelper churn PATH FILE    takes and releases for ever, and ends only if it was not alone
+// Usage: lockhelper hold PATH           one attempt; waits for the end of standard input; ends with the error
+//        lockhelper churn PATH FILE [N] takes and releases N times, or for ever; ends with 2 if it was not
+//        alone
 
 #include <kdQCore/coSysLockFile>
 
@@ -29,46 +29,28 @@ int hold(coSysLockFile& lock)
     return error;
 }
 
-void takeSometime(coSysLockFile& lock)
+/// Under the lock: nobody else writes his number into the file.
+bool isAlone(QFile& file)
 {
-    while (!lock.tryLock(0))
-        std::this_thread::yield();
-}
-
-qint64 numberIn(QFile& file)
-{
+    const QByteArray own = QByteArray::number(QCoreApplication::applicationPid()).rightJustified(20);
     file.seek(0);
-    return file.readAll().toLongLong();
-}
-
-void store(QFile& file, qint64 number)
-{
+    file.write(own);
+    std::this_thread::yield();
     file.seek(0);
-    file.write(QByteArray::number(number).rightJustified(20));
+    return file.readAll() == own;
 }
 
-int count(coSysLockFile& lock, QFile& file, int rounds)
+int churn(coSysLockFile& lock, QFile& file, int rounds)
 {
-    for (; rounds > 0; --rounds) {
-        takeSometime(lock);
-        store(file, numberIn(file) + 1);
+    say("started", true);
+    for (int round = 0; round != rounds; ++round) {
+        while (!lock.tryLock(0))
+            std::this_thread::yield();
+        if (!isAlone(file))
+            return 2;
         lock.unlock();
     }
     return 0;
-}
-
-int churn(coSysLockFile& lock, QFile& file)
-{
-    const qint64 own = QCoreApplication::applicationPid();
-    say("started", true);
-    for (bool isAlone = true; isAlone;) {
-        takeSometime(lock);
-        store(file, own);
-        std::this_thread::yield();
-        isAlone = numberIn(file) == own;
-        lock.unlock();
-    }
-    return 2;
 }
 
 } // namespace
@@ -83,5 +65,5 @@ int main(int argc, char** argv)
     QFile file(arguments.value(2));
     if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         return 64;
-    return arguments.size() == 4 ? count(lock, file, arguments.at(3).toInt()) : churn(lock, file);
+    return churn(lock, file, arguments.size() == 4 ? arguments.at(3).toInt() : -1);
 }

