@@ -1,7 +1,6 @@
 #include "kdqshrun.h"
 #include "kdqtest.h"
 
-#include <QRegularExpression>
 #include <QUdpSocket>
 
 /// Two shells that talk to each other.
