@@ -64,73 +64,64 @@ using Converter = std::unique_ptr<cv_converter, Releaser<cv_converter, cv_free>>
 class TestUdunits : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase();
-    void everyPairOfUnits_data();
-    void everyPairOfUnits();
-
-private:
-    Unit unit(const QByteArray& definition) const
-    {
-        return Unit(ut_parse(m_system.get(), definition.constData(), UT_UTF8));
-    }
-
     System m_system;
+
+    Converter converter(const QByteArray& from, const QByteArray& to) const
+    {
+        const Unit source(ut_parse(m_system.get(), from.constData(), UT_UTF8));
+        const Unit target(ut_parse(m_system.get(), to.constData(), UT_UTF8));
+        return Converter(source && target ? ut_get_converter(source.get(), target.get()) : nullptr);
+    }
+
+    // The two compute in different steps: each may be some roundings off, a rounding of the largest number on
+    // the way where a zero is shifted.
+    static void compare(const kdUnitSystem& from, const kdUnitSystem& to, const cv_converter* converter)
+    {
+        constexpr double tolerance = 4 * std::numeric_limits<double>::epsilon();
+        for (const double value :
+             {0.0, 1.0, -1.0, 0.1, 1234.5, -273.15, 6.02214076e23, -1.602176634e-19, 355.0}) {
+            const double expected = cv_convert_double(converter, value);
+            const double converted = from.convert(value, to);
+            const double scale = from.dimension() == kdUnitSystem::Temperature
+                ? std::max({std::abs(expected), std::abs(value), 459.67})
+                : std::abs(expected);
+            QVERIFY2(std::abs(converted - expected) <= tolerance * scale,
+                     qPrintable(QStringLiteral("%1 %2 are %3 %4, not %5")
+                                    .arg(QString::number(value), from.symbol(),
+                                         QString::number(converted, 'g', 17), to.symbol(),
+                                         QString::number(expected, 'g', 17))));
+            QVERIFY(std::abs(to.convert(converted, from) - value)
+                    <= tolerance * std::max(scale, std::abs(value)));
+        }
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        std::setlocale(LC_NUMERIC, "C"); // UDUNITS reads its own file with the user's decimal mark
+        ut_set_error_message_handler(ut_ignore);
+        m_system.reset(ut_read_xml(nullptr));
+        QVERIFY(m_system);
+    }
+
+    void everyPairOfUnits()
+    {
+        QCOMPARE(definitions.size(), kdUnitSystem::dimensionCount());
+        for (int number = 0; number < definitions.size(); ++number) {
+            const auto dimension = static_cast<kdUnitSystem::Dimension>(number);
+            const QByteArrayList& units = definitions.at(number);
+            QCOMPARE(units.size(), kdUnitSystem::unitCount(dimension));
+            for (int from = 0; from < units.size(); ++from)
+                for (int to = 0; to < units.size(); ++to) {
+                    const Converter reference = converter(units.at(from), units.at(to));
+                    QVERIFY2(reference, units.at(from).constData());
+                    compare(kdUnitSystem(dimension, from), kdUnitSystem(dimension, to), reference.get());
+                    if (QTest::currentTestFailed())
+                        return;
+                }
+        }
+    }
 };
-
-void TestUdunits::initTestCase()
-{
-    std::setlocale(LC_NUMERIC, "C"); // UDUNITS reads its own file with the user's decimal mark
-    ut_set_error_message_handler(ut_ignore);
-    m_system.reset(ut_read_xml(nullptr));
-    QVERIFY(m_system);
-    QCOMPARE(definitions.size(), kdUnitSystem::dimensionCount());
-}
-
-void TestUdunits::everyPairOfUnits_data()
-{
-    QTest::addColumn<kdUnitSystem>("from");
-    QTest::addColumn<kdUnitSystem>("to");
-    for (int number = 0; number < definitions.size(); ++number) {
-        const auto dimension = static_cast<kdUnitSystem::Dimension>(number);
-        QCOMPARE(definitions.at(number).size(), kdUnitSystem::unitCount(dimension));
-        for (int from = 0; from < kdUnitSystem::unitCount(dimension); ++from)
-            for (int to = 0; to < kdUnitSystem::unitCount(dimension); ++to)
-                QTest::addRow("%d: %s to %s", number, qPrintable(kdUnitSystem(dimension, from).symbol()),
-                              qPrintable(kdUnitSystem(dimension, to).symbol()))
-                    << kdUnitSystem(dimension, from) << kdUnitSystem(dimension, to);
-    }
-}
-
-// The two compute in different steps: each may be some roundings off, a rounding of the largest number on the
-// way where a zero is shifted.
-void TestUdunits::everyPairOfUnits()
-{
-    QFETCH(kdUnitSystem, from);
-    QFETCH(kdUnitSystem, to);
-    const Unit source = unit(definitions.at(from.dimension()).at(from.unitIndex()));
-    const Unit target = unit(definitions.at(to.dimension()).at(to.unitIndex()));
-    QVERIFY(source && target);
-    const Converter converter(ut_get_converter(source.get(), target.get()));
-    QVERIFY(converter);
-    constexpr double roundings = 4;
-    for (const double value :
-         {0.0, 1.0, -1.0, 0.1, 1234.5, -273.15, 6.02214076e23, -1.602176634e-19, 355.0}) {
-        const double expected = cv_convert_double(converter.get(), value);
-        const double converted = from.convert(value, to);
-        const double scale = from.dimension() == kdUnitSystem::Temperature
-            ? std::max({std::abs(expected), std::abs(value), 459.67})
-            : std::abs(expected);
-        QVERIFY2(std::abs(converted - expected) <= roundings * std::numeric_limits<double>::epsilon() * scale,
-                 qPrintable(QStringLiteral("%1: %2, not %3")
-                                .arg(value, 0, 'g', 17)
-                                .arg(converted, 0, 'g', 17)
-                                .arg(expected, 0, 'g', 17)));
-        const double back = to.convert(converted, from);
-        QVERIFY(std::abs(back - value)
-                <= roundings * std::numeric_limits<double>::epsilon() * std::max(scale, std::abs(value)));
-    }
-}
 
 KDQ_TEST_MAIN(TestUdunits)
 #include "tst_udunits.moc"
