@@ -6,16 +6,9 @@
 #include <kdQCore/kdDataTable>
 #include <kdQCore/kdUnitSystem>
 
-using Values = QList<double>;
-using Variable = coFeTableCard::IndependentVarUsingValues;
 Q_DECLARE_METATYPE(kdDataTable)
 
 namespace {
-
-nMarc::e_TableVariableType type(int code)
-{
-    return static_cast<nMarc::e_TableVariableType>(code);
-}
 
 kdUnitSystem unit(const char* symbol)
 {
@@ -90,18 +83,21 @@ private Q_SLOTS:
         QVERIFY(write(card, freeStandard).result);
     }
 
-    void copiesOwnTheirValues()
+    void copiesOwnTheirValuesAndVariables()
     {
         auto original = std::make_unique<coFeDataTableCard>(emptyCard());
-        original->setTable(yieldStress);
+        QVERIFY(original->setGrid(flowCurves, Variable(type(5), {20, 200, 300}), unit("-"), unit("MPa")));
         const QByteArray deck = write(*original, fixedStandard).deck;
         const coFeDataTableCard copy(*original);
         coFeDataTableCard assigned = emptyCard();
         assigned = *original;
         assigned = *&assigned;
+        QVERIFY(original->setGrid(flowCurves, Variable(type(5), {30, 40, 50})));
         original.reset();
         QCOMPARE(write(copy, fixedStandard).deck, deck);
         QCOMPARE(write(assigned, fixedStandard).deck, deck);
+        assigned = emptyCard();
+        QCOMPARE(assigned.nIndependentVars(), 1);
     }
 
     void tablesThatDoNotFit_data()
@@ -111,7 +107,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("reason");
         const auto row = [](const char* name, const kdDataTable& table, const Values& temperatures,
                             const char* reason) {
-            QTest::newRow(name) << table << temperatures << QString::fromLatin1(reason);
+            kdqRow(name, table, temperatures, QString::fromLatin1(reason));
         };
         row("no columns", table({}), {}, "it is no XY table (an X and a Y column); number of columns: 0.");
         row("empty", table({column("s", {}), column("K", {})}), {}, "it has no rows.");
@@ -153,8 +149,8 @@ private Q_SLOTS:
         coFeDataTableCard card = emptyCard();
         QVERIFY(!card.setTable(yieldStress, unit("K"), unit("mm")));
         QCOMPARE(card.errorText(),
-                 QStringLiteral("Table 'steel' does not fit the card: column 2 is in 'MPa', which "
-                                "cannot be converted to 'mm'."));
+                 QStringLiteral("Table 'steel' does not fit the card: column 2 is in 'MPa', which cannot be "
+                                "converted to 'mm'."));
         kdDataColumn unitless = column("K", {7});
         unitless.setUnitIndex(-1);
         QVERIFY(card.setTable(table({unitless, unitless})));

@@ -38,31 +38,23 @@ class TestOptionCards : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void solvers_data()
-    {
-        QTest::addColumn<QByteArray>("fields");
-        QTest::addColumn<QByteArray>("end");
-        const QByteArray optimisation = "optimize,11,\n";
-        QTest::newRow("0") << QByteArray("11,1,0,0,0,0,0,0") << optimisation;
-        QTest::newRow("1") << QByteArray("8,1,0,1,0,0,0,0") << optimisation;
-        QTest::newRow("2") << QByteArray("11,1,0,0,0,0,0,0,0,0,0,0,0,2,1,0") << optimisation;
-        QTest::newRow("3") << QByteArray("9,0,0,0,0,2,0,0,0,0,0,0,0,0,0,1") << optimisation;
-        QTest::newRow("4") << QByteArray("2,0,0,0,0,0,0,0")
-                           << QByteArray("250,1,5,\n1.00000E-8,\noptimize,9,\n");
-        QTest::newRow("5") << QByteArray("12,1,0,0,0,0,0,0") << optimisation;
-        QTest::newRow("6") << QByteArray("0,1,0,0,0,0,0,0") << optimisation;
-        QTest::newRow("7") << QByteArray("10,0,0,0,0,0,0,0") << "250,1,0,\n1.00000E-8,\n" + optimisation;
-        QTest::newRow("8") << QByteArray("-1,0,0,0,0,0,0,0") << QByteArray();
-    }
-
     /// With every flag set, whether the solver knows it or not.
     void solvers()
     {
-        QFETCH(QByteArray, fields);
-        QFETCH(QByteArray, end);
-        const coFeSolverCard card = solver(QByteArray(QTest::currentDataTag()).toInt());
-        QCOMPARE(write(card, freeStandard).deck, "solver\n" + fields + ",\n" + end);
-        QVERIFY(!CFEDatLineWriter().writeCard(card));
+        QByteArray decks;
+        for (int type = 0; type < 9; ++type)
+            decks += write(solver(type), freeStandard).deck;
+        QCOMPARE(decks,
+                 QByteArray("solver\n11,1,0,0,0,0,0,0,\noptimize,11,\n"
+                            "solver\n8,1,0,1,0,0,0,0,\noptimize,11,\n"
+                            "solver\n11,1,0,0,0,0,0,0,0,0,0,0,0,2,1,0,\noptimize,11,\n"
+                            "solver\n9,0,0,0,0,2,0,0,0,0,0,0,0,0,0,1,\noptimize,11,\n"
+                            "solver\n2,0,0,0,0,0,0,0,\n250,1,5,\n1.00000E-8,\noptimize,9,\n"
+                            "solver\n12,1,0,0,0,0,0,0,\noptimize,11,\n"
+                            "solver\n0,1,0,0,0,0,0,0,\noptimize,11,\n"
+                            "solver\n10,0,0,0,0,0,0,0,\n250,1,0,\n1.00000E-8,\noptimize,11,\n"
+                            "solver\n-1,0,0,0,0,0,0,0,\n"));
+        QVERIFY(!CFEDatLineWriter().writeCard(solver(0)));
     }
 
     void defaults()
@@ -78,14 +70,15 @@ private Q_SLOTS:
 
     void reproducibilityFollowsTheRigidModesFlag()
     {
-        const QMap<int, QByteArray> fieldOfFlag{{0, "1"}, {1, "0"}, {2, "2"}, {3, "-1"}};
-        for (auto it = fieldOfFlag.begin(); it != fieldOfFlag.end(); ++it) {
+        QList<QByteArray> fields;
+        for (int flag = 0; flag < 4; ++flag) {
             coFeAutoforgeCard flagged;
-            flagged.setRemoveRigidModesFlag(static_cast<coFeAutoforgeCard::e_RigidModesFlag>(it.key()));
+            flagged.setRemoveRigidModesFlag(static_cast<coFeAutoforgeCard::e_RigidModesFlag>(flag));
             coFeSolverCard card = solver(nSolver::PardisoParallelDirect);
             card.setAutoforgeField10Value(flagged.field10RemoveRigidModesFlag());
-            QCOMPARE(write(card, freeStandard).deck.split('\n').at(1).split(',').at(13), it.value());
+            fields.append(write(card, freeStandard).deck.split('\n').at(1).split(',').at(13));
         }
+        QCOMPARE(fields, QList<QByteArray>({"1", "0", "2", "-1"}));
     }
 
     void solverComments()
@@ -98,30 +91,24 @@ private Q_SLOTS:
         QVERIFY(log.contains(kdLog::Fault, kdLog::FailedAssert, unknown));
     }
 
-    void autoLoadOnlyLogsWhatIsImplausible_data()
-    {
-        QTest::addColumn<int>("steps");
-        QTest::addColumn<double>("time");
-        QTest::addColumn<QStringList>("texts");
-        const QString time = QStringLiteral("Total time needs to be > 0.");
-        const QString stroke = QStringLiteral("Total stroke needs to be > 0.");
-        QTest::newRow("fine") << 1 << 1e-9 << QStringList();
-        QTest::newRow("NaN time") << 1 << qQNaN() << QStringList{time};
-        QTest::newRow("nothing") << -1 << 0.0 << QStringList{time, stroke};
-    }
-
     void autoLoadOnlyLogsWhatIsImplausible()
     {
-        QFETCH(int, steps);
-        QFETCH(double, time);
-        LogCapture log;
-        cFeAutoLoadCard card;
-        card.setTimeSteps(steps);
-        card.setTotalTime(time);
-        card.setTotalTravelDist(1e-9);
-        const Written written = write(card, fixedStandard);
-        QTEST(log.texts(), "texts");
-        QVERIFY(written.result && written.deck.startsWith("auto load\n"));
+        const QString time = QStringLiteral("Total time needs to be > 0.");
+        const QString stroke = QStringLiteral("Total stroke needs to be > 0.");
+        const auto logged = [](int steps, double totalTime) {
+            LogCapture log;
+            cFeAutoLoadCard card;
+            card.setTimeSteps(steps);
+            card.setTotalTime(totalTime);
+            card.setTotalTravelDist(1e-9);
+            const Written written = write(card, fixedStandard);
+            return written.result && written.deck.startsWith("auto load\n")
+                ? log.texts()
+                : QStringList{QStringLiteral("not written")};
+        };
+        QCOMPARE(logged(1, 1e-9), QStringList());
+        QCOMPARE(logged(1, qQNaN()), QStringList{time});
+        QCOMPARE(logged(-1, 0.0), QStringList({time, stroke}));
     }
 
     void pointLoadSaysInTheDeckWhatIsMissing()
@@ -131,27 +118,28 @@ private Q_SLOTS:
         card.setComponentBodyId(-1);
         LogCapture log;
         const Written written = write(card, fixedExtended);
-        QCOMPARE(written.deck,
-                 QByteArray("$ Point load for component '%1 %0'.\n"
-                            "$ Cannot write point load card for component '%1 %0': Name for list of nodes is "
-                            "empty.\n"
-                            "$ Cannot write point load card for component '%1 %0': Not valid body id -1.\n"));
+        QCOMPARE(
+            written.deck,
+            QByteArray(
+                "$ Point load for component '%1 %0'.\n"
+                "$ Cannot write point load card for component '%1 %0': Name for list of nodes is empty.\n"
+                "$ Cannot write point load card for component '%1 %0': Not valid body id -1.\n"));
         QVERIFY(!written.result && !write(card, fixedExtended, false).result);
         QCOMPARE(log.texts(), QStringList());
     }
 
     void pointLoadLabelsTellLoadsApart()
     {
-        cPointLoadCard first;
-        first.setComponentBodyId(0);
-        first.setListOfNodesName(QStringLiteral("punch top"));
-        cPointLoadCard second = first;
-        second.setComponentBodyId(1);
-        QVERIFY(first.uniqueLabel() != second.uniqueLabel());
-        second = first;
-        second.setListOfNodesName(QStringLiteral("two\r\nlines"));
-        QVERIFY(first.uniqueLabel() != second.uniqueLabel());
-        QCOMPARE(write(second, fixedStandard).deck.count('\n'), 7);
+        cPointLoadCard card;
+        QStringList labels;
+        for (const char* list : {"punch top", "two\r\nlines"})
+            for (const int body : {0, 1}) {
+                card.setComponentBodyId(body);
+                card.setListOfNodesName(QString::fromLatin1(list));
+                labels.append(card.uniqueLabel());
+            }
+        QCOMPARE(labels.removeDuplicates(), 0);
+        QCOMPARE(write(card, fixedStandard).deck.count('\n'), 7);
     }
 
     void pointCurrentChecksItsPreconditions()

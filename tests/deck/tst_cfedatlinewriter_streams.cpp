@@ -38,12 +38,6 @@ QList<double> reals(int count)
     return result;
 }
 
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 using FilePointer = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
 FilePointer openFile(const QString& path, const char* mode = "wb")
@@ -79,17 +73,16 @@ private Q_SLOTS:
     void statusBeforeCounts()
     {
         DeckBuffer deck;
+        CFEDatLineWriter& writer = deck.writer();
         deck.stream().setStatus(QTextStream::ReadCorruptData);
-        QVERIFY(!deck.writer().writeInt(1));
-        QVERIFY(!deck.writer().writeList(reals(20000), 8));
-        QVERIFY(!deck.writer().writeTitle(QStringLiteral("Ü")));
-        QVERIFY(!deck.writer().flush());
+        QVERIFY(!writer.writeInt(1) && !writer.writeTitle(QStringLiteral("Ü")));
+        QVERIFY(!writer.writeList(reals(20000), 8) && !writer.flush());
         deck.stream().resetStatus();
-        QVERIFY(deck.writer().writeInt(2) && deck.writer().flush());
+        QVERIFY(writer.writeInt(2) && writer.flush());
         QCOMPARE(deck.bytes(), QByteArray("    2"));
     }
 
-    void ownershipFollowsTheMaker()
+    void filesStayTheCallers()
     {
         const QString first = m_folder->filePath(QStringLiteral("first"));
         const QString second = m_folder->filePath(QStringLiteral("second"));
@@ -100,10 +93,14 @@ private Q_SLOTS:
         {
             CFEDatLineWriter writer(CFEDatLineWriter::standard, CFEDatLineWriter::fixed);
             writer.setFileHandler(firstFile.get());
+            QVERIFY(writer.writeTitle(QStringLiteral("Öfen")) && writer.flush());
+            QCOMPARE(kdqContentOf(first), QByteArray("titleÖfen\n"));
+            std::fputs("by hand\n", firstFile.get());
             QVERIFY(writer.writeInt(1));
+            writer.setFileHandler(nullptr);
+            QVERIFY(!writer.getFileHandler());
             writer.setFileHandler(secondFile.get());
-            QVERIFY(writer.writeInt(2));
-            QCOMPARE(writer.getFileHandler(), secondFile.get());
+            QVERIFY(writer.writeInt(2) && writer.getFileHandler() == secondFile.get());
             writer.setFileHandler(&stream);
             QVERIFY(writer.writeInt(3));
         }
@@ -111,25 +108,9 @@ private Q_SLOTS:
         stream.flush();
         std::fflush(firstFile.get());
         std::fflush(secondFile.get());
-        QCOMPARE(contents(first), QByteArray("    1"));
-        QCOMPARE(contents(second), QByteArray("    2"));
+        QCOMPARE(kdqContentOf(first), QByteArray("titleÖfen\nby hand\n    1"));
+        QCOMPARE(kdqContentOf(second), QByteArray("    2"));
         QCOMPARE(bytes, QByteArray("    3 still there"));
-    }
-
-    void fileStaysInOrderWithTheCallersOwnOutput()
-    {
-        const QString path = m_folder->filePath(QStringLiteral("job.dat"));
-        const FilePointer file = openFile(path);
-        CFEDatLineWriter writer(CFEDatLineWriter::standard, CFEDatLineWriter::fixed);
-        writer.setFileHandler(file.get());
-        QVERIFY(writer.writeTitle(QStringLiteral("Öfen")) && writer.flush());
-        QCOMPARE(contents(path), QByteArray("titleÖfen\n"));
-        std::fputs("by hand\n", file.get());
-        QVERIFY(writer.writeInt(1));
-        writer.setFileHandler(nullptr);
-        QVERIFY(!writer.getFileHandler());
-        std::fflush(file.get());
-        QCOMPARE(contents(path), QByteArray("titleÖfen\nby hand\n    1"));
     }
 
     void fileClosedAfterFlushIsLeftAlone()
@@ -146,17 +127,17 @@ private Q_SLOTS:
             otherFile = openFile(other); // usually takes the place of the closed one
             std::fputs("not flushed yet", otherFile.get());
         }
-        QCOMPARE(contents(path), QByteArray("    1"));
-        QCOMPARE(contents(other), QByteArray());
+        QCOMPARE(kdqContentOf(path), QByteArray("    1"));
+        QCOMPARE(kdqContentOf(other), QByteArray());
     }
 
     void longLists_data()
     {
         QTest::addColumn<QByteArray>("codec");
         QTest::addColumn<bool>("byteOrderMark");
-        QTest::newRow("local") << QByteArray() << false;
-        QTest::newRow("mark first") << QByteArray("UTF-8") << true;
-        QTest::newRow("two bytes a character") << QByteArray("UTF-16LE") << false;
+        kdqRow("local", QByteArray(), false);
+        kdqRow("mark first", QByteArray("UTF-8"), true);
+        kdqRow("two bytes a character", QByteArray("UTF-16LE"), false);
     }
 
     void longLists()
@@ -188,8 +169,8 @@ private Q_SLOTS:
         QVERIFY(write(toFile));
         const QTextCodec* const reader =
             codec.isEmpty() ? QTextCodec::codecForLocale() : QTextCodec::codecForName(codec);
-        QVERIFY(contents(path).startsWith("\xef\xbb\xbf") == byteOrderMark);
-        QVERIFY(reader->toUnicode(contents(path)) == QStringLiteral("$ ö\n") + text);
+        QVERIFY(kdqContentOf(path).startsWith("\xef\xbb\xbf") == byteOrderMark);
+        QVERIFY(reader->toUnicode(kdqContentOf(path)) == QStringLiteral("$ ö\n") + text);
     }
 
     void textsAreEncodedOnce()
@@ -225,28 +206,19 @@ private Q_SLOTS:
         QCOMPARE(deck.bytes(), QByteArray("    1titleÄ\n"));
     }
 
-    void deviceThatFillsUp_data()
-    {
-        QTest::addColumn<int>("room");
-        QTest::newRow("within the first block") << 30000;
-        QTest::newRow("at the end") << 20000 * 20 + 2500 * 3 - 2 - 1;
-    }
-
     void deviceThatFillsUp()
     {
-        QFETCH(int, room);
-        FullDevice device(room);
-        QTextStream stream(&device);
-        CFEDatLineWriter writer(CFEDatLineWriter::extended, CFEDatLineWriter::fixed);
-        writer.setFileHandler(&stream);
-        bool ok = writer.writeList(reals(20000), 8);
-        ok = writer.flush() && ok;
-        QVERIFY(!ok);
-        QCOMPARE(device.bytes.size(), room);
-        QVERIFY(!writer.writeInt(1));
-        QVERIFY(!writer.writeList(reals(20000), 8));
-        QVERIFY(!writer.flush());
-        QCOMPARE(writer.getErrorCount(), 0);
+        for (const int room : {30000, 20000 * 20 + 2500 * 3 - 2 - 1}) { // in the first block, at the end
+            FullDevice device(room);
+            QTextStream stream(&device);
+            CFEDatLineWriter writer(CFEDatLineWriter::extended, CFEDatLineWriter::fixed);
+            writer.setFileHandler(&stream);
+            const bool isWritten = writer.writeList(reals(20000), 8);
+            QVERIFY(!writer.flush() || !isWritten);
+            QCOMPARE(device.bytes.size(), room);
+            QVERIFY(!writer.writeInt(1) && !writer.writeList(reals(20000), 8) && !writer.flush());
+            QCOMPARE(writer.getErrorCount(), 0);
+        }
     }
 
     void fullDisk()

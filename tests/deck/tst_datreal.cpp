@@ -28,10 +28,11 @@ private Q_SLOTS:
                 }
     }
 
+    /// In the long run a hundred million values.
     void randomValues()
     {
         constexpr unsigned seed = 20260117;
-        constexpr int count = 2000000;
+        const int count = qEnvironmentVariableIsSet("KDQ_LONG_RUN") ? 100000000 : 2000000;
         qInfo("%d values from seed %u", count, seed);
         std::mt19937_64 random(seed);
         const RealCheck check;

@@ -58,39 +58,29 @@ private:
         QCOMPARE(file.write(bytes), qint64(bytes.size()));
     }
 
-    static QByteArray content(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
 private Q_SLOTS:
     void comparison_data()
     {
         QTest::addColumn<QByteArray>("other");
         QTest::addColumn<double>("tolerance");
-        QTest::addColumn<QByteArray>("report");
-        const auto row = [](const char* name, const QByteArray& other, double tolerance,
-                            const QByteArray& report) {
-            QTest::newRow(name) << other << tolerance << report;
-        };
-        row("other layout", freeDeck, 0.0, "");
-        row("other comment", with("yield", "flow"), 0.0, "");
-        row("number within the tolerance", with("3.55000E+8", "3.55001E+8"), 1e-5, "");
-        row("number beyond it", with("3.55000E+8", "3.55010E+8"), 1e-5,
-            "table 'k': words that differ: 1, the first: (numbers by up to 2.82e-05, relatively)\n"
-            "- line 6: 3.55000E+8\n+ line 6: 3.55010E+8\n");
-        row("whole number", with("    1    2    3", "    1    2    4"), 0.5,
-            "mesh: words that differ: 1, the first:\n- line 9: 3\n+ line 9: 4\n");
-        row("more words", with("    1    2    3", "    1    2    3    4"), 0.0,
-            "mesh: words that differ: 1, the first:\n- line 9: \n+ line 9: 4\n");
-        row("renamed", with("tablek", "tablem"), 0.0,
-            "table 'k': only in the first deck, line 3\ntable 'm': only in the second deck, line 3\n");
-        row("broken option", with("   11    0", "   1x    0"), 0.0,
-            "solver: words that differ: 1, the first:\n- line 18: 11\n+ line 18: 1x\n");
-        row("other case", with("solver", "SOLVER"), 0.0, "");
-        row("moved", with("mesh\n    1    2    3\n", "") + "mesh\n    1    2    3\n", 0.0,
-            "mesh: at another place: line 8, line 18\n");
+        QTest::addColumn<QString>("report");
+        kdqRow("other layout", freeDeck, 0.0, "");
+        kdqRow("other comment", with("yield", "flow"), 0.0, "");
+        kdqRow("number within the tolerance", with("3.55000E+8", "3.55001E+8"), 1e-5, "");
+        kdqRow("number beyond it", with("3.55000E+8", "3.55010E+8"), 1e-5,
+               "table 'k': words that differ: 1, the first: (numbers by up to 2.82e-05, relatively)\n"
+               "- line 6: 3.55000E+8\n+ line 6: 3.55010E+8\n");
+        kdqRow("whole number", with("    1    2    3", "    1    2    4"), 0.5,
+               "mesh: words that differ: 1, the first:\n- line 9: 3\n+ line 9: 4\n");
+        kdqRow("more words", with("    1    2    3", "    1    2    3    4"), 0.0,
+               "mesh: words that differ: 1, the first:\n- line 9: \n+ line 9: 4\n");
+        kdqRow("renamed", with("tablek", "tablem"), 0.0,
+               "table 'k': only in the first deck, line 3\ntable 'm': only in the second deck, line 3\n");
+        kdqRow("broken option", with("   11    0", "   1x    0"), 0.0,
+               "solver: words that differ: 1, the first:\n- line 18: 11\n+ line 18: 1x\n");
+        kdqRow("other case", with("solver", "SOLVER"), 0.0, "");
+        kdqRow("moved", with("mesh\n    1    2    3\n", "") + "mesh\n    1    2    3\n", 0.0,
+               "mesh: at another place: line 8, line 18\n");
     }
 
     void comparison()
@@ -103,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly));
         coDeckCompare compare(tolerance);
         const bool isSame = compare.run(a, CFEDatLineWriter::standard, b, CFEDatLineWriter::standard);
-        QTEST(compare.report().toUtf8(), "report");
+        QTEST(compare.report(), "report");
         QCOMPARE(isSame, compare.report().isEmpty());
     }
 
@@ -123,10 +113,9 @@ private Q_SLOTS:
               "    8    0    0    0    0    0    0    0\n"
               "optimize     11\n"
               "end\n";
-        QTest::newRow("LF") << deck << changed;
-        QTest::newRow("CR LF") << QByteArray(deck).replace("\n", "\r\n")
-                               << QByteArray(changed).replace("\n", "\r\n");
-        QTest::newRow("last line without end") << deck.chopped(1) << changed;
+        kdqRow("LF", deck, changed);
+        kdqRow("CR LF", QByteArray(deck).replace("\n", "\r\n"), QByteArray(changed).replace("\n", "\r\n"));
+        kdqRow("last line without end", deck.chopped(1), changed);
     }
 
     void patches()
@@ -145,8 +134,8 @@ private Q_SLOTS:
         patch.insertBefore(table, "feature    7\n");
         patch.remove(table);
         QVERIFY2(patch.apply(coDeckPatch::KeepOld), qPrintable(patch.errorText()));
-        QTEST(content(m_path), "after");
-        QCOMPARE(content(m_path + QStringLiteral(".bak")), before);
+        QTEST(kdqContentOf(m_path), "after");
+        QCOMPARE(kdqContentOf(m_path + QStringLiteral(".bak")), before);
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files).size(), 2);
     }
 
@@ -167,7 +156,7 @@ private Q_SLOTS:
         QVERIFY(!patch.apply());
         QVERIFY2(patch.errorText().contains(QStringLiteral("changed by somebody else")),
                  qPrintable(patch.errorText()));
-        QCOMPARE(content(m_path), deck + "end\n");
+        QCOMPARE(kdqContentOf(m_path), deck + "end\n");
         QVERIFY(patch.read());
         patch.replace(0, QByteArray());
         QVERIFY(!patch.apply());
@@ -186,7 +175,7 @@ private Q_SLOTS:
             QVERIFY(!isRead || !stopped.apply(coDeckPatch::KeepOld));
             QVERIFY2(stopped.errorText().startsWith(QStringLiteral("Stopped")),
                      qPrintable(stopped.errorText()));
-            QCOMPARE(content(m_path), before);
+            QCOMPARE(kdqContentOf(m_path), before);
             QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files).size(), files);
         }
     }

@@ -20,7 +20,6 @@
 #include <random>
 
 using Card = std::unique_ptr<cFeAbstractDatCard>;
-using Values = QList<double>;
 Q_DECLARE_METATYPE(Layout)
 
 namespace {
@@ -32,24 +31,11 @@ public:
 
     Card next()
     {
-        switch (below(8)) {
-        case 0:
-            return std::make_unique<coFeParameterSectionTable>();
-        case 1:
-            return process();
-        case 2:
-            return autoLoad();
-        case 3:
-            return solver();
-        case 4:
-            return pointLoad();
-        case 5:
-            return pointCurrent();
-        case 6:
-            return formula();
-        default:
-            return table();
-        }
+        using Make = Card (RandomCards::*)();
+        constexpr Make makes[] = {&RandomCards::section, &RandomCards::process,     &RandomCards::autoLoad,
+                                  &RandomCards::solver,  &RandomCards::pointLoad,   &RandomCards::table,
+                                  &RandomCards::formula, &RandomCards::pointCurrent};
+        return (this->*makes[below(8)])();
     }
 
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_random); }
@@ -96,7 +82,9 @@ private:
         return result;
     }
 
-    nMarc::e_TableVariableType type() { return static_cast<nMarc::e_TableVariableType>(1 + below(99)); }
+    nMarc::e_TableVariableType anyType() { return type(1 + below(99)); }
+
+    Card section() { return std::make_unique<coFeParameterSectionTable>(); }
 
     Card process()
     {
@@ -123,8 +111,7 @@ private:
 
     Card solver()
     {
-        const int types[] = {0, 1, 2, 3, 4, 5, 6, 7, 8};
-        auto card = std::make_unique<coFeSolverCard>(static_cast<nSolver::e_SolverType>(types[below(9)]));
+        auto card = std::make_unique<coFeSolverCard>(static_cast<nSolver::e_SolverType>(below(9)));
         card->enableUsingUpperCaseKeywords(coin());
         card->setIsNonSymmetricSystem(coin());
         card->setIsSolutionProcedureFullK(coin());
@@ -164,23 +151,22 @@ private:
     Card formula()
     {
         auto card = std::make_unique<coFeTableCardUsingFormula>(
-            text(20), number(), coFeTableCardBase::IndependentVarBase(type()));
+            text(20), number(), coFeTableCardBase::IndependentVarBase(anyType()));
         if (coin())
-            card->setIndependentVariable2(coFeTableCardBase::IndependentVarBase(type()));
+            card->setIndependentVariable2(coFeTableCardBase::IndependentVarBase(anyType()));
         card->setFormula(text(300));
         return card;
     }
 
     Card table()
     {
-        using Variable = coFeTableCard::IndependentVarUsingValues;
         const Values x = ascending(1 + below(40));
-        auto card = std::make_unique<coFeDataTableCard>(text(20), number(), Variable(type(), coin(), x));
+        auto card = std::make_unique<coFeDataTableCard>(text(20), number(), Variable(anyType(), coin(), x));
         card->setOwnValues(reals(x.size()));
         if (coin())
             return card;
         const Values x2 = ascending(1 + below(20));
-        card->coFeTableCard::setIndependentVariable2(Variable(type(), coin(), x2));
+        card->coFeTableCard::setIndependentVariable2(Variable(anyType(), coin(), x2));
         card->setOwnValues(reals(x.size() * x2.size()));
         if (coin())
             card->setDefaultReadMethodForMoreThan1IndependentVar(nMarc::ReadGridValueByValue);
@@ -210,10 +196,10 @@ private Q_SLOTS:
     void cards_data()
     {
         QTest::addColumn<Layout>("layout");
-        QTest::newRow("fixed standard") << fixedStandard;
-        QTest::newRow("fixed extended") << fixedExtended;
-        QTest::newRow("free standard") << freeStandard;
-        QTest::newRow("free extended") << freeExtended;
+        kdqRow("fixed standard", fixedStandard);
+        kdqRow("fixed extended", fixedExtended);
+        kdqRow("free standard", freeStandard);
+        kdqRow("free extended", freeExtended);
     }
 
     void cards()
@@ -245,37 +231,38 @@ private Q_SLOTS:
         }
     }
 
-    void literalDecks_data()
+    /// What cards make of a deck that is known to the letter.
+    void literalDeck()
     {
-        QTest::addColumn<QByteArray>("deck"); // free, standard
-        QTest::newRow("table section") << QByteArray("table,0,0,2,1,1,0,0,1,\n");
-        QTest::newRow("process") << QByteArray("autoforge,2,3,2,9,0,21,1,4,5,15,1,6,\n");
-        QTest::newRow("auto load") << QByteArray("auto load\n100,0,10,3,4,2.50000E+0,1.25000E-1,\n");
-        QTest::newRow("grid value by value")
-            << QByteArray("table,flow\n4,2,0,0,1,\n5,3,1,12,2,2,\n0.00000E+0,1.00000E-1,2.00000E-1,\n"
-                          "2.00000E+1,4.00000E+2,\n1.00000E+0 c\n2.00000E+0 c\n3.00000E+0 c\n"
-                          "4.00000E+0 c\n5.00000E+0 c\n6.00000E+0,\n");
-        const QByteArray load = "$ Point load for component 'Punch %1'.\n$ from above\npoint load\n1,0,0,\n"
-                                "1,0,0,0,0,0,ptld_0_punch top\n";
-        QTest::newRow("point load 3-D")
-            << load + "1.50000E+0,-2.5000E+0,1.23456E+3,\n0,0,0,\n2,\npunch top\n";
-        QTest::newRow("comment that looks like a component")
-            << QByteArray("$ Point load for component 'a'.\n$ Point load for component 'b'.\n")
-                + load.mid(load.indexOf("point load")) + "1.23456E+3,1.50000E+0,\n0,0,\n2,\npunch top\n";
-        QTest::newRow("point load 2-D") << load + "1.23456E+3,1.50000E+0,\n0,0,\n2,\npunch top\n";
-        QTest::newRow("point current")
-            << QByteArray("point current\n0,0,\n1,0,0,0,0,0,weld,\n1.25000E+4,0.00000E+0,0.00000E+0,\n"
-                          "7,0,0,\n2,\nnode_1,\n");
-    }
-
-    void literalDecks()
-    {
-        QFETCH(QByteArray, deck);
-        const auto card = read(deck, freeStandard).card;
-        QVERIFY(card);
-        QCOMPARE(write(*card, freeStandard).deck, deck);
-        const Written dryRun = write(*card, freeStandard, false);
-        QVERIFY(dryRun.result && dryRun.deck.isEmpty());
+        const QByteArray load = "point load\n1,0,0,\n1,0,0,0,0,0,ptld_0_punch top\n";
+        const QByteArray deck = "table,0,0,2,1,1,0,0,1,\n"
+                                "autoforge,2,3,2,9,0,21,1,4,5,15,1,6,\n"
+                                "auto load\n100,0,10,3,4,2.50000E+0,1.25000E-1,\n"
+                                "table,flow\n4,2,0,0,1,\n5,3,1,12,2,2,\n"
+                                "0.00000E+0,1.00000E-1,2.00000E-1,\n2.00000E+1,4.00000E+2,\n"
+                                "1.00000E+0 c\n2.00000E+0 c\n3.00000E+0 c\n"
+                                "4.00000E+0 c\n5.00000E+0 c\n6.00000E+0,\n"
+                                "$ Point load for component 'Punch %1'.\n$ from above\n"
+            + load
+            + "1.50000E+0,-2.5000E+0,1.23456E+3,\n0,0,0,\n2,\npunch top\n"
+              "$ Point load for component 'a'.\n$ Point load for component 'b'.\n"
+            + load
+            + "1.23456E+3,1.50000E+0,\n0,0,\n2,\npunch top\n"
+              "point current\n0,0,\n1,0,0,0,0,0,weld,\n1.25000E+4,0.00000E+0,0.00000E+0,\n"
+              "7,0,0,\n2,\nnode_1,\n";
+        QBuffer device;
+        device.setData(deck);
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        coDeckReader reader(device, freeStandard.mode);
+        coDeckOption option;
+        QByteArray written;
+        while (reader.next(option)) {
+            QVERIFY2(option.card, qPrintable(option.text()));
+            written += write(*option.card, freeStandard).deck;
+            const Written dryRun = write(*option.card, freeStandard, false);
+            QVERIFY(dryRun.result && dryRun.deck.isEmpty());
+        }
+        QCOMPARE(written, deck);
         QVERIFY(!read("table,t\n1,1,0,0,2,\n1,1,2,\n1.00000E+0,,\n", freeStandard).card);
     }
 
@@ -328,14 +315,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<double>("value");
-        QTest::newRow("nearest prints lower") << QByteArray("3.000000000000000E-1") << 0.30000000000000004;
-        QTest::newRow("nearest prints the text") << QByteArray("1.000000000000000E-1") << 0.1;
-        QTest::newRow("negative") << QByteArray("-3.00000000000000E-1") << -0.30000000000000004;
-        QTest::newRow("as people write it") << QByteArray("                 0.3") << 0.30000000000000004;
-        QTest::newRow("Fortran") << QByteArray("              2.5D+3") << 2500.0;
-        QTest::newRow("no letter") << QByteArray("              2.5-30") << 2.5e-30;
-        QTest::newRow("more digits than a deck shows") << QByteArray("0.299999999999999999") << 0.3;
-        QTest::newRow("least") << QByteArray("4.9406564584124E-324") << 4.9406564584124e-324;
+        kdqRow("nearest prints lower", QByteArray("3.000000000000000E-1"), 0.30000000000000004);
+        kdqRow("nearest prints the text", QByteArray("1.000000000000000E-1"), 0.1);
+        kdqRow("negative", QByteArray("-3.00000000000000E-1"), -0.30000000000000004);
+        kdqRow("as people write it", QByteArray("                 0.3"), 0.30000000000000004);
+        kdqRow("Fortran", QByteArray("              2.5D+3"), 2500.0);
+        kdqRow("no letter", QByteArray("              2.5-30"), 2.5e-30);
+        kdqRow("more digits than a deck shows", QByteArray("0.299999999999999999"), 0.3);
+        kdqRow("least", QByteArray("4.9406564584124E-324"), 4.9406564584124e-324);
     }
 
     void valuesAreThoseThatPrintTheText()

@@ -3,6 +3,15 @@
 #include "deckbuffer.h"
 
 #include <kdQCore/cFeAbstractDatCard>
+#include <kdQCore/coFeTableCard>
+
+using Values = QList<double>;
+using Variable = coFeTableCard::IndependentVarUsingValues;
+
+inline nMarc::e_TableVariableType type(int code)
+{
+    return static_cast<nMarc::e_TableVariableType>(code);
+}
 
 /// One of the layouts of a deck.
 struct Layout {
