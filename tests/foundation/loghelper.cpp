@@ -1,8 +1,11 @@
-// A small application of the family for tests of the debug log, which can be created only in a fresh process.
+// A small application of the family for tests of what a whole process writes: its debug log, which can be
+// created only in a fresh process, and its reports.
 // Usage: loghelper <step>..., where a digit logs a line of that severity.
 
 #include <kdQCore/kdDebugLog>
 #include <kdQCore/kdLog>
+#include <kdQCore/kdReporterInterface>
+#include <kdQCore/streamReporter>
 
 #include <QCoreApplication>
 
@@ -47,6 +50,21 @@ void logFromManyThreads()
         thread.join();
 }
 
+/// One message of every kind, and messages of the levels 0 to 2.
+void report()
+{
+    streamReporter console(1);
+    const kdReporterInterface producer(console);
+    producer.startOperation(QString::fromUtf8("Erwärmen"));
+    producer.startOperation(QStringLiteral("again"));
+    for (const double fraction : {0.5, 1.0 / 3.0, 1.0, 1e-7})
+        producer.progress(fraction);
+    for (int level = 0; level < 3; ++level)
+        producer.message(QStringLiteral("level %1").arg(level), level);
+    producer.errorMessage(QString::fromUtf8("zu heiß"));
+    producer.finishOperation(QStringLiteral("done"));
+}
+
 void waitToBeKilled()
 {
     std::puts("ready");
@@ -70,6 +88,7 @@ int main(int argc, char** argv)
         {"path", [] { std::puts(qPrintable(kdDebugLog::logFilePath())); }},
         {"texts", logTextsFromOutside},
         {"threads", logFromManyThreads},
+        {"report", report},
         {"wait", waitToBeKilled},
     };
     for (int i = 1; i < argc; ++i) {

@@ -3,6 +3,7 @@
 
 #include <kdQCore/cError>
 #include <kdQCore/coIOException>
+#include <kdQCore/kdErrorMessageHandler>
 #include <kdQCore/kdException>
 #include <kdQCore/kdTypedException>
 #include <kdQCore/maDataError>
@@ -10,9 +11,8 @@
 #include <QTextCodec>
 
 #include <cerrno>
+#include <tuple>
 #include <type_traits>
-
-#define S(text) QStringLiteral(text)
 
 using nKaldoranMaterial::maDataError;
 using nKaldoranMaterial::maValueError;
@@ -22,34 +22,35 @@ using PositionException = kdTypedException<QPair<int, int>>;
 
 static_assert(!std::is_base_of_v<std::exception, maDataError> && !std::is_base_of_v<kdException, cError>);
 
+namespace {
+
+class Collector : public kdErrorMessageHandler {
+public:
+    using kdErrorMessageHandler::addErrorMessage;
+    using kdErrorMessageHandler::clearErrorMessages;
+};
+
+} // namespace
+
 class TestExceptions : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void messageIsKeptInTheLocalEncoding_data()
-    {
-        QTest::addColumn<QByteArray>("encoding");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("readBack");
-        const QString text = S("Größe ≥ 5 µm");
-        QTest::newRow("UTF-8") << QByteArray("UTF-8") << text.toUtf8() << text;
-        QTest::newRow("one byte, with a substitute")
-            << QByteArray("ISO-8859-1") << QByteArray("Gr\xf6\xdf\x65 ? 5 \xb5m") << S("Größe ? 5 µm");
-    }
-
     void messageIsKeptInTheLocalEncoding()
     {
-        QFETCH(QByteArray, encoding);
-        QTextCodec* const former = QTextCodec::codecForLocale();
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName(encoding));
-        const auto restore = qScopeGuard([former] { QTextCodec::setCodecForLocale(former); });
         const QString message = S("Größe ≥ 5 µm");
-        const kdException exception(message);
-        QTEST(QByteArray(exception.what()), "bytes");
-        QTEST(exception.getErrorMessage(), "readBack");
-        QTEST(QByteArray(cError(message).what()), "bytes");
-        QTEST(cError(message).message(), "readBack");
-        QTEST(QByteArray(coIOException(message).what()), "bytes");
+        QTextCodec* const former = QTextCodec::codecForLocale();
+        const auto restore = qScopeGuard([former] { QTextCodec::setCodecForLocale(former); });
+        for (const auto& [encoding, bytes, readBack] :
+             {std::make_tuple("UTF-8", message.toUtf8(), message),
+              std::make_tuple("ISO-8859-1", QByteArray("Gr\xf6\xdf\x65 ? 5 \xb5m"), S("Größe ? 5 µm"))}) {
+            QTextCodec::setCodecForLocale(QTextCodec::codecForName(encoding));
+            QCOMPARE(QByteArray(kdException(message).what()), bytes);
+            QCOMPARE(kdException(message).getErrorMessage(), readBack);
+            QCOMPARE(QByteArray(cError(message).what()), bytes);
+            QCOMPARE(cError(message).message(), readBack);
+            QCOMPARE(QByteArray(coIOException(message).what()), bytes);
+        }
     }
 
     void markupIsForTheMessageBoxOnly()
@@ -87,6 +88,20 @@ private Q_SLOTS:
             QCOMPARE(caught.message(), S("E < 0"));
             QCOMPARE(dynamic_cast<const maValueError&>(caught).value(), -7);
         }
+    }
+
+    void collectedMessages()
+    {
+        Collector collector;
+        QCOMPARE(collector.getErrorString(S(", ")), QString());
+        for (const QString& message : {QString(), S("A"), S("A")}) // an empty one counts
+            collector.addErrorMessage(message);
+        Collector copy;
+        copy = collector;
+        collector.clearErrorMessages();
+        QVERIFY(!collector.hasErrors());
+        QCOMPARE(copy.getErrorString(S(", ")), S(", A, A"));
+        QCOMPARE(copy.errorCount(), 3);
     }
 };
 

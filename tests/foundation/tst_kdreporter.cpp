@@ -7,8 +7,6 @@
 
 #include <QProcess>
 
-#define S(text) QStringLiteral(text)
-
 namespace {
 
 qint64 fakeTime = 0;
@@ -20,30 +18,34 @@ public:
 };
 
 /// Writes every signal of a reporter down, in a list that outlives it.
-void record(kdReporter& reporter, QStringList& events, const QString& prefix = QString())
+void record(kdReporter& reporter, QStringList& events)
 {
-    const auto add = [&events, prefix](const QString& event) { events.append(prefix + event); };
-    QObject::connect(&reporter, &kdReporter::signalErrorMessage,
-                     [add](const QString& t) { add(S("error ") + t); });
-    QObject::connect(&reporter, &kdReporter::signalMessage,
-                     [add](const QString& t, int level) { add(S("message %1 ").arg(level) + t); });
-    QObject::connect(&reporter, &kdReporter::signalStartOperation,
-                     [add](const QString& t) { add(S("start ") + t); });
+    const auto note = [&events](const QString& what) {
+        return [&events, what](const QString& text) { events.append(what + text); };
+    };
+    const auto noteLevel = [&events](const QString& text, int level) {
+        events.append(S("message %1 ").arg(level) + text);
+    };
+    QObject::connect(&reporter, &kdReporter::signalErrorMessage, note(S("error ")));
+    QObject::connect(&reporter, &kdReporter::signalMessage, noteLevel);
+    QObject::connect(&reporter, &kdReporter::signalStartOperation, note(S("start ")));
     QObject::connect(&reporter, &kdReporter::signalProgress,
-                     [add](double f) { add(S("progress ") + QString::number(f)); });
-    QObject::connect(&reporter, &kdReporter::signalFinishOperation,
-                     [add](const QString& t) { add(S("finish ") + t); });
+                     [add = note(S("progress "))](double f) { add(QString::number(f)); });
+    QObject::connect(&reporter, &kdReporter::signalFinishOperation, note(S("finish ")));
 }
 
-/// What a reporter emits for a script: "+200" lets time pass, "s:text" starts, "p:0.3" makes progress,
-/// "f:text" finishes, "e:text" and "m:text" are messages.
+/// What two reporters, who share the throttle, emit for a script: "+200" lets time pass, "s:text" starts,
+/// "p:0.3" makes progress, "f:text" finishes, "e:text" and "m:text" are messages.
 QString seenOf(const char* script)
 {
     kdReporterThrottle::instance() = kdReporterThrottle();
-    kdReporter reporter;
-    const Producer producer(reporter);
+    kdReporter first;
+    kdReporter second;
+    Producer producer(first);
+    producer.startReportingTo(second);
     QStringList seen;
-    record(reporter, seen);
+    record(first, seen);
+    record(second, seen);
     const QStringList steps = QString::fromLatin1(script).split(QLatin1Char(','));
     for (const QString& step : steps) {
         const QString value = step.mid(2);
@@ -111,7 +113,7 @@ private Q_SLOTS:
 
     void throttle()
     {
-        QCOMPARE(seenOf("s:a,+5000,s:b,f:c"), S("start a,finish c"));
+        QCOMPARE(seenOf("s:a,+5000,s:b,f:c"), S("start a,finish c,finish c"));
         // a signal starts the interval anew
         QCOMPARE(seenOf("s:a,+1000,p:0.3,+999,p:0.4,+1,p:0.5"), S("start a,progress 0.3,progress 0.5"));
         // a dropped call does not
@@ -119,25 +121,12 @@ private Q_SLOTS:
         QCOMPARE(seenOf("s:a,p:1,p:1"), S("start a,progress 1"));
         QCOMPARE(seenOf("p:1"), S(""));
         QCOMPARE(seenOf("s:a,p:1,+1000,p:0.4,p:1"), S("start a,progress 1,start a,progress 0.4,progress 1"));
-        QCOMPARE(seenOf("s:a,f:b,+1000,p:0.4"), S("start a,finish b,start a,progress 0.4"));
+        QCOMPARE(seenOf("s:a,f:b,+1000,p:0.4"), S("start a,finish b,finish b,start a,progress 0.4"));
         // finish starts the interval anew
-        QCOMPARE(seenOf("s:a,+900,f:b,+999,p:0.4"), S("start a,finish b"));
-        QCOMPARE(seenOf("s:a,+600,m:x,e:y,+400,p:0.5"), S("start a,message 2 x,error y,progress 0.5"));
+        QCOMPARE(seenOf("s:a,+900,f:b,+999,p:0.4"), S("start a,finish b,finish b"));
+        QCOMPARE(seenOf("s:a,+600,m:x,e:y,+400,p:0.5"),
+                 S("start a,message 2 x,message 2 x,error y,error y,progress 0.5"));
         QCOMPARE(seenOf("s:a,+5000,p:nan,p:0.1"), S("start a,progress 0.1"));
-    }
-
-    void throttleIsShared()
-    {
-        kdReporter first;
-        kdReporter second;
-        Producer producer(first);
-        producer.startReportingTo(second);
-        QStringList seen;
-        record(first, seen, S("1 "));
-        record(second, seen, S("2 "));
-        producer.startOperation(S("a"));
-        producer.errorMessage(S("b"));
-        QCOMPARE(seen, QStringList({S("1 start a"), S("1 error b"), S("2 error b")}));
     }
 
     void receiversKeepTheirOrderAndOccurOnce()
@@ -151,8 +140,6 @@ private Q_SLOTS:
         Producer second(c);
         second.startReportingTo(b);
         second.startReportingTo(first);
-        QCOMPARE(second.messageReceivers(), QList<kdReporter*>({&c, &b, &a}));
-
         second.startReportingTo(second);
         QCOMPARE(second.messageReceivers(), QList<kdReporter*>({&c, &b, &a}));
 
@@ -208,12 +195,12 @@ private Q_SLOTS:
     void streamReporterPrints()
     {
         QProcess process;
-        process.start(QCoreApplication::applicationDirPath() + S("/reporthelper"), {S("1")});
+        process.start(QCoreApplication::applicationDirPath() + S("/loghelper"), {S("report")});
         QVERIFY(process.waitForFinished(60000));
         QCOMPARE(kdqWithPlainLineEnds(process.readAllStandardOutput()),
                  QString::fromUtf8("Start: Erwärmen\nStart: again\n").toLocal8Bit()
-                     + "Progress: 0.5 %\n\nProgress: 0.125 %\n\nProgress: 0.333333 %\n\nProgress: 1 "
-                       "%\n\nProgress: 1e-07 %\n\nlevel 0\nlevel 1\nFinished: done\n");
+                     + "Progress: 0.5 %\n\nProgress: 0.333333 %\n\nProgress: 1 %\n\nProgress: 1e-07 %\n\n"
+                       "level 0\nlevel 1\nFinished: done\n");
         QCOMPARE(kdqWithPlainLineEnds(process.readAllStandardError()),
                  QString::fromUtf8("Error: zu heiß\n").toLocal8Bit());
     }

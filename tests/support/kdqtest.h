@@ -2,6 +2,7 @@
 
 #include <QtTest>
 
+#include <functional>
 #include <thread>
 #include <vector>
 
