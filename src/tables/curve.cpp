@@ -2,6 +2,7 @@
 
 #include "interpolation.h"
 #include "kddatatable.h"
+#include "longwork.h"
 #include "tableunits.h"
 
 #include <algorithm>
@@ -57,7 +58,9 @@ void Curve::putInOrder()
     // Turned before it is sorted, so that the steps of a falling curve keep their order.
     if (!rows.empty() && m_x.at(rows.front()) > m_x.at(rows.back()))
         std::reverse(rows.begin(), rows.end());
-    std::stable_sort(rows.begin(), rows.end(), [this](int a, int b) { return m_x.at(a) < m_x.at(b); });
+    const auto before = [this](int a, int b) { return m_x.at(a) < m_x.at(b); };
+    if (!std::is_sorted(rows.begin(), rows.end(), before))
+        std::stable_sort(rows.begin(), rows.end(), before);
     m_x = picked(m_x, rows);
     for (QVector<double>& values : m_y)
         values = picked(values, rows);
@@ -70,11 +73,11 @@ double Curve::valueAt(int curve, double x) const
     return interpolation::lookUp(nodes, x, false);
 }
 
-QVector<double> commonNodes(const QVector<double>& first, const QVector<double>& second)
+QVector<double> commonNodes(const QVector<double>& first, const QVector<double>& second, LongWork& work)
 {
     QVector<double> result = first;
-    for (double x : second)
-        result.append(snapped(first, x));
+    for (auto x = second.cbegin(); x != second.cend() && work.step(); ++x)
+        result.append(snapped(first, *x));
     std::inplace_merge(result.begin(), result.begin() + first.size(), result.end());
     result.erase(std::unique(result.begin(), result.end()), result.end());
     return result;

@@ -7,6 +7,7 @@
 #include <vector>
 
 class kdDataTable;
+class LongWork;
 
 /// The curves of a table made ready for combination: X ascending and without NaN, in given units.
 class Curve {
@@ -28,8 +29,8 @@ private:
 };
 
 /// All X of both, ascending, each once. Where two differ by the rounding of a conversion only, that of \a
-/// first stands for both.
-QVector<double> commonNodes(const QVector<double>& first, const QVector<double>& second);
+/// first stands for both. Incomplete where \a work was stopped.
+QVector<double> commonNodes(const QVector<double>& first, const QVector<double>& second, LongWork& work);
 
 /// The overlap of both, ends likewise; false where they do not meet.
 bool commonRange(const QVector<double>& first, const QVector<double>& second, double& low, double& high);

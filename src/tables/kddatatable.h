@@ -14,6 +14,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -57,6 +58,13 @@ public:
         HoldEndValues = 0, ///< the Y value of the nearer end
         ZeroOutside = 1    ///< 0; the ends themselves still belong to the range
     };
+
+    /// Two curves made into one.
+    enum Combination { Sum, Difference, Average };
+
+    /// Asked now and then by what takes long, with the part that is done, 0 to 1; false ends it. May be
+    /// empty.
+    using GoOn = std::function<bool(double done)>;
 
     using UvPoint = QPair<kdUnitValue, kdUnitValue>; ///< X and Y of a point with their units
 
@@ -287,6 +295,8 @@ public:
     /// false.
     void sortForXValues(bool descending = false);
     void sortForYValues(bool descending = false);
+    /// As sortForXValues(), for long tables: false, and nothing changed, where \a goOn said no.
+    bool sortForXValues(bool descending, const GoOn& goOn);
     void scaleXData(double factor);
     /// Scales every column but the first.
     void scaleYData(double factor);
@@ -312,6 +322,10 @@ public:
     /// The part of this curve within the range of X of the other, with interpolated points at the cuts. False
     /// where X neither rises nor falls or the ranges do not meet. \a result may be either of the two.
     bool getCutByOtherTable(const kdDataTable& other, kdDataTable& result) const;
+    /// As sumXY(), subtractXY() and average(), for long tables: false, too, where \a goOn said no. \a result
+    /// may be either of the two.
+    bool combine(Combination combination, const kdDataTable& other, kdDataTable& result,
+                 const GoOn& goOn) const;
     /// Replaces X by the given values, in their order, and every Y by its lookup there, with the end values
     /// outside; NaN among them is left out. False where X neither rises nor falls or nothing is given.
     bool applySamplingPoints(const kdDataColumn& samplingPoints);
@@ -424,10 +438,9 @@ private:
     int indexOf(const kdDataColumn* column) const;
     void copyAttributes(const kdDataTable& other);
     void replaceColumns(std::vector<ColumnPointer> columns);
-    void sortPoints(bool byX, bool descending);
+    bool sortPoints(bool byX, bool descending, const GoOn& goOn = GoOn());
     void keepRows(const QVector<int>& rows);
     bool inColumnUnits(const UvPoint& point, QPointF& converted) const;
-    bool combineYColumns(const kdDataTable& other, double (*operation)(double, double));
 
     std::vector<ColumnPointer> m_columns;
     QString m_name;

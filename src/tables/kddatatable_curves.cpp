@@ -1,5 +1,6 @@
 #include "curve.h"
 #include "kddatatable.h"
+#include "longwork.h"
 #include "tableunits.h"
 
 #include <algorithm>
@@ -69,20 +70,27 @@ struct CurvePair {
             && (theirs.curves() == 1 || theirs.curves() == mine.curves());
     }
 
-    std::vector<QVector<double>> combined(const QVector<double>& nodes,
-                                          double (*operation)(double, double)) const
+    std::vector<QVector<double>> combined(const QVector<double>& nodes, double (*operation)(double, double),
+                                          LongWork& work) const
     {
         std::vector<QVector<double>> columns{nodes};
         for (int i = 0; i < mine.curves(); ++i) {
             QVector<double> values;
             values.reserve(nodes.size());
-            for (double x : nodes)
-                values.append(operation(mine.valueAt(i, x), theirValue(i, x)));
+            for (auto x = nodes.cbegin(); x != nodes.cend() && work.step(); ++x)
+                values.append(operation(mine.valueAt(i, *x), theirValue(i, *x)));
             columns.push_back(values);
         }
         return columns;
     }
 };
+
+double (*operationOf(kdDataTable::Combination combination))(double, double)
+{
+    if (combination == kdDataTable::Average)
+        return mean;
+    return combination == kdDataTable::Sum ? sum : difference;
+}
 
 } // namespace
 
@@ -99,39 +107,43 @@ bool kdDataTable::canSumOrSubtract() const
     return true;
 }
 
-bool kdDataTable::combineYColumns(const kdDataTable& other, double (*operation)(double, double))
+bool kdDataTable::combine(Combination combination, const kdDataTable& other, kdDataTable& result,
+                          const GoOn& goOn) const
 {
     CurvePair pair;
-    if (!pair.load(*this, other))
+    double low = 0.0;
+    double high = 0.0;
+    if (!pair.load(*this, other)
+        || (combination == Average && !commonRange(pair.mine.x(), pair.theirs.x(), low, high)))
         return false;
-    const bool falling = falls(*this) || (rows() < 2 && falls(other));
-    store(*this, pair.combined(commonNodes(pair.mine.x(), pair.theirs.x()), operation), falling);
+    // The nodes are looked for once in the other curve, then evaluated in both.
+    const double mostNodes = double(pair.mine.x().size()) + pair.theirs.x().size();
+    LongWork work(goOn, pair.theirs.x().size() + mostNodes * pair.mine.curves());
+    QVector<double> nodes = commonNodes(pair.mine.x(), pair.theirs.x(), work);
+    if (combination == Average)
+        keepRange(nodes, low, high);
+    const std::vector<QVector<double>> columns = pair.combined(nodes, operationOf(combination), work);
+    if (work.isStopped())
+        return false;
+    kdDataTable combined(*this);
+    store(combined, columns, falls(*this) || (combination != Average && rows() < 2 && falls(other)));
+    result = std::move(combined);
     return true;
 }
 
 bool kdDataTable::sumXY(const kdDataTable& table)
 {
-    return combineYColumns(table, sum);
+    return combine(Sum, table, *this, GoOn());
 }
 
 bool kdDataTable::subtractXY(const kdDataTable& table)
 {
-    return combineYColumns(table, difference);
+    return combine(Difference, table, *this, GoOn());
 }
 
 bool kdDataTable::average(const kdDataTable& other, kdDataTable& result) const
 {
-    CurvePair pair;
-    double low = 0.0;
-    double high = 0.0;
-    if (!pair.load(*this, other) || !commonRange(pair.mine.x(), pair.theirs.x(), low, high))
-        return false;
-    QVector<double> nodes = commonNodes(pair.mine.x(), pair.theirs.x());
-    keepRange(nodes, low, high);
-    kdDataTable averaged(*this);
-    store(averaged, pair.combined(nodes, mean), falls(*this));
-    result = std::move(averaged);
-    return true;
+    return combine(Average, other, result, GoOn());
 }
 
 bool kdDataTable::getCutByOtherTable(const kdDataTable& other, kdDataTable& result) const

@@ -1,4 +1,5 @@
 #include "kddatatable.h"
+#include "longwork.h"
 #include "tableunits.h"
 
 #include <algorithm>
@@ -9,6 +10,27 @@ namespace {
 // Rounding that a conversion of units may leave, relative to the number.
 constexpr double conversionRounding = 1e-12;
 
+/// Stable, in short steps: blocks are sorted, then merged until one is left.
+template <typename Before>
+bool sort(QVector<QPointF>& points, Before before, const kdDataTable::GoOn& goOn)
+{
+    constexpr int block = 1 << 16;
+    const int size = points.size();
+    const auto at = [&points](qint64 index) {
+        return points.begin() + int(qMin<qint64>(index, points.size()));
+    };
+    int rounds = 1;
+    for (qint64 width = block; width < size; width *= 2)
+        ++rounds;
+    LongWork work(goOn, double(size) * rounds);
+    for (qint64 first = 0; first < size && work.step(block); first += block)
+        std::stable_sort(at(first), at(first + block), before);
+    for (qint64 width = block; width < size; width *= 2)
+        for (qint64 first = 0; first < size && work.step(2 * width); first += 2 * width)
+            std::inplace_merge(at(first), at(first + width), at(first + 2 * width), before);
+    return !work.isStopped();
+}
+
 } // namespace
 
 bool kdDataTable::canSortXYData() const
@@ -16,10 +38,10 @@ bool kdDataTable::canSortXYData() const
     return isXYDataTable() && rows() > 0;
 }
 
-void kdDataTable::sortPoints(bool byX, bool descending)
+bool kdDataTable::sortPoints(bool byX, bool descending, const GoOn& goOn)
 {
     if (!canSortXYData())
-        return;
+        return true;
     const auto key = [byX](const QPointF& point) { return byX ? point.x() : point.y(); };
     const auto before = [key, descending](const QPointF& first, const QPointF& second) {
         const double a = key(first);
@@ -27,13 +49,20 @@ void kdDataTable::sortPoints(bool byX, bool descending)
         return !std::isnan(a) && (std::isnan(b) || (descending ? a > b : a < b));
     };
     QVector<QPointF> sorted = points();
-    std::stable_sort(sorted.begin(), sorted.end(), before);
+    if (!sort(sorted, before, goOn))
+        return false;
     setPoints(sorted);
+    return true;
 }
 
 void kdDataTable::sortForXValues(bool descending)
 {
     sortPoints(true, descending);
+}
+
+bool kdDataTable::sortForXValues(bool descending, const GoOn& goOn)
+{
+    return sortPoints(true, descending, goOn);
 }
 
 void kdDataTable::sortForYValues(bool descending)

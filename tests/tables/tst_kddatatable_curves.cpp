@@ -330,6 +330,40 @@ private Q_SLOTS:
         QVERIFY(!curve({{0, 1}, {1, 1}}).adjustYValuesToNewMinMax(kdUnitSystem(), 0, 1));
     }
 
+    // Long enough for several blocks; equal X show whether the order of their points stays.
+    void longTables()
+    {
+        std::mt19937 random(20);
+        Points points(300000);
+        for (int i = 0; i < points.size(); ++i)
+            points[i] = {double(random() % 1000), double(i)};
+        const kdDataTable before = curve(points);
+        kdDataTable table(before);
+        double done = 0.0;
+        const auto goOn = [&done](double now) {
+            const bool isOn = now >= done && now <= 1.0;
+            done = now;
+            return isOn;
+        };
+        QVERIFY(table.sortForXValues(false, goOn) && done > 0.5);
+        std::stable_sort(points.begin(), points.end(),
+                         [](const QPointF& a, const QPointF& b) { return a.x() < b.x(); });
+        QCOMPARE(table.points(), points);
+        for (int i = 0; i < points.size(); ++i)
+            points[i].setX(i);
+        const kdDataTable rising = curve(points);
+        kdDataTable sum;
+        done = 0.0;
+        QVERIFY(rising.combine(kdDataTable::Sum, rising, sum, goOn) && done > 0.5);
+        QCOMPARE(sum.points().last(), QPointF(299999, 2 * points.last().y()));
+
+        const auto stop = [](double now) { return now < 0.5; };
+        table = before;
+        QVERIFY(!table.sortForXValues(true, stop) && table == before);
+        for (const auto way : {kdDataTable::Sum, kdDataTable::Difference, kdDataTable::Average})
+            QVERIFY(!rising.combine(way, rising, table, stop) && table == before);
+    }
+
     void forthStroke()
     {
         const auto section = [](const Values& stroke) {
