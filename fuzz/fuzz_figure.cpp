@@ -21,8 +21,6 @@ void checkPiece(const QVector<QPointF>& piece)
     require(!piece.isEmpty());
     for (const QPointF& point : piece)
         require(std::isfinite(point.x()) && std::isfinite(point.y()));
-    const QVector<QPointF> thinned = Figure::thinned(piece, piece.first().x(), piece.last().x(), 2);
-    require(thinned.first() == piece.first() && thinned.last() == piece.last());
 }
 
 } // namespace
@@ -47,8 +45,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(again.toJson() == figure.toJson());
     if (!figure.fault().isEmpty())
         return 0;
-    for (const Figure::Curve& curve : qAsConst(figure.curves))
-        for (const QVector<QPointF>& piece : figure.pieces(curve))
+    const Figure thinned = figure.thinned(2);
+    for (int i = 0; i < figure.curves.size(); ++i) {
+        const QVector<QVector<QPointF>> pieces = figure.pieces(figure.curves.at(i));
+        const QVector<QVector<QPointF>> thinnedPieces = thinned.pieces(thinned.curves.at(i));
+        for (const QVector<QPointF>& piece : pieces)
             checkPiece(piece);
+        require(thinnedPieces.size() == pieces.size());
+        for (int j = 0; j < pieces.size(); ++j)
+            require(thinnedPieces.at(j).first() == pieces.at(j).first()
+                    && thinnedPieces.at(j).last() == pieces.at(j).last());
+    }
     return 0;
 }

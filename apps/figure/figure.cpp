@@ -125,22 +125,46 @@ QVector<QVector<QPointF>> Figure::clipped(const QVector<QVector<QPointF>>& piece
     return result;
 }
 
-QVector<QPointF> Figure::thinned(const QVector<QPointF>& points, double from, double to, int columns)
+Figure Figure::thinned(int columns) const
 {
-    if (points.size() <= 4 * columns || !(from < to))
-        return points;
-    QVector<QPointF> result;
-    Run run;
-    double column = 0.0;
-    for (int i = 0; i < points.size(); ++i) {
-        const double itsColumn = std::floor((points.at(i).x() - from) / (to - from) * columns);
-        if (itsColumn != column)
-            run.moveTo(result, points);
-        column = itsColumn;
-        run.add(points.at(i), i);
+    QVector<QVector<QVector<QPointF>>> allPieces;
+    QPointF ends(std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest());
+    for (const Curve& curve : curves) {
+        allPieces.append(pieces(curve));
+        for (const QVector<QPointF>& piece : qAsConst(allPieces.last()))
+            for (const QPointF& point : piece)
+                ends = {std::min(ends.x(), point.x()), std::max(ends.y(), point.x())};
     }
-    run.moveTo(result, points);
+    Figure result = *this;
+    for (int i = 0; i < curves.size(); ++i)
+        if (curves.at(i).form != Curve::Points && curves.at(i).points.size() > 4 * columns)
+            thin(result.curves[i], allPieces.at(i), ends, columns);
     return result;
+}
+
+void Figure::thin(Curve& curve, const QVector<QVector<QPointF>>& pieces, const QPointF& ends,
+                  int columns) const
+{
+    const AxisScale scale{x.isLogarithmic};
+    const double from = scale.to(ends.x());
+    const double width = (scale.to(ends.y()) - from) / columns;
+    curve.points.clear();
+    curve.form = Curve::Lines;
+    for (const QVector<QPointF>& piece : pieces) {
+        if (!curve.points.isEmpty())
+            curve.points.append({unset, unset});
+        Run run;
+        double column = 0.0;
+        for (int i = 0; i < piece.size(); ++i) {
+            const double itsColumn =
+                width > 0.0 ? std::floor((scale.to(piece.at(i).x()) - from) / width) : 0.0;
+            if (itsColumn != column)
+                run.moveTo(curve.points, piece);
+            column = itsColumn;
+            run.add(piece.at(i), i);
+        }
+        run.moveTo(curve.points, piece);
+    }
 }
 
 QString Figure::fault() const

@@ -28,7 +28,8 @@ public:
     static constexpr int mostCurves = 100;
     static constexpr int mostPieces = 1000;        ///< of all curves together
     static constexpr int mostSinglePoints = 10000; ///< of a curve drawn as points
-    static constexpr double largest = 1e300;       ///< beyond it, differences of values could overflow
+    static constexpr int mostColumns = 4000; ///< more than a picture has pixels, few enough to draw at once
+    static constexpr double largest = 1e300; ///< beyond it, differences of values could overflow
 
     struct Axis {
         QString title;
@@ -75,9 +76,10 @@ public:
     /// are cut off where an axis ends by its from and to, as not every format of pictures does that itself.
     QVector<QVector<QPointF>> pieces(const Curve& curve) const;
 
-    /// The points without those that make no difference to the eye: of neighbours that fall into the same of
-    /// \a columns between \a from and \a to, the first, lowest, highest and last stay.
-    static QVector<QPointF> thinned(const QVector<QPointF>& points, double from, double to, int columns);
+    /// The same picture of fewer points, where curves of lines or steps have more than it can show: of
+    /// neighbours that fall into the same of \a columns, the first, lowest, highest and last stay. Thinned
+    /// steps become lines with corners.
+    Figure thinned(int columns = mostColumns) const;
 
     /// Compact, with all digits of the numbers, in UTF-8.
     QByteArray toJson() const;
@@ -89,6 +91,7 @@ public:
 private:
     QString faultOfAxis(const Axis& axis) const;
     QString faultOfCurve(const Curve& curve, int& pieceCount) const;
+    void thin(Curve& curve, const QVector<QVector<QPointF>>& pieces, const QPointF& ends, int columns) const;
     bool isDrawable(const QPointF& point, const Axis& yAxis) const;
     QVector<QVector<QPointF>> clipped(const QVector<QVector<QPointF>>& pieces, Curve::Form form,
                                       const Axis& yAxis) const;

@@ -19,8 +19,6 @@ using namespace QtCharts;
 
 namespace {
 
-constexpr int columns = 4000; // more than a picture has pixels, few enough to draw at once
-
 // The palette of Okabe and Ito, in an order in which neighbours also differ in lightness.
 constexpr QRgb colours[] = {0xff0072b2, 0xffd55e00, 0xff009e73, 0xff000000,
                             0xffcc79a7, 0xff56b4e9, 0xffe69f00, 0xff7f7f7f};
@@ -62,7 +60,7 @@ struct Extent {
 
 class ChartMaker {
 public:
-    explicit ChartMaker(const Figure& figure) : m_figure(figure), m_chart(new QChart)
+    explicit ChartMaker(const Figure& figure) : m_figure(figure.thinned()), m_chart(new QChart)
     {
         m_chart->setTheme(QChart::ChartThemeLight);
         m_chart->setAnimationOptions(QChart::NoAnimation);
@@ -225,14 +223,12 @@ private:
     void addCurve(int index)
     {
         const Figure::Curve& curve = m_figure.curves.at(index);
-        const double from = m_pieces.isEmpty() ? 0.0 : extentOfX().lowest;
-        const double to = extentOfX().highest;
         bool isFirst = true;
         for (const QVector<QPointF>& piece : qAsConst(m_pieces.at(index))) {
             const bool isLine = curve.form != Figure::Curve::Points && piece.size() > 1;
             QXYSeries* const series = isLine ? lineSeries(index) : pointSeries(index);
             series->setName(shown(curve.name));
-            series->replace(isLine ? Figure::thinned(piece, from, to, columns) : piece);
+            series->replace(piece);
             m_chart->addSeries(series);
             series->attachAxis(m_chart->axes(Qt::Horizontal).constFirst());
             series->attachAxis(m_chart->axes(Qt::Vertical).at(curve.axis));
@@ -269,7 +265,7 @@ private:
         legend.setLabelColor(QColor::fromRgba(textColour));
     }
 
-    const Figure& m_figure;
+    const Figure m_figure;
     std::unique_ptr<QChart> m_chart;
     QVector<Pieces> m_pieces;
 };

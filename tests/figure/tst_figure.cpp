@@ -24,6 +24,7 @@ private Q_SLOTS:
     void processErrors();
     void piecesOfACurve();
     void curvesAreCutAtTheEndsOfTheAxes();
+    void thinnedCurveKeepsItsExtremes_data();
     void thinnedCurveKeepsItsExtremes();
 };
 
@@ -295,22 +296,40 @@ void TestFigure::curvesAreCutAtTheEndsOfTheAxes()
     QVERIFY(figure.pieces(curve).isEmpty() && figure.fault().contains(S("nothing to draw")));
 }
 
+void TestFigure::thinnedCurveKeepsItsExtremes_data()
+{
+    QTest::addColumn<bool>("isLogarithmic");
+    QTest::newRow("linear") << false;
+    QTest::newRow("logarithmic") << true;
+}
+
 void TestFigure::thinnedCurveKeepsItsExtremes()
 {
+    QFETCH(bool, isLogarithmic);
     constexpr int count = 100000;
     constexpr int columns = 500;
-    QVector<QPointF> points;
+    Figure figure;
+    figure.x.isLogarithmic = isLogarithmic;
+    figure.y = {Figure::Axis()};
+    figure.curves.append(Figure::Curve());
+    QVector<QPointF>& points = figure.curves[0].points;
     for (int i = 0; i < count; ++i)
-        points.append({double(i), std::sin(i * 0.01)});
+        points.append({isLogarithmic ? std::pow(10.0, 1e-4 * i) : i, std::sin(i * 0.01)});
     points[31234].setY(5.0);
+    points[50000].setY(Figure::unset);
     points[77777].setY(-5.0);
-    const QVector<QPointF> thinned = Figure::thinned(points, 0.0, count - 1.0, columns);
-    QVERIFY(thinned.size() <= 4 * (columns + 1));
-    QVERIFY(thinned.contains({31234.0, 5.0}) && thinned.contains({77777.0, -5.0}));
-    QCOMPARE(thinned.first(), points.first());
-    QCOMPARE(thinned.last(), points.last());
-    QVERIFY(std::is_sorted(thinned.begin(), thinned.end(),
+    const QVector<QVector<QPointF>> thinned = figure.pieces(figure.thinned(columns).curves.first());
+    QCOMPARE(thinned.size(), 2);
+    for (const QVector<QPointF>& piece : thinned)
+        QVERIFY(piece.size() > columns && piece.size() <= 2 * (columns + 1));
+    QVERIFY(thinned.first().contains(points.at(31234)) && thinned.last().contains(points.at(77777)));
+    QCOMPARE(thinned.first().first(), points.first());
+    QCOMPARE(thinned.first().last(), points.at(49999));
+    QCOMPARE(thinned.last().last(), points.last());
+    QVERIFY(std::is_sorted(thinned.first().begin(), thinned.first().end(),
                            [](const QPointF& a, const QPointF& b) { return a.x() < b.x(); }));
+    points.resize(4 * columns);
+    QCOMPARE(figure.thinned(columns).curves.first().points, points);
 }
 
 KDQ_TEST_MAIN(TestFigure)
