@@ -356,6 +356,10 @@
         <source>Changing &apos;%1&apos;</source>
         <translation>„%1“ wird geändert</translation>
     </message>
+    <message>
+        <source>Writing to the deck</source>
+        <translation>Deck wird geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>DeckDocument</name>
@@ -760,6 +764,10 @@
     <message>
         <source>Makes a table of the temperature over the time of the whole process, and a picture as &apos;plot heat&apos; draws it.</source>
         <translation>Legt eine Tabelle der Temperatur über der Zeit des ganzen Prozesses an und ein Bild, wie „plot heat“ es zeichnet.</translation>
+    </message>
+    <message>
+        <source>Reading &apos;%1&apos;</source>
+        <translation>„%1“ wird gelesen</translation>
     </message>
 </context>
 <context>
@@ -1264,6 +1272,10 @@
         <source>&apos;%1&apos; is no kind of name; possible are display and internal.</source>
         <translation>„%1“ ist keine Art von Namen; möglich sind display und internal.</translation>
     </message>
+    <message>
+        <source>Numbering &apos;%1&apos;</source>
+        <translation>„%1“ wird nummeriert</translation>
+    </message>
 </context>
 <context>
     <name>OpenCommand</name>
@@ -1488,6 +1500,10 @@
         <source>&apos;names&apos; gives %1 names to %2 curves.</source>
         <translation>„names“ gibt %2 Kurven %1 Namen.</translation>
     </message>
+    <message>
+        <source>Evaluating the formulas</source>
+        <translation>Formeln werden ausgewertet</translation>
+    </message>
 </context>
 <context>
     <name>PlotProgram</name>
@@ -1506,6 +1522,14 @@
     <message>
         <source>&apos;%1&apos; ended before the picture was drawn. %2</source>
         <translation>„%1“ endete, bevor das Bild gezeichnet war. %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read: %2</source>
+        <translation>„%1“ lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>Drawing &apos;%1&apos;</source>
+        <translation>„%1“ wird gezeichnet</translation>
     </message>
 </context>
 <context>
@@ -1698,6 +1722,10 @@
     <message>
         <source>Warning: %1</source>
         <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Showing rows: %1</source>
+        <translation>Zeilen werden gezeigt: %1</translation>
     </message>
 </context>
 <context>
@@ -2205,6 +2233,14 @@ alles gut ging, 1, wenn ein Befehl fehlschlug, 2, wenn diese Befehlszeile falsch
         <source>Table &apos;%1&apos; has no column &apos;%2&apos;; number of columns: %3.</source>
         <translation>Tabelle „%1“ hat keine Spalte „%2“; Anzahl der Spalten: %3.</translation>
     </message>
+    <message>
+        <source>Sorting table &apos;%1&apos;</source>
+        <translation>Tabelle „%1“ wird sortiert</translation>
+    </message>
+    <message>
+        <source>Combining &apos;%1&apos; and &apos;%2&apos;</source>
+        <translation>„%1“ und „%2“ werden verknüpft</translation>
+    </message>
 </context>
 <context>
     <name>TableDocument</name>
@@ -2308,6 +2344,10 @@ alles gut ging, 1, wenn ein Befehl fehlschlug, 2, wenn diese Befehlszeile falsch
     <message>
         <source>Asking %1</source>
         <translation>%1 wird gefragt</translation>
+    </message>
+    <message>
+        <source>No answer came within %1 s.</source>
+        <translation>Innerhalb von %1 s kam keine Antwort.</translation>
     </message>
 </context>
 <context>

@@ -110,6 +110,14 @@ bool DeckCommands::writeCard(const cFeAbstractDatCard& card)
     return writer().writeCard(card);
 }
 
+bool DeckCommands::writeCard(const ShellCall& call, const cFeAbstractDatCard& card, qint64 reals)
+{
+    const ShellOperation operation(call, tr("Writing to the deck"));
+    const ShellDeck::Watch watch(ShellSession::I().deck, call.goOnCondition(),
+                                 reals * writer().getMaxWidthForDouble());
+    return writeCard(card);
+}
+
 bool DeckCommands::sectionTable(ShellCall& call)
 {
     if (!call.is(0, "table"))
@@ -131,7 +139,7 @@ bool DeckCommands::table(ShellCall& call)
                            parameters.variable());
     if (!card.setTable(*table, table->xUnitSystem(), table->yUnitSystem()))
         return call.fail(card.errorText());
-    return writeCard(card);
+    return writeCard(call, card, qint64(table->rows()) * table->columns());
 }
 
 bool DeckCommands::grid(ShellCall& call)
@@ -159,7 +167,7 @@ bool DeckCommands::grid(ShellCall& call)
         return call.fail(card.errorText());
     if (isSingle)
         card.setDefaultReadMethodForMoreThan1IndependentVar(nMarc::ReadGridValueByValue);
-    return writeCard(card);
+    return writeCard(call, card, qint64(table->rows()) * table->columns());
 }
 
 bool DeckCommands::formula(ShellCall& call)

@@ -260,5 +260,8 @@ bool DeckCommands::column(ShellCall& call)
     if (index < 0)
         return false;
     const QVector<double>& values = table->columnRef(index).values();
+    const ShellOperation operation(call, tr("Writing to the deck"));
+    const ShellDeck::Watch watch(ShellSession::I().deck, call.goOnCondition(),
+                                 qint64(values.size()) * writer().getMaxWidthForDouble());
     return writer().writeDoubleValues(QList<double>(values.begin(), values.end()), perLine);
 }

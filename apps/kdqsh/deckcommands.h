@@ -56,4 +56,6 @@ private:
 
     static CFEDatLineWriter& writer();
     static bool writeCard(const cFeAbstractDatCard& card);
+    /// Of about so many numbers, which may be millions.
+    static bool writeCard(const ShellCall& call, const cFeAbstractDatCard& card, qint64 reals);
 };

@@ -10,6 +10,8 @@
 
 #include <QFile>
 
+#include <memory>
+
 QVector<ShellCommandEntry> DeckCommands::fileEntries()
 {
     using Entry = ShellCommandEntry;
@@ -78,11 +80,13 @@ public:
     bool isGood() const { return m_isGood; }
     QFile& file() { return m_file; }
     const coDeckLayout& layout() const { return m_layout; }
+    /// What follows is no reading of it.
+    void endReading() { m_operation.reset(); }
 
 private:
     DeckFile(const ShellCall& call, const QString& path)
         : m_file(path, call.reporter(), call.stopCondition()),
-          m_operation(call, DeckCommands::tr("Reading '%1'").arg(path))
+          m_operation(std::make_unique<ShellOperation>(call, DeckCommands::tr("Reading '%1'").arg(path)))
     {
     }
 
@@ -96,7 +100,7 @@ private:
     }
 
     ProgressFile m_file;
-    ShellOperation m_operation;
+    std::unique_ptr<ShellOperation> m_operation;
     coDeckLayout m_layout;
     bool m_isGood = false;
 };
@@ -175,6 +179,7 @@ bool DeckCommands::show(ShellCall& call)
     while (reader.next(option))
         if (option.kind != coDeckOption::Comments)
             rows.append({QString::number(option.firstLine), QString::number(option.lines), option.text()});
+    deck.endReading();
     call.showAligned(rows);
     call.tell(tr("Deck '%1': %2.").arg(call.text(0), deck.layout().text()));
     return endOf(call, reader);
@@ -214,7 +219,7 @@ bool DeckCommands::patch(ShellCall& call)
         return false;
     coDeckPatch patch =
         widths.isGiven() ? coDeckPatch(call.text(0), widths.given()) : coDeckPatch(call.text(0));
-    patch.setProgress([&call](double done) { return call.goOn(done); });
+    patch.setProgress(call.goOnCondition());
     const ShellOperation operation(call, tr("Changing '%1'").arg(call.text(0)));
     if (!patch.read())
         return call.fail(patch.errorText());

@@ -1,9 +1,8 @@
 #include "ipccommands.h"
 
 #include "ipcpeer.h"
+#include "shellevents.h"
 
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QTimer>
@@ -18,38 +17,6 @@ const QStringList& productWords()
                                    QStringLiteral("material"), QStringLiteral("additive")};
     return words;
 }
-
-enum Outcome { Done, Closed, TimedOut };
-
-/// Runs until something ends it, the time is over or the user stops it.
-class Session {
-public:
-    Session(const ShellCall& call, const QString& text, int seconds) : m_operation(call, text)
-    {
-        const double total = seconds * 1000.0;
-        m_elapsed.start();
-        QObject::connect(&m_timer, &QTimer::timeout, &m_loop, [this, &call, total] {
-            const double done = static_cast<double>(m_elapsed.elapsed()) / total;
-            if (!call.goOn(done) || done >= 1.0)
-                end(TimedOut);
-        });
-        m_timer.start(100);
-    }
-
-    Outcome run() { return static_cast<Outcome>(m_loop.exec()); }
-    /// The first outcome counts.
-    void end(Outcome outcome)
-    {
-        if (m_loop.isRunning())
-            m_loop.exit(outcome);
-    }
-
-private:
-    ShellOperation m_operation;
-    QEventLoop m_loop;
-    QTimer m_timer;
-    QElapsedTimer m_elapsed;
-};
 
 } // namespace
 
@@ -92,11 +59,11 @@ bool IpcCommands::listen(ShellCall& call)
         return call.fail(tr("'%1' cannot be opened: %2").arg(name, server.errorString()));
     call.show(tr("Process %1 listens as %2.").arg(QString::number(pid), call.text(0)));
 
-    Session session(call, tr("Waiting for greetings"), seconds);
+    ShellEvents events(call, tr("Waiting for greetings"), seconds * 1000);
     int taken = 0;
     const auto count = [&](const IpcPeer& peer) {
         if (peer.hasGreeted() && ++taken >= greetings)
-            session.end(Done);
+            events.end(ShellEvents::Done);
     };
     QObject::connect(&server, &QLocalServer::newConnection, &server, [&] {
         QLocalSocket* const socket = server.nextPendingConnection();
@@ -108,7 +75,7 @@ bool IpcCommands::listen(ShellCall& call)
             count(*peer);
         });
     });
-    return session.run() == Done
+    return events.run() == ShellEvents::Done
         || call.fail(tr("%1 of %2 greetings came within %3 s.")
                          .arg(QString::number(taken), QString::number(greetings), QString::number(seconds)));
 }
@@ -134,7 +101,7 @@ bool IpcCommands::greet(ShellCall& call)
         || !checkSeconds(call, seconds))
         return false;
 
-    Session session(call, tr("Waiting for an answer"), seconds);
+    ShellEvents events(call, tr("Waiting for an answer"), seconds * 1000);
     QLocalSocket socket;
     socket.connectToServer(coIpcController::socketName(product, pid));
     if (!socket.waitForConnected(seconds * 1000))
@@ -144,20 +111,21 @@ bool IpcCommands::greet(ShellCall& call)
     QObject::connect(&peer, &IpcPeer::signalGreetingReceived, &socket, [&] {
         call.show(tr("Greeting received: %1").arg(peer.clientName()));
         if (text.isEmpty())
-            session.end(Done);
+            events.end(ShellEvents::Done);
         else
             peer.say(text);
     });
-    QObject::connect(&peer, &IpcPeer::signalTextReceived, &socket, [&] { session.end(Done); });
-    QObject::connect(&socket, &QLocalSocket::disconnected, &socket, [&] { session.end(Closed); });
+    QObject::connect(&peer, &IpcPeer::signalTextReceived, &socket, [&] { events.end(ShellEvents::Done); });
+    QObject::connect(&socket, &QLocalSocket::disconnected, &socket, [&] { events.end(ShellEvents::Closed); });
     if (socket.state() != QLocalSocket::ConnectedState) // it went while it was being greeted
-        QTimer::singleShot(0, &socket, [&] { session.end(Closed); });
-    switch (session.run()) {
-    case Closed:
+        QTimer::singleShot(0, &socket, [&] { events.end(ShellEvents::Closed); });
+    switch (events.run()) {
+    case ShellEvents::Closed:
         return call.fail(tr("The other side closed the connection before it had answered."));
-    case TimedOut:
+    case ShellEvents::TimedOut:
         return call.fail(tr("No answer came within %1 s.").arg(seconds));
-    case Done:
+    case ShellEvents::Waiting:
+    case ShellEvents::Done:
         break;
     }
     return true;

@@ -71,7 +71,8 @@ bool NameCommands::number(ShellCall& call)
         return call.fail(tr("COUNT must be at least 1, not %1.").arg(count));
     coUniqueNameGenerator names;
     names.reserve(call.textsFrom(2));
-    for (int i = 0; i < count && !call.isStopped(); ++i)
+    const ShellOperation operation(call, tr("Numbering '%1'").arg(call.text(0)));
+    for (int i = 0; i < count && call.goOn(static_cast<double>(i) / count); ++i)
         call.show(names.next(call.text(0)));
     return true;
 }

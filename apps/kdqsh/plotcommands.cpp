@@ -1,7 +1,6 @@
 #include "plotcommands.h"
 
 #include "formulacommands.h"
-#include "formulafigure.h"
 #include "heatcommands.h"
 #include "heatfigure.h"
 #include "plotprogram.h"
@@ -95,11 +94,8 @@ int PlotCommands::fileIndex(const ShellCall& call)
 
 bool PlotCommands::draw(const ShellCall& call, const Options& options, Figure& figure)
 {
-    QString error;
-    if (!options.applyTo(call, figure))
+    if (!options.applyTo(call, figure) || !PlotProgram::draw(call, figure, options.file, options.size))
         return false;
-    if (!PlotProgram::draw(figure, options.file, options.size, error))
-        return call.fail(error);
     call.tell(tr("Picture '%1' drawn.").arg(options.file));
     return true;
 }
@@ -162,6 +158,27 @@ bool PlotCommands::stateUnit(const ShellCall& call, const QString& symbol, Figur
     return isKnown || call.fail(tr("'%1' is no unit.").arg(symbol));
 }
 
+bool PlotCommands::evaluate(const ShellCall& call, const QStringList& formulas,
+                            const nFormulaFigure::Range& range, Figure& figure)
+{
+    const ShellOperation operation(call, tr("Evaluating the formulas"));
+    for (int i = 0; i < formulas.size(); ++i) {
+        Figure single;
+        QString error;
+        coExpression formula;
+        if (!call.goOn(static_cast<double>(i) / formulas.size())
+            || !FormulaCommands::read(call, formulas.at(i), formula)
+            || !FormulaCommands::bind(call, {range.variable}, formula))
+            return false;
+        if (!nFormulaFigure::make(formula, range, single, error))
+            return call.fail(error);
+        single.curves.first().name = formulas.at(i);
+        single.curves = figure.curves + single.curves;
+        figure = single;
+    }
+    return true;
+}
+
 bool PlotCommands::formula(ShellCall& call)
 {
     Options options;
@@ -182,20 +199,9 @@ bool PlotCommands::formula(ShellCall& call)
     if (over == 0 || range.variable.isEmpty())
         return call.fail(tr("A formula and the variable that runs (over NAME) are needed."));
     Figure figure;
-    for (int i = 0; i < over; ++i) {
-        Figure single;
-        QString error;
-        coExpression formula;
-        if (!FormulaCommands::read(call, call.text(i), formula)
-            || !FormulaCommands::bind(call, {range.variable}, formula))
-            return false;
-        const nFormulaFigure::Range ends{range.variable, range.from, range.to, options.isXLogarithmic};
-        if (!nFormulaFigure::make(formula, ends, single, error))
-            return call.fail(error);
-        single.curves.first().name = call.text(i);
-        single.curves = figure.curves + single.curves;
-        figure = single;
-    }
+    const nFormulaFigure::Range ends{range.variable, range.from, range.to, options.isXLogarithmic};
+    if (!evaluate(call, call.textsFrom(0).mid(0, over), ends, figure))
+        return false;
     if (over == 1)
         figure.y.first().title = call.text(0);
     return stateUnit(call, options.xUnit, figure.x) && stateUnit(call, options.yUnits, figure.y.first())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figure.h"
+#include "formulafigure.h"
 #include "shellcommand.h"
 
 #include <QCoreApplication>
@@ -48,5 +48,7 @@ private:
     static bool drawProcess(const ShellCall& call, const QString& name, const Options& options);
     static bool readColumns(const ShellCall& call, const kdDataTable& table, const QString& words,
                             QVector<int>& columns);
+    static bool evaluate(const ShellCall& call, const QStringList& formulas,
+                         const nFormulaFigure::Range& range, Figure& figure);
     static bool stateUnit(const ShellCall& call, const QString& symbol, Figure::Axis& axis);
 };

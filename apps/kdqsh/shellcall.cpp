@@ -48,18 +48,27 @@ void ShellCall::show(const QString& text) const
     m_reporter.message(text, ShellConsole::Result);
 }
 
-void ShellCall::showAligned(QVector<QStringList> rows) const
+void ShellCall::showAligned(const QVector<QStringList>& rows) const
 {
-    for (int column = 0; column < rows.value(0).size(); ++column) {
-        int width = 0;
-        for (const QStringList& row : qAsConst(rows))
-            width = qMax(width, row.at(column).size());
-        for (QStringList& row : rows)
-            row[column] = row.at(column).rightJustified(width);
+    showAligned(rows.size(), [&rows](int row) { return rows.at(row); });
+}
+
+void ShellCall::showAligned(int rows, const std::function<QStringList(int)>& rowAt) const
+{
+    const ShellOperation operation(*this, tr("Showing rows: %1").arg(rows));
+    QVector<int> widths;
+    for (int row = 0; row < rows && goOn(0.5 * row / rows); ++row) {
+        const QStringList cells = rowAt(row);
+        widths.resize(cells.size());
+        for (int column = 0; column < cells.size(); ++column)
+            widths[column] = qMax(widths.at(column), cells.at(column).size());
     }
-    for (const QStringList& row : qAsConst(rows))
-        if (!isStopped())
-            show(row.join(QLatin1String("  ")));
+    for (int row = 0; row < rows && goOn(0.5 + 0.5 * row / rows); ++row) {
+        QStringList cells = rowAt(row);
+        for (int column = 0; column < cells.size(); ++column)
+            cells[column] = cells.at(column).rightJustified(widths.at(column));
+        show(cells.join(QLatin1String("  ")));
+    }
 }
 
 void ShellCall::tell(const QString& text) const

@@ -44,10 +44,17 @@ public:
     const std::function<bool()>& stopCondition() const { return m_isStopped; }
     /// Shows how much of the running operation is done, 0 to 1; false where the command shall stop.
     bool goOn(double fraction) const;
+    /// goOn() for what asks through a function; for as long as the call lives.
+    std::function<bool(double)> goOnCondition() const
+    {
+        return [this](double fraction) { return goOn(fraction); };
+    }
     /// What the user asked for.
     void show(const QString& text) const;
     /// Rows of a table, its columns right-aligned; every row has the cells of the first.
-    void showAligned(QVector<QStringList> rows) const;
+    void showAligned(const QVector<QStringList>& rows) const;
+    /// The same of rows that are made twice rather than kept, which may be millions.
+    void showAligned(int rows, const std::function<QStringList(int row)>& rowAt) const;
     /// What was done, left out in quiet runs.
     void tell(const QString& text) const;
     /// What was done although something seems wrong.

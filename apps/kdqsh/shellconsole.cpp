@@ -22,6 +22,7 @@ ShellConsole::ShellConsole()
 
 void ShellConsole::message(const QString& text, int level)
 {
+    m_hasResults = m_hasResults || level == Result;
     if (level <= m_maximalLevel)
         showMessage(text, level);
 }
@@ -68,6 +69,7 @@ void ShellConsole::startOperation(const QString& text)
     m_operation = text;
     m_operationTimer.start();
     m_toldTenths = -1;
+    m_hasResults = false;
 }
 
 void ShellConsole::showProgress(double fraction)
@@ -79,7 +81,7 @@ void ShellConsole::showProgress(double fraction)
     const QString percent = tr("%1 %").arg(static_cast<int>(done * 100.0), 3);
     if (m_hasTerminal) {
         showBar(done, percent);
-    } else if (tenths > m_toldTenths) { // a wait of hours must not fill a log
+    } else if (tenths > m_toldTenths && !m_hasResults) { // neither fill a log nor part a table in a file
         message(QStringLiteral("%1 %2").arg(percent, m_operation), Account);
         m_toldTenths = tenths;
     }

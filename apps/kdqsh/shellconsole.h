@@ -7,8 +7,8 @@
 #include <QTextStream>
 
 /// Shows what the library reports: results and the account of what was done on standard output, errors and a
-/// progress bar on standard error. Where standard error is no terminal, progress comes as plain lines.
-/// Neither shows for what takes less than a second.
+/// progress bar on standard error. Where standard error is no terminal, progress comes as plain lines,
+/// until the first result is shown. Neither shows for what takes less than a second.
 ///
 /// Commands reach it through reporter(), as any producer of the library reaches its receivers.
 class ShellConsole {
@@ -68,6 +68,7 @@ private:
     int m_errorCount = 0;
     int m_barLength = 0;
     int m_toldTenths = 0;
+    bool m_hasResults = false; ///< of the running operation
     bool m_hasTerminal;
     bool m_paintsOut = false;
     bool m_paintsErrors = false;

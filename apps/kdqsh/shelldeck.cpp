@@ -3,6 +3,34 @@
 #include <QDir>
 #include <QFileInfo>
 
+void ShellDeck::File::watch(const Watch::GoOn& goOn, qint64 expectedBytes)
+{
+    m_goOn = goOn;
+    m_expected = static_cast<double>(qMax<qint64>(expectedBytes, 1));
+    m_written = 0.0;
+    m_wasStopped = false;
+}
+
+qint64 ShellDeck::File::writeData(const char* data, qint64 size)
+{
+    m_written += static_cast<double>(size);
+    m_wasStopped = m_wasStopped || (m_goOn && !m_goOn(m_written / m_expected));
+    return m_wasStopped ? -1 : QFile::writeData(data, size);
+}
+
+ShellDeck::Watch::Watch(ShellDeck& deck, const GoOn& goOn, qint64 expectedBytes) : m_deck(deck)
+{
+    m_deck.m_file.watch(goOn, expectedBytes);
+}
+
+ShellDeck::Watch::~Watch()
+{
+    m_deck.m_writer->flush();
+    if (m_deck.m_file.wasStopped())
+        m_deck.m_stream->resetStatus();
+    m_deck.m_file.watch(GoOn(), 0);
+}
+
 ShellDeck::~ShellDeck()
 {
     if (isOpen())

@@ -18,14 +18,21 @@ public:
 protected:
     qint64 writeData(const char* data, qint64 size) override
     {
+        constexpr double interval = 65536.0; // XML comes in pieces of a few bytes
         m_written += static_cast<double>(size);
-        return m_call.goOn(m_written / m_expectedSize) ? File::writeData(data, size) : -1;
+        if (m_written >= m_nextAsked) {
+            m_nextAsked = m_written + interval;
+            m_isStopped = m_isStopped || !m_call.goOn(m_written / m_expectedSize);
+        }
+        return m_isStopped ? -1 : File::writeData(data, size);
     }
 
 private:
     const ShellCall& m_call;
     double m_expectedSize;
     double m_written = 0.0;
+    double m_nextAsked = 0.0;
+    bool m_isStopped = false;
 };
 
 bool fail(const ShellCall& call, const QString& path, const QIODevice& file)

@@ -146,16 +146,13 @@ bool TableCommands::show(ShellCall& call)
 
 void TableCommands::showRows(const ShellCall& call, const kdDataTable& table, int rows)
 {
-    QVector<QStringList> lines(1);
-    for (int column = 0; column < table.columns(); ++column)
-        lines[0].append(heading(table, column));
-    for (int row = 0; row < qBound(0, rows, table.rows()) && !call.isStopped(); ++row) {
+    call.showAligned(qBound(0, rows, table.rows()) + 1, [&table](int line) {
         QStringList cells;
         for (int column = 0; column < table.columns(); ++column)
-            cells.append(ShellCall::numberText(table.columnRef(column).value(row)));
-        lines.append(cells);
-    }
-    call.showAligned(lines);
+            cells.append(line == 0 ? heading(table, column)
+                                   : ShellCall::numberText(table.columnRef(column).value(line - 1)));
+        return cells;
+    });
 }
 
 bool TableCommands::info(ShellCall& call)
@@ -312,8 +309,10 @@ bool TableCommands::sort(ShellCall& call)
         return call.fail(tr("'%1' is no order; leave it out or say descending.").arg(call.text(1)));
     if (!original->canSortXYData())
         return call.fail(tr("Table '%1' has not two columns with values.").arg(call.text(0)));
+    const ShellOperation operation(call, tr("Sorting table '%1'").arg(call.text(0)));
     kdDataTable table(*original);
-    table.sortForXValues(call.count() > 1);
+    if (!table.sortForXValues(call.count() > 1, call.goOnCondition()))
+        return false;
     ShellSession::I().tables.put(call.text(0), std::move(table));
     return true;
 }
@@ -343,14 +342,18 @@ bool TableCommands::combine(ShellCall& call)
         return false;
     if (!call.is(3, "as"))
         return call.fail(tr("'as' is missing before the new name."));
-    kdDataTable result(*first);
+    const ShellOperation operation(call, tr("Combining '%1' and '%2'").arg(call.text(0), call.text(2)));
+    kdDataTable result;
     bool isDone = false;
+    const auto combine = [&](kdDataTable::Combination combination) {
+        return first->combine(combination, *second, result, call.goOnCondition());
+    };
     if (call.is(1, "sum"))
-        isDone = result.sumXY(*second);
+        isDone = combine(kdDataTable::Sum);
     else if (call.is(1, "difference"))
-        isDone = result.subtractXY(*second);
+        isDone = combine(kdDataTable::Difference);
     else if (call.is(1, "average"))
-        isDone = first->average(*second, result);
+        isDone = combine(kdDataTable::Average);
     else if (call.is(1, "cut"))
         isDone = first->getCutByOtherTable(*second, result);
     else

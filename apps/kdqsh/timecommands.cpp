@@ -1,8 +1,11 @@
 #include "timecommands.h"
 
+#include "shellevents.h"
 #include "shellsockets.h"
 
 #include <kdQCore/coSntpClient>
+
+#include <QUdpSocket>
 
 const ShellCommandGroup& TimeCommands::group()
 {
@@ -33,13 +36,34 @@ bool TimeCommands::ask(ShellCall& call)
     if (port < 1 || port > 65535)
         return call.fail(tr("A port is 1 to 65535, not %1.").arg(port));
     client = coSntpClient(server, static_cast<quint16>(port));
-    const ShellOperation operation(call, tr("Asking %1").arg(server));
-    auto answer = std::async(std::launch::async, [&client, timeout] { return client.update(timeout); });
-    if (!nShellSockets::waitFor(call, std::move(answer), timeout, [] {}))
-        return call.fail(tr("%1, port %2, does not tell the time: %3")
-                             .arg(server, QString::number(port), client.errorString()));
+    QString error;
+    if (!exchange(call, client, timeout, error))
+        return call.fail(
+            tr("%1, port %2, does not tell the time: %3").arg(server, QString::number(port), error));
     call.show(client.dateTime().toString(Qt::ISODate));
     call.tell(tr("This machine's clock is off by %1 s.")
                   .arg(client.dateTime().secsTo(QDateTime::currentDateTimeUtc())));
     return true;
+}
+
+/// As coSntpClient::update(), but the user can stop it: also while the name is looked up.
+bool TimeCommands::exchange(const ShellCall& call, coSntpClient& client, int timeout, QString& error)
+{
+    QUdpSocket socket;
+    ShellEvents events(call, tr("Asking %1").arg(client.server()), timeout);
+    QObject::connect(&socket, &QUdpSocket::connected, &socket, [&] {
+        if (!client.writeQuery(socket))
+            events.end(ShellEvents::Closed);
+    });
+    QObject::connect(&socket, &QUdpSocket::readyRead, &socket, [&] { events.end(ShellEvents::Done); });
+    QObject::connect(&socket, &QUdpSocket::errorOccurred, &socket, [&] { events.end(ShellEvents::Closed); });
+    socket.connectToHost(client.server(), client.port(), QIODevice::ReadWrite,
+                         QAbstractSocket::AnyIPProtocol);
+    const ShellEvents::Outcome outcome = events.run();
+    if (outcome == ShellEvents::Done && client.readResponse(socket))
+        return true;
+    error = outcome == ShellEvents::Done ? client.errorString() : socket.errorString();
+    if (outcome == ShellEvents::TimedOut)
+        error = tr("No answer came within %1 s.").arg(ShellCall::numberText(timeout / 1000.0));
+    return false;
 }

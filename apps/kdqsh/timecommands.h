@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+class coSntpClient;
+
 /// The commands "time ...".
 class TimeCommands {
     Q_DECLARE_TR_FUNCTIONS(TimeCommands)
@@ -13,4 +15,5 @@ public:
 
 private:
     static bool ask(ShellCall& call);
+    static bool exchange(const ShellCall& call, coSntpClient& client, int timeout, QString& error);
 };

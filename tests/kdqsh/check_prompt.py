@@ -10,6 +10,7 @@ import re
 import select
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
@@ -26,7 +27,7 @@ FOREVER = "lock hold . 500000"
 
 
 class Shell:
-    def __init__(self, *arguments, **variables):
+    def __init__(self, *arguments, program=program, **variables):
         self.master, slave = pty.openpty()
         termios.tcsetwinsize(slave, (30, WIDTH))
         self.process = subprocess.Popen([*program, *arguments], cwd=folder, env=dict(environment, **variables),
@@ -157,9 +158,28 @@ def ctrl_c_stops_a_command():
         assert "Stopped." in shell.stop_when("Writing 'big.csv'")
         assert (folder / "big.csv").read_text() == "what was there"
         assert not list(folder.glob("big.csv.*"))
-        for waiting in ("tcp serve timeout 5000", "ipc listen jes seconds 5000", "remote serve"):
+        silent = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+        silent.bind(("127.0.0.1", 0))
+        for waiting in ("tcp serve timeout 5000", "ipc listen jes seconds 5000", "remote serve",
+                        f"time ask server 127.0.0.1 port {silent.getsockname()[1]} timeout 5000"):
             shell.type(waiting + "\r")
-            assert "Stopped." in shell.stop_when("Waiting|Listening|listens")
+            assert "Stopped." in shell.stop_when("Waiting|Listening|listens|Asking")
+
+
+def ctrl_c_ends_the_plotter():
+    copy = folder / "copy"
+    copy.mkdir()
+    shutil.copy(program[-1], copy)
+    plotter = copy / "kdqplot"
+    plotter.write_text("#!/bin/sh\ntrap '' INT\necho half >\"$4\"\nexec sleep 100\n")
+    plotter.chmod(0o755)
+    (copy / "p.svg").write_text("what was there")
+    shell = Shell("-c", "plot formula x over x from 0 to 1 to copy/p.svg", program=[copy / pathlib.Path(program[-1]).name])
+    shell.wait_for("Drawing")
+    shell.type(CTRL_C)
+    shell.wait_for("Stopped")
+    assert shell.end() == 130
+    assert (copy / "p.svg").read_text() == "what was there" and len(list(copy.iterdir())) == 3
 
 
 def colours():
@@ -195,7 +215,8 @@ def quiet():
 
 
 try:
-    for check in (completion, history, ctrl_c_drops_the_line, ctrl_c_stops_a_command, colours, exit_statuses, quiet):
+    for check in (completion, history, ctrl_c_drops_the_line, ctrl_c_stops_a_command,
+                  ctrl_c_ends_the_plotter, colours, exit_statuses, quiet):
         print(check.__name__, flush=True)
         check()
 finally:
