@@ -13,4 +13,26 @@ function(kdqcore_install_program target)
         add_dependencies(${target} kdqcore_translations)
     endif()
     install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Applications)
+    if(NOT CMAKE_CROSSCOMPILING AND NOT WIN32)
+        kdqcore_manual_page(${target})
+    endif()
+endfunction()
+
+# The program writes its page itself; packages hold it compressed.
+function(kdqcore_manual_page target)
+    set(page ${target}.1)
+    add_custom_command(OUTPUT ${page}
+        COMMAND ${CMAKE_COMMAND} -E env LANGUAGE=en "LOCALAPPDATA=${CMAKE_CURRENT_BINARY_DIR}/data"
+                $<TARGET_FILE:${target}> --manual > ${page}
+        DEPENDS ${target} VERBATIM)
+    set_property(GLOBAL APPEND PROPERTY kdqcore_manual_pages ${CMAKE_CURRENT_BINARY_DIR}/${page})
+    set(installed ${page})
+    if(KDQCORE_DEBIAN)
+        set(installed ${page}.gz)
+        add_custom_command(OUTPUT ${installed} COMMAND gzip -9nkf ${page} DEPENDS ${page} VERBATIM)
+    endif()
+    add_custom_target(${target}_manual ALL DEPENDS ${page} ${installed})
+    add_dependencies(applications ${target}_manual)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${installed} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+            COMPONENT Applications)
 endfunction()

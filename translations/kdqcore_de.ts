@@ -1580,6 +1580,13 @@
     </message>
 </context>
 <context>
+    <name>ProgramHelp</name>
+    <message>
+        <source>Writes the manual page to standard output, in mdoc.</source>
+        <translation>Schreibt die Handbuchseite auf die Standardausgabe, in mdoc.</translation>
+    </message>
+</context>
+<context>
     <name>ProgressLine</name>
     <message>
         <source>Stop what is running</source>
@@ -2011,10 +2018,6 @@ alles gut ging, 1, wenn ein Befehl fehlschlug, 2, wenn diese Befehlszeile falsch
     <message>
         <source>when</source>
         <translation>wann</translation>
-    </message>
-    <message>
-        <source>Writes the manual page to standard output, in mdoc.</source>
-        <translation>Schreibt die Handbuchseite auf die Standardausgabe, in mdoc.</translation>
     </message>
     <message>
         <source>Shows the version, and what it was built with.</source>

@@ -1,5 +1,6 @@
 #include "chart.h"
 #include "familyapplication.h"
+#include "programhelp.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -9,6 +10,8 @@
 #include <QSaveFile>
 #include <QTextStream>
 #include <QTranslator>
+
+#include <memory>
 
 namespace {
 
@@ -21,24 +24,30 @@ public:
     int run(const QStringList& arguments)
     {
         QCommandLineParser parser;
-        parser.setApplicationDescription(tr("Draws the picture that a description in JSON asks for."));
         const QCommandLineOption size(QStringLiteral("size"), tr("Width and height in pixels."),
                                       QStringLiteral("WxH"), QStringLiteral("800x500"));
         const QCommandLineOption scale(QStringLiteral("scale"), tr("Pixels of a PNG for each of these."),
                                        QStringLiteral("FACTOR"), QStringLiteral("1"));
-        parser.addOptions({size, scale});
         const QCommandLineOption help = parser.addHelpOption();
         const QCommandLineOption version = parser.addVersionOption();
-        parser.addPositionalArgument(QStringLiteral("FIGURE"), tr("The description; - is standard input."));
-        parser.addPositionalArgument(QStringLiteral("PICTURE"), tr("The file to write: .svg or .png."));
+        const QCommandLineOption manual = ProgramHelp::manualOption();
+        parser.addOptions({size, scale, manual});
+        ProgramHelp texts;
+        texts.name = QStringLiteral("kdqplot");
+        texts.purpose = QStringLiteral("pictures of curves as SVG and PNG, without a screen");
+        texts.description = tr("Draws the picture that a description in JSON asks for.");
+        texts.options = {size, scale, help, version, manual};
+        texts.arguments = {{QStringLiteral("FIGURE"), tr("The description; - is standard input."), QString()},
+                           {QStringLiteral("PICTURE"), tr("The file to write: .svg or .png."), QString()}};
+        texts.describeTo(parser);
         if (!parser.parse(arguments))
             return say(parser.errorText(), WrongCommandLine);
-        if (parser.isSet(help) || parser.isSet(version)) {
-            QTextStream(stdout) << (parser.isSet(help)
-                                        ? parser.helpText()
-                                        : QStringLiteral("kdqplot %1\n").arg(qApp->applicationVersion()));
-            return AllWell;
-        }
+        if (parser.isSet(help))
+            return print(parser.helpText());
+        if (parser.isSet(version))
+            return print(QStringLiteral("kdqplot %1\n").arg(QCoreApplication::applicationVersion()));
+        if (parser.isSet(manual))
+            return print(texts.manualPage());
         if (parser.positionalArguments().size() != 2)
             return say(tr("A description and a picture are needed; see --help."), WrongCommandLine);
         if (!readFormat(parser.positionalArguments().at(1)) || !readSize(parser.value(size))
@@ -48,6 +57,12 @@ public:
     }
 
 private:
+    static int print(const QString& text)
+    {
+        QTextStream(stdout) << text;
+        return AllWell;
+    }
+
     static int say(const QString& text, ExitStatus status)
     {
         QTextStream(stderr) << "kdqplot: " << text << '\n';
@@ -128,7 +143,7 @@ void drawWithoutDisplay()
 /// Straight from the files: it is started for every picture, and shall not leave a debug log for each.
 bool loadTexts(QTranslator& texts)
 {
-    const QString application = QApplication::applicationDirPath();
+    const QString application = QCoreApplication::applicationDirPath();
     const QLocale user = QLocale::system();
     return texts.load(user, QStringLiteral("kdqcore"), QStringLiteral("_"),
                       application + QLatin1String("/translations"))
@@ -140,13 +155,19 @@ bool loadTexts(QTranslator& texts)
 
 int main(int argc, char** argv)
 {
-    drawWithoutDisplay();
-    QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false")); // of a desktop that is not needed
-    QApplication application(argc, argv);
-    QApplication::setFont(nChart::font(12)); // a picture is the same whatever fonts its user prefers
+    std::unique_ptr<QCoreApplication> application;
+    if (ProgramHelp::isTextWanted(argc, argv)) {
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    } else {
+        drawWithoutDisplay();
+        QLoggingCategory::setFilterRules(
+            QStringLiteral("*.warning=false")); // of a desktop that is not needed
+        application = std::make_unique<QApplication>(argc, argv);
+        QApplication::setFont(nChart::font(12)); // a picture is the same whatever fonts its user prefers
+    }
     FamilyApplication::describe(QStringLiteral("kdqplot"));
     QTranslator texts;
     if (loadTexts(texts))
-        QApplication::installTranslator(&texts);
-    return Plotter().run(QApplication::arguments());
+        QCoreApplication::installTranslator(&texts);
+    return Plotter().run(QCoreApplication::arguments());
 }

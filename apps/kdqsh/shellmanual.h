@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QCommandLineOption>
-#include <QList>
+#include "programhelp.h"
 
 /// The manual page, made from the help texts, so that it cannot lag behind them.
 namespace nShellManual {
 
-/// In mdoc. Its date is that of SOURCE_DATE_EPOCH where this variable is set, else today.
-QString page(const QString& description, const QList<QCommandLineOption>& options);
+/// With what the program says of itself, and the help on all commands.
+QString page(const ProgramHelp& help);
 
 } // namespace nShellManual

@@ -7,12 +7,15 @@
 ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isInteractive)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr(
+    ProgramHelp help;
+    help.name = QStringLiteral("kdqsh");
+    help.purpose = QStringLiteral("tables of material data and solver input decks by text commands");
+    help.description = tr(
         "Tables of material data and solver input decks by text commands. Commands come from a script, from\n"
         "-c, from standard input, or from a prompt. The exit status is 0 only if all went well, 1 if a "
         "command\n"
         "failed, 2 if this command line was wrong, 130 after Ctrl-C. \"-basePath FOLDER\" names the\n"
-        "installation, with \"-undoSetup\" for this run only."));
+        "installation, with \"-undoSetup\" for this run only.");
     const QCommandLineOption commandsOption(QStringLiteral("c"),
                                             tr("Runs these commands, separated by \";\"."), tr("commands"));
     const QCommandLineOption keepGoingOption({QStringLiteral("k"), QStringLiteral("keep-going")},
@@ -27,18 +30,17 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
         QStringLiteral("color"),
         tr("Colours: auto (on terminals, unless NO_COLOR is set or TERM is dumb), always, never."),
         tr("when"), QStringLiteral("auto"));
-    const QCommandLineOption manualOption(QStringLiteral("manual"),
-                                          tr("Writes the manual page to standard output, in mdoc."));
+    const QCommandLineOption manualOption = ProgramHelp::manualOption();
     const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
                                         tr("Shows this help."));
     const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("version")},
                                            tr("Shows the version, and what it was built with."));
-    const QList<QCommandLineOption> all{commandsOption, keepGoingOption, stopOption,    quietOption,
-                                        colorOption,    helpOption,      versionOption, manualOption};
-    parser.addOptions(all);
-    parser.addPositionalArgument(QStringLiteral("script"),
-                                 tr("File with commands (UTF-8); \"-\" is standard input."),
-                                 QStringLiteral("[script]"));
+    help.options = {commandsOption, keepGoingOption, stopOption,    quietOption,
+                    colorOption,    helpOption,      versionOption, manualOption};
+    help.arguments = {{QStringLiteral("script"), tr("File with commands (UTF-8); \"-\" is standard input."),
+                       QStringLiteral("[script]")}};
+    help.describeTo(parser);
+    parser.addOptions(help.options);
 
     const auto refuse = [this](const QString& reason) {
         text = reason;
@@ -57,7 +59,7 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
         return ShowText;
     }
     if (parser.isSet(manualOption)) {
-        text = nShellManual::page(parser.applicationDescription(), all);
+        text = nShellManual::page(help);
         return ShowText;
     }
     const QStringList scripts = parser.positionalArguments();

@@ -2,6 +2,7 @@
 #include "familyapplication.h"
 #include "language.h"
 #include "mainwindow.h"
+#include "programhelp.h"
 #include "viewcommand.h"
 #include "workspace.h"
 
@@ -10,40 +11,38 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
+#include <QTextStream>
 
-#include <algorithm>
+#include <cstdlib>
 #include <memory>
 
 namespace {
 
-/// The files of the command line. Ends the process where the user asks for help or the version.
+/// The files of the command line. Ends the process where the user asks for help, version or manual.
 QStringList filesToOpen()
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("main", "Shows and edits tables, heat treatments and decks."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("files"),
-                                 QCoreApplication::translate("main", "Files to open."),
-                                 QStringLiteral("[files...]"));
+    ProgramHelp help;
+    help.name = QStringLiteral("kdqview");
+    help.purpose = QStringLiteral("tables, heat treatments and solver input decks in a window");
+    help.description =
+        QCoreApplication::translate("main", "Shows and edits tables, heat treatments and decks.");
+    help.options = {parser.addHelpOption(), parser.addVersionOption(), ProgramHelp::manualOption()};
+    help.arguments = {{QStringLiteral("files"), QCoreApplication::translate("main", "Files to open."),
+                       QStringLiteral("[files...]")}};
+    help.describeTo(parser);
+    parser.addOption(help.options.constLast());
     parser.process(coPaths::withoutPathOptions(QCoreApplication::arguments()));
+    if (parser.isSet(help.options.constLast())) {
+        QTextStream(stdout) << help.manualPage() << Qt::flush;
+        std::exit(EXIT_SUCCESS);
+    }
     return parser.positionalArguments();
-}
-
-/// Help and version are asked for without a screen, too.
-bool asksForText(int argc, char** argv)
-{
-    const auto isTextOption = [](const char* argument) {
-        return qstrcmp(argument, "--help") == 0 || qstrcmp(argument, "-h") == 0
-            || qstrcmp(argument, "--version") == 0 || qstrcmp(argument, "-v") == 0;
-    };
-    return std::any_of(argv, argv + argc, isTextOption);
 }
 
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv)
 {
-    if (asksForText(argc, argv))
+    if (ProgramHelp::isTextWanted(argc, argv))
         return std::make_unique<QCoreApplication>(argc, argv);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

@@ -1,6 +1,6 @@
-"""Runs the example of every command as the help shows it, and the manual page through its checker.
+"""Runs the example of every command as the help shows it.
 
-usage: check_examples.py EXAMPLES_FOLDER MANUAL COMMAND...
+usage: check_examples.py EXAMPLES_FOLDER COMMAND...
 """
 import os
 import pathlib
@@ -12,7 +12,7 @@ import sys
 import tempfile
 import threading
 
-examples, manual, program = pathlib.Path(sys.argv[1]), sys.argv[2], sys.argv[3:]
+examples, program = pathlib.Path(sys.argv[1]), sys.argv[2:]
 folder = pathlib.Path(tempfile.mkdtemp(prefix="kdqsh-examples-"))
 environment = dict(os.environ, LANGUAGE="en", LOCALAPPDATA=str(folder / "data"), XDG_CONFIG_HOME=str(folder / "config"))
 
@@ -90,6 +90,3 @@ try:
             converse(servers[command.split()[0]], example)
 finally:
     shutil.rmtree(folder)
-if shutil.which("mandoc"):
-    complaints = subprocess.run(["mandoc", "-Tlint", manual], capture_output=True, text=True).stdout
-    assert not complaints, complaints
