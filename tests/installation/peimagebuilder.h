@@ -78,53 +78,45 @@ inline QByteArray usualVersionInfo(const QString& version)
     return versionInfo({strings("040704b0", version), translations(u16(0x407) + u16(0x4b0))});
 }
 
-struct Options {
-    bool pe32Plus = true;
-    quint32 timeStamp = 1700000000;
-    QByteArray versionInfo;
-    quint32 resourceType = 16;
-    quint32 resourceName = 1;
-    quint32 peOffset = 128;
-};
-
 constexpr quint32 sectionAddress = 0x5000;
 constexpr int directorySize = 3 * 24 + 16;
 
 /// The resource section: three directories of one entry each, the leaf, the data.
-inline QByteArray resourceSection(const Options& options)
+inline QByteArray resourceSection(const QByteArray& versionInfo)
 {
     const auto directory = [](quint32 id, quint32 target) {
         return QByteArray(12, '\0') + u16(0) + u16(1) + u32(id) + u32(target);
     };
     constexpr quint32 subdirectory = 0x80000000U;
-    return directory(options.resourceType, subdirectory | 24)
-        + directory(options.resourceName, subdirectory | 48) + directory(0x407, 72)
-        + u32(sectionAddress + directorySize) + u32(static_cast<quint32>(options.versionInfo.size()))
-        + QByteArray(8, '\0') + options.versionInfo;
+    return directory(16, subdirectory | 24) + directory(1, subdirectory | 48) + directory(0x407, 72)
+        + u32(sectionAddress + directorySize) + u32(static_cast<quint32>(versionInfo.size()))
+        + QByteArray(8, '\0') + versionInfo;
 }
+
+constexpr int peOffset = 128;
 
 /// Where the resource section lies in the file.
-inline int sectionOffset(const Options& options)
+inline int sectionOffset(bool pe32Plus = true)
 {
-    return static_cast<int>(options.peOffset) + 24 + (options.pe32Plus ? 240 : 224) + 40;
+    return peOffset + 24 + (pe32Plus ? 240 : 224) + 40;
 }
 
-inline QByteArray image(const Options& options)
+inline QByteArray image(const QByteArray& versionInfo, bool pe32Plus = true, quint32 timeStamp = 1700000000)
 {
-    const int optionalSize = options.pe32Plus ? 240 : 224;
-    QByteArray optional = u16(options.pe32Plus ? 0x20b : 0x10b);
+    const int optionalSize = pe32Plus ? 240 : 224;
+    QByteArray optional = u16(pe32Plus ? 0x20b : 0x10b);
     optional += QByteArray(optionalSize - 16 * 8 - 4 - optional.size(), '\0') + u32(16)
         + QByteArray(2 * 8, '\0') + u32(sectionAddress);
     optional += QByteArray(optionalSize - optional.size(), '\0');
 
-    const QByteArray section = resourceSection(options);
+    const QByteArray section = resourceSection(versionInfo);
     const auto sectionSize = static_cast<quint32>(section.size());
-    QByteArray bytes = QByteArray("MZ") + QByteArray(58, '\0') + u32(options.peOffset);
-    bytes += QByteArray(static_cast<int>(options.peOffset) - bytes.size(), '\x90');
-    bytes += QByteArray("PE\0\0", 4) + u16(0x8664) + u16(1) + u32(options.timeStamp) + QByteArray(8, '\0')
+    QByteArray bytes = QByteArray("MZ") + QByteArray(58, '\0') + u32(peOffset);
+    bytes += QByteArray(peOffset - bytes.size(), '\x90');
+    bytes += QByteArray("PE\0\0", 4) + u16(0x8664) + u16(1) + u32(timeStamp) + QByteArray(8, '\0')
         + u16(optionalSize) + u16(0x22) + optional;
     bytes += QByteArray(".rsrc\0\0\0", 8) + u32(sectionSize) + u32(sectionAddress) + u32(sectionSize)
-        + u32(static_cast<quint32>(sectionOffset(options))) + QByteArray(16, '\0');
+        + u32(static_cast<quint32>(sectionOffset(pe32Plus))) + QByteArray(16, '\0');
     return bytes + section;
 }
 

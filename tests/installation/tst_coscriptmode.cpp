@@ -14,11 +14,7 @@ private:
     QString write(const char* name, const QByteArray& content)
     {
         const QString path = m_folder->filePath(QString::fromUtf8(name));
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly))
-            file.write(content);
-        return path;
+        return kdqWrite(path, content) ? path : QString();
     }
 
 private Q_SLOTS:

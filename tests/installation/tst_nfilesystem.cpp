@@ -7,20 +7,6 @@ using namespace nFileSystem;
 
 namespace {
 
-void writeFile(const QString& path, const QByteArray& content = "x")
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// Every entry below the folder, links marked with "@".
 QStringList treeOf(const QString& path)
 {
@@ -29,7 +15,7 @@ QStringList treeOf(const QString& path)
                          QDirIterator::Subdirectories);
     while (entries.hasNext()) {
         entries.next();
-        const QString mark = entries.fileInfo().isSymbolicLink() ? QStringLiteral("@") : QString();
+        const QString mark = entries.fileInfo().isSymbolicLink() ? S("@") : QString();
         result.append(mark + QDir(path).relativeFilePath(entries.filePath()));
     }
     result.sort();
@@ -72,21 +58,21 @@ private Q_SLOTS:
     {
         if (!canLink())
             QSKIP("needs symbolic links");
-        writeFile(path("from/a.dat"), "new");
-        writeFile(path("from/.hidden/Größe 1.txt"), "y");
+        QVERIFY(kdqWrite(path("from/a.dat"), "new"));
+        QVERIFY(kdqWrite(path("from/.hidden/Größe 1.txt"), "y"));
         QVERIFY(QDir().mkpath(path("from/empty/inner")));
-        QVERIFY(QFile::link(QStringLiteral("a.dat"), path("from/link")));
-        QVERIFY(QFile::link(QStringLiteral("."), path("from/.hidden/circle")));
-        QVERIFY(QFile::link(QStringLiteral("nowhere"), path("from/broken")));
-        writeFile(path("to/run/a.dat"), "old");
-        writeFile(path("to/run/kept"), "kept");
+        QVERIFY(QFile::link(S("a.dat"), path("from/link")));
+        QVERIFY(QFile::link(S("."), path("from/.hidden/circle")));
+        QVERIFY(QFile::link(S("nowhere"), path("from/broken")));
+        QVERIFY(kdqWrite(path("to/run/a.dat"), "old"));
+        QVERIFY(kdqWrite(path("to/run/kept"), "kept"));
 
         copyDirRecursivly(path("from"), path("to/run"));
-        QStringList expected = treeOf(path("from")) + QStringList(QStringLiteral("kept"));
+        QStringList expected = treeOf(path("from")) + QStringList(S("kept"));
         expected.sort();
         QCOMPARE(treeOf(path("to/run")), expected);
-        QCOMPARE(contentOf(path("to/run/a.dat")), QByteArray("new"));
-        QCOMPARE(contentOf(path("to/run/.hidden/Größe 1.txt")), QByteArray("y"));
+        QCOMPARE(kdqContentOf(path("to/run/a.dat")), QByteArray("new"));
+        QCOMPARE(kdqContentOf(path("to/run/.hidden/Größe 1.txt")), QByteArray("y"));
         QCOMPARE(QFileInfo(path("to/run/link")).canonicalFilePath(),
                  QFileInfo(path("to/run/a.dat")).canonicalFilePath());
     }
@@ -95,7 +81,7 @@ private Q_SLOTS:
     {
         if (!canLink())
             QSKIP("needs symbolic links");
-        writeFile(path("from/a"));
+        QVERIFY(kdqWrite(path("from/a")));
         QVERIFY(QFile::link(path("from"), path("link")));
         const QStringList before = treeOf(m_folder->path());
         for (const char* target : {"./from/../from/", "from/new/newer", "link/new"}) {
@@ -109,44 +95,42 @@ private Q_SLOTS:
     {
         if (!canLink())
             QSKIP("needs symbolic links");
-        writeFile(path("a"), "content");
+        QVERIFY(kdqWrite(path("a"), "content"));
         QVERIFY(failureOf([&] { copyFile(path("a"), path("a")); }).contains(QLatin1String("same file")));
         QVERIFY(QFile::link(path("a"), path("link")));
         QVERIFY(failureOf([&] { copyFile(path("a"), path("link")); }).contains(QLatin1String("same file")));
         QVERIFY(!failureOf([&] { copyFile(path("missing"), path("a")); }).isEmpty());
         QVERIFY(!failureOf([&] { copyFile(m_folder->path(), path("a")); }).isEmpty());
-        QCOMPARE(contentOf(path("a")), QByteArray("content"));
+        QCOMPARE(kdqContentOf(path("a")), QByteArray("content"));
         copyFile(path("a"), path("new/b"));
-        QCOMPARE(contentOf(path("new/b")), QByteArray("content"));
+        QCOMPARE(kdqContentOf(path("new/b")), QByteArray("content"));
     }
 
     void removesATreeButNotWhatLinksLeadTo()
     {
         if (!canLink())
             QSKIP("needs symbolic links");
-        writeFile(path("kept/file"));
-        writeFile(path("gone/.inner/file"));
+        QVERIFY(kdqWrite(path("kept/file")));
+        QVERIFY(kdqWrite(path("gone/.inner/file")));
         QVERIFY(QFile::link(path("kept"), path("gone/link")));
         QVERIFY(QFile::link(path("nowhere"), path("gone/broken")));
         QVERIFY(QFile::link(path("kept"), path("linkedFolder")));
         QFile::setPermissions(path("gone/.inner/file"), QFileDevice::ReadOwner);
         removeDirRecursivly(path("gone"));
         removeDirRecursivly(path("linkedFolder"));
-        QCOMPARE(treeOf(m_folder->path()),
-                 QStringList({QStringLiteral("kept"), QStringLiteral("kept/file")}));
+        QCOMPARE(treeOf(m_folder->path()), QStringList({S("kept"), S("kept/file")}));
     }
 
     void failures()
     {
-        writeFile(path("file"));
+        QVERIFY(kdqWrite(path("file")));
         QVERIFY(QDir().mkpath(path("folder %1")));
         const QString below = path("file/%1 below");
         const QString missing = path("missing");
-        QCOMPARE(failureOf([&] { createDir(below); }),
-                 QStringLiteral("Could not create directory '%1'.").arg(below));
+        QCOMPARE(failureOf([&] { createDir(below); }), S("Could not create directory '%1'.").arg(below));
         QCOMPARE(failureOf([&] { copyDirRecursivly(path("folder %1"), below); }),
-                 QStringLiteral("Could not create directory '%1'.").arg(below));
-        const QString noFolder = QStringLiteral("Directory '%1' does not exist.");
+                 S("Could not create directory '%1'.").arg(below));
+        const QString noFolder = S("Directory '%1' does not exist.");
         QCOMPARE(failureOf([&] { copyDirRecursivly(missing, path("x")); }), noFolder.arg(missing));
         QVERIFY(!QFile::exists(path("x")));
         QCOMPARE(failureOf([&] { copyDirRecursivly(path("file"), path("x")); }), noFolder.arg(path("file")));
@@ -156,7 +140,7 @@ private Q_SLOTS:
             QFile file(name);
             QVERIFY(!file.remove());
             QCOMPARE(failureOf([&] { removeFile(name); }),
-                     QStringLiteral("Failed to remove file '%1': %2").arg(name, file.errorString()));
+                     S("Failed to remove file '%1': %2").arg(name, file.errorString()));
         }
     }
 

@@ -14,12 +14,12 @@ using nSystem::nWin32::getLinkTimeStamp;
 
 namespace {
 
-const QString sizeFailure = QStringLiteral("Could not get size of version info of file '%1'.");
-const QString infoFailure = QStringLiteral("Could not get version info of file '%1'.");
-const QString valueFailure = QStringLiteral("Failed to query version info value.");
-const QString translationFailure = QStringLiteral("Failed to query version info translation values.");
-const QString languageFailure = QStringLiteral("Resource language unknown.");
-const QString executableFailure = QStringLiteral("File '%1' is not a valid Windows executable.");
+const QString sizeFailure = S("Could not get size of version info of file '%1'.");
+const QString infoFailure = S("Could not get version info of file '%1'.");
+const QString valueFailure = S("Failed to query version info value.");
+const QString translationFailure = S("Failed to query version info translation values.");
+const QString languageFailure = S("Resource language unknown.");
+const QString executableFailure = S("File '%1' is not a valid Windows executable.");
 
 QString systemText(DataFault fault)
 {
@@ -38,14 +38,7 @@ class TestNSystem : public QObject {
 
 private:
     QTemporaryDir m_folder;
-    const QString m_path = m_folder.filePath(QStringLiteral("Schweißen %1.exe"));
-
-    void write(const QByteArray& bytes)
-    {
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), qint64(bytes.size()));
-    }
+    const QString m_path = m_folder.filePath(S("Schweißen %1.exe"));
 
     template <typename Function>
     QString failureOf(Function function, bool* fromSystem = nullptr)
@@ -63,11 +56,8 @@ private:
 private Q_SLOTS:
     void linkTimeStamp()
     {
-        Options options;
         for (const bool pe32Plus : {true, false}) {
-            options.pe32Plus = pe32Plus;
-            options.timeStamp = pe32Plus ? 0xfffffffeU : 1700000000U;
-            write(image(options));
+            QVERIFY(kdqWrite(m_path, image({}, pe32Plus, pe32Plus ? 0xfffffffeU : 1700000000U)));
             QCOMPARE(getLinkTimeStamp(m_path),
                      pe32Plus ? QDateTime({2106, 2, 7}, {6, 28, 14}, Qt::UTC)
                               : QDateTime({2023, 11, 14}, {22, 13, 20}, Qt::UTC));
@@ -86,7 +76,7 @@ private Q_SLOTS:
         text("commas and blanks", "1, 2, 0, 7", "1.2.0.7");
         text("a remark", "10.0.19041.1 (WinBuild.160101.0800)", "10.0.19041.1");
         text("empty", "", "0.0.0.0");
-        const QString version = QStringLiteral("1.2.3.4");
+        const QString version = S("1.2.3.4");
         const QByteArray german = u16(0x407) + u16(0x4b0);
         const auto place = [&version](const char* name, std::initializer_list<QByteArray> children) {
             QTest::newRow(name) << versionInfo(children) << version;
@@ -96,7 +86,7 @@ private Q_SLOTS:
               {strings("040704b0", version), translations(german + u16(0x409) + u16(0x4e4))});
         place("table of another language before",
               {node("StringFileInfo", 1, 0, {},
-                    {node("040904e4", 1, 0, {}, {PeBuilder::text("FileVersion", QStringLiteral("9.9"))}),
+                    {node("040904e4", 1, 0, {}, {PeBuilder::text("FileVersion", S("9.9"))}),
                      node("040704b0", 1, 0, {}, {PeBuilder::text("FileVersion", version)})}),
                translations(german)});
         place("text length in bytes",
@@ -109,12 +99,10 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, info);
         QFETCH(QString, version);
-        Options options;
-        options.versionInfo = info;
-        for (const bool pe32Plus : {true, false}) {
-            options.pe32Plus = pe32Plus;
-            options.resourceName = pe32Plus ? 1 : 0x80000010U;
-            write(image(options));
+        const QByteArray bytes = image(info);
+        const QByteArray named = patched(image(info, false), sectionOffset(false) + 40, u32(0x80000010U));
+        for (const QByteArray& file : {bytes, named}) {
+            QVERIFY(kdqWrite(m_path, file));
             QCOMPARE(getFileVersionFromStringFileInfo(m_path), coVersionNumber(version));
         }
     }
@@ -127,34 +115,27 @@ private Q_SLOTS:
         const int missing = int(DataFault::ResourceMissing);
         const int bad = int(DataFault::BadExecutable);
         constexpr int none = -1;
-        const QString version = QStringLiteral("1.2.3.4");
-        const auto with = [](const QByteArray& info) {
-            Options options;
-            options.versionInfo = info;
-            return image(options);
-        };
-        const QByteArray usual = with(usualVersionInfo(version));
-        const int section = sectionOffset(Options());
+        const QString version = S("1.2.3.4");
+        const QByteArray usual = image(usualVersionInfo(version));
+        const int section = sectionOffset();
         const QByteArray german = u16(0x407) + u16(0x4b0);
-        Options otherType;
-        otherType.resourceType = 3;
-        otherType.versionInfo = usualVersionInfo(version);
-
         QTest::newRow("text file") << QByteArray(500, 'x') << sizeFailure << bad;
-        QTest::newRow("no version resource") << image(otherType) << sizeFailure << missing;
+        QTest::newRow("no version resource")
+            << patched(usual, section + 16, u32(3)) << sizeFailure << missing;
         QTest::newRow("directory contains itself")
             << patched(usual, section + 24 + 44, u32(0x80000030U)) << sizeFailure << missing;
         QTest::newRow("empty data") << patched(usual, section + 76, u32(0)) << infoFailure << missing;
         QTest::newRow("file ends in the data") << usual.left(usual.size() - 4) << infoFailure << missing;
         QTest::newRow("no translations")
-            << with(versionInfo({strings("040704b0", version)})) << translationFailure << missing;
+            << image(versionInfo({strings("040704b0", version)})) << translationFailure << missing;
         QTest::newRow("node that is longer than its parent")
-            << with(patched(versionInfo({translations(german)}), 92, u16(0xffff))) << translationFailure
+            << image(patched(versionInfo({translations(german)}), 92, u16(0xffff))) << translationFailure
             << missing;
         QTest::newRow("empty list of translations")
-            << with(versionInfo({strings("040704b0", version), translations({})})) << languageFailure << none;
+            << image(versionInfo({strings("040704b0", version), translations({})})) << languageFailure
+            << none;
         QTest::newRow("no texts in the language")
-            << with(versionInfo({strings("040904b0", version), translations(german)})) << valueFailure
+            << image(versionInfo({strings("040904b0", version), translations(german)})) << valueFailure
             << missing;
     }
 
@@ -163,7 +144,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         QFETCH(QString, context);
         QFETCH(int, fault);
-        write(bytes);
+        QVERIFY(kdqWrite(m_path, bytes));
         QString expected = context.contains(QLatin1String("%1")) ? context.arg(m_path) : context;
         if (fault >= 0)
             expected += QLatin1Char(' ') + systemText(DataFault(fault));
@@ -174,11 +155,11 @@ private Q_SLOTS:
 
     void invalidExecutable()
     {
-        const QByteArray good = image(Options());
+        const QByteArray good = image({});
         for (const QByteArray& bytes : {patched(good, 0, "ZM"), patched(good, 128, QByteArray("NE\0\0", 4)),
                                         patched(good, 60, u32(0xfffffff0U)), // signature beyond the end
                                         good.left(128 + 4 + 19)}) {
-            write(bytes);
+            QVERIFY(kdqWrite(m_path, bytes));
             bool fromSystem = true;
             QCOMPARE(failureOf([this] { getLinkTimeStamp(m_path); }, &fromSystem),
                      executableFailure.arg(m_path));
@@ -190,12 +171,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("context");
-        const QString empty = m_folder.filePath(QStringLiteral("empty.exe"));
-        QVERIFY(QFile(empty).open(QIODevice::WriteOnly));
-        QTest::newRow("missing") << m_folder.filePath(QStringLiteral("missing.exe"))
-                                 << QStringLiteral("Failed to open file '%1'.");
-        QTest::newRow("folder") << m_folder.path() << QStringLiteral("Failed to open file '%1'.");
-        QTest::newRow("empty") << empty << QStringLiteral("Failed to create file mapping for '%1'.");
+        const QString empty = m_folder.filePath(S("empty.exe"));
+        QVERIFY(kdqWrite(empty));
+        QTest::newRow("missing") << m_folder.filePath(S("missing.exe")) << S("Failed to open file '%1'.");
+        QTest::newRow("folder") << m_folder.path() << S("Failed to open file '%1'.");
+        QTest::newRow("empty") << empty << S("Failed to create file mapping for '%1'.");
     }
 
     void unreadableFile()
