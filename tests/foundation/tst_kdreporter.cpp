@@ -195,7 +195,8 @@ private Q_SLOTS:
     void streamReporterPrints()
     {
         QProcess process;
-        process.start(QCoreApplication::applicationDirPath() + S("/loghelper"), {S("report")});
+        process.start(QCoreApplication::applicationDirPath() + S("/loghelper"),
+                      {S("application"), S("report")});
         QVERIFY(process.waitForFinished(60000));
         QCOMPARE(kdqWithPlainLineEnds(process.readAllStandardOutput()),
                  QString::fromUtf8("Start: Erwärmen\nStart: again\n").toLocal8Bit()

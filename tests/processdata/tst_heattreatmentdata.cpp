@@ -62,7 +62,7 @@ class TestHeatTreatmentData : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void stageTypeMappings()
+    void numbersOfOtherNumbers()
     {
         const int relations[] = {2, 0, 0, 1, 1, 1, 0, 1, 1, 2};
         const int processes[] = {0, 1, 2, 3, 2, 2, 0, 0, 0, 0};
@@ -70,47 +70,43 @@ private Q_SLOTS:
             QCOMPARE(int(getTerminationRelationFromStage(e_StageType(type))), relations[type + 1]);
             QCOMPARE(int(processId(e_StageType(type))), processes[type + 1]);
         }
-    }
-
-    void modeMappings()
-    {
         const int toHeatTreatment[] = {3, 0, 2, 1, 3, 3};
         const int toInput[] = {4, 1, 3, 2, 4, 4};
         for (int mode = 0; mode < 6; ++mode) {
             QCOMPARE(int(coHeatTreatmentData::Xml::Writer::htMode(coTableInput::e_Mode(mode))),
                      toHeatTreatment[mode]);
             QCOMPARE(int(coHeatTreatmentData::Xml::Reader::tableInputMode(e_Mode(mode - 1))), toInput[mode]);
-            QCOMPARE(coPredefTableOrConstant::isUserDefinedTable(mode), mode == 2);
-            const QString name = coPredefTableOrConstant::getPredefinedTableName(mode, QStringLiteral("oil"));
-            QCOMPARE(name, mode == 2 ? QStringLiteral("<user-defined>") : QStringLiteral("oil"));
+            QCOMPARE(coPredefTableOrConstant::getPredefinedTableName(mode, S("oil")),
+                     mode == 2 ? S("<user-defined>") : S("oil"));
         }
     }
 
     void enumerations()
     {
-        const QMap<int, QStringList> fields{
-            {-1, {QStringLiteral("Invalid"), QStringLiteral("Invalid")}},
-            {0, {QStringLiteral("QuenchTemper"), QStringLiteral("Quench temper")}},
-            {1, {QStringLiteral("WlStressRelief"), QStringLiteral("Stress relief")}},
-            {2, {QStringLiteral("CaseHardening"), QStringLiteral("Case hardening")}},
-            {3, {QString(), QString()}}};
-        const QMap<int, QStringList> passes{
-            {0, {QStringLiteral("none"), QStringLiteral("No pass")}},
-            {1, {QStringLiteral("diffusion"), QStringLiteral("Diffusion pass")}},
-            {2, {QStringLiteral("thermal"), QStringLiteral("Thermal pass")}},
-            {4, {QStringLiteral("structural"), QStringLiteral("Structural pass")}},
-            {8, {QString(), QString()}}};
-        for (const auto& [rows, names] : {std::make_pair(&FieldOfApplicationEnumData, fields),
-                                          std::make_pair(&AnalysisPassFlagEnumData, passes)}) {
-            for (const int value : names.keys()) {
-                coEnum byName(*rows, 99);
-                const bool isNamed = byName.setName(names[value].first());
-                QCOMPARE((QStringList{coEnum(*rows, value).name(), coEnum(*rows, value).displayName()}),
-                         names[value]);
-                QCOMPARE(byName.value(), isNamed ? value : 99);
-                QCOMPARE(coEnum(*rows, value).isValid(), isNamed && value != -1);
+        // Of every value: itself, what its name stands for, whether it has one and is valid, and its names.
+        const auto shown = [](const coEnumData& rows, const QList<int>& values) {
+            QStringList result;
+            for (const int value : values) {
+                const coEnum known(rows, value);
+                coEnum byName(rows, 99);
+                const bool isNamed = byName.setName(known.name());
+                result.append(S("%1 %2 %3 %4: %5|%6")
+                                  .arg(value)
+                                  .arg(byName.value())
+                                  .arg(isNamed)
+                                  .arg(known.isValid())
+                                  .arg(known.name(), known.displayName()));
             }
-        }
+            return result;
+        };
+        QCOMPARE(shown(FieldOfApplicationEnumData, {-1, 0, 1, 2, 3}),
+                 (QStringList{S("-1 -1 1 0: Invalid|Invalid"), S("0 0 1 1: QuenchTemper|Quench temper"),
+                              S("1 1 1 1: WlStressRelief|Stress relief"),
+                              S("2 2 1 1: CaseHardening|Case hardening"), S("3 99 0 0: |")}));
+        QCOMPARE(shown(AnalysisPassFlagEnumData, {0, 1, 2, 4, 8}),
+                 (QStringList{S("0 0 1 1: none|No pass"), S("1 1 1 1: diffusion|Diffusion pass"),
+                              S("2 2 1 1: thermal|Thermal pass"), S("4 4 1 1: structural|Structural pass"),
+                              S("8 99 0 0: |")}));
     }
 
     // Every stage of every field can run at once: it takes time, computes something, and the kinds fit.
@@ -146,7 +142,7 @@ private Q_SLOTS:
         const auto stage = copy.getStage(1).dynamicCast<coHtCaseHardeningStageProp>();
         QVERIFY(!stage.isNull());
         coTableInput potential = stage->carbonPotential();
-        potential.setTableName(QStringLiteral("boost"));
+        potential.setTableName(S("boost"));
         stage->setCarbonPotential(potential);
         QVERIFY(copy != data);
         copy = data;
@@ -216,16 +212,6 @@ private Q_SLOTS:
             QVERIFY(curve.canSumOrSubtract());
             QCOMPARE(curve.maxXValue(), data.totalStageDuration());
         }
-    }
-
-    void stageInformation()
-    {
-        coStageInformation information;
-        QVERIFY(information.isDefaultContructed());
-        information.setWhatsThis(QStringLiteral("x"));
-        QVERIFY(!information.isDefaultContructed());
-        QVERIFY(coStageInformation::compareId(coStageInformation(-3, Cooling, {}), information));
-        QVERIFY(coHeatTreatmentStage().information()->isDefaultContructed());
     }
 };
 

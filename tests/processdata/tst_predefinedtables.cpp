@@ -24,12 +24,6 @@ bool write(const QString& path, const kdDataTable& table)
     return table.writeXML(file);
 }
 
-bool write(const QString& path, const QByteArray& text)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-}
-
 coTableInput predefined(const QString& name)
 {
     coTableInput input;
@@ -47,14 +41,14 @@ private Q_SLOTS:
     void init()
     {
         m_folder.reset(new QTemporaryDir);
-        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("installed")));
-        QVERIFY(write(installed("a.xml"), coefficient(QStringLiteral("Water"), 3000.0)));
-        QVERIFY(write(installed("b.xml"), coefficient(QStringLiteral("Oil 60 °C"), 1500.0)));
-        QVERIFY(write(installed("c.xml"), coefficient(QStringLiteral("Water"), 1.0)));
+        QVERIFY(QDir(m_folder->path()).mkdir(S("installed")));
+        QVERIFY(write(installed("a.xml"), coefficient(S("Water"), 3000.0)));
+        QVERIFY(write(installed("b.xml"), coefficient(S("Oil 60 °C"), 1500.0)));
+        QVERIFY(write(installed("c.xml"), coefficient(S("Water"), 1.0)));
         QVERIFY(write(installed("Still air.xml"), coefficient(QString(), 30.0)));
-        QVERIFY(write(installed("notes.xml"), "<notes/>"));
-        QVERIFY(write(installed("half.xml"), "<kdDataTable name='Half'><row>"));
-        QVERIFY(write(installed("table.txt"), "<kdDataTable name='Text'/>"));
+        QVERIFY(kdqWrite(installed("notes.xml"), "<notes/>"));
+        QVERIFY(kdqWrite(installed("half.xml"), "<kdDataTable name='Half'><row>"));
+        QVERIFY(kdqWrite(installed("table.txt"), "<kdDataTable name='Text'/>"));
     }
 
     void list()
@@ -65,11 +59,9 @@ private Q_SLOTS:
         QStringList names;
         for (int row = 0; row < model.rowCount(); ++row)
             names.append(model.index(row).data().toString());
-        QCOMPARE(names,
-                 (QStringList{QStringLiteral("Half"), QStringLiteral("Oil 60 °C"),
-                              QStringLiteral("Still air"), QStringLiteral("Water")}));
+        QCOMPARE(names, (QStringList{S("Half"), S("Oil 60 °C"), S("Still air"), S("Water")}));
         QCOMPARE(log.records().size(), 2); // the second water and the notes
-        QCOMPARE(model.table(QStringLiteral("Water"))->pointAt(0).y(), 3000.0);
+        QCOMPARE(model.table(S("Water"))->pointAt(0).y(), 3000.0);
         QVERIFY(model.errorText().isEmpty());
         for (const char* name : {"Half", "Text", ""}) {
             QVERIFY(model.table(QString::fromLatin1(name)).isNull());
@@ -77,7 +69,7 @@ private Q_SLOTS:
         }
         QVERIFY(QFile::remove(installed("a.xml")));
         model.reload();
-        QCOMPARE(model.table(QStringLiteral("Water"))->pointAt(0).y(), 1.0);
+        QCOMPARE(model.table(S("Water"))->pointAt(0).y(), 1.0);
         QVERIFY(!coPredefinedTableListModel(installed("none")).rowCount());
     }
 
@@ -85,26 +77,26 @@ private Q_SLOTS:
     void copyToProject()
     {
         coPredefinedTableListModel model(installed(""));
-        model.setProjectFolder(m_folder->filePath(QStringLiteral("project/tables")));
+        model.setProjectFolder(m_folder->filePath(S("project/tables")));
         coHeatTreatmentData data(nHeatTreatment::CaseHardening);
         nHeatTreatment::coHeatTreatmentDataFactory::setup(data);
         QVERIFY(data.ensureTableCopiedToProject(&model) && !QFile::exists(model.projectFolder()));
         const auto stage = data.getStage(2).staticCast<coHtCaseHardeningStageProp>();
-        stage->setHtcToEnv(predefined(QStringLiteral("Still air")));
-        stage->setMassTransferCoefficient(predefined(QStringLiteral("Missing")));
-        stage->setCarbonPotential(predefined(QStringLiteral("Water")));
+        stage->setHtcToEnv(predefined(S("Still air")));
+        stage->setMassTransferCoefficient(predefined(S("Missing")));
+        stage->setCarbonPotential(predefined(S("Water")));
         QVERIFY(!data.ensureTableCopiedToProject(nullptr));
         QVERIFY(!data.ensureTableCopiedToProject(&model)); // but it copies the other two
         const auto fileNames = [&model] { return QDir(model.projectFolder()).entryList(QDir::Files); };
         QCOMPARE(fileNames().size(), 2);
 
         stage->setMassTransferCoefficient(coTableInput());
-        const QString copy = model.projectFolder() + QStringLiteral("/a.xml");
-        QVERIFY(write(copy, coefficient(QStringLiteral("Water"), 42.0)));
+        const QString copy = model.projectFolder() + S("/a.xml");
+        QVERIFY(write(copy, coefficient(S("Water"), 42.0)));
         QVERIFY(data.ensureTableCopiedToProject(&model));
         coPredefinedTableListModel project(model.projectFolder());
-        QCOMPARE(project.table(QStringLiteral("Water"))->pointAt(0).y(), 42.0);
-        QCOMPARE(project.table(QStringLiteral("Still air"))->pointAt(0).y(), 30.0);
+        QCOMPARE(project.table(S("Water"))->pointAt(0).y(), 42.0);
+        QCOMPARE(project.table(S("Still air"))->pointAt(0).y(), 30.0);
     }
 
     void projectFolderCannotBeMade()
@@ -112,7 +104,7 @@ private Q_SLOTS:
         coPredefinedTableListModel model(installed(""));
         for (const QString& folder : {QString(), installed("a.xml/below")}) {
             model.setProjectFolder(folder);
-            QVERIFY(!model.copyToProject(QStringLiteral("Water")));
+            QVERIFY(!model.copyToProject(S("Water")));
             QVERIFY(model.errorText().contains(folder));
         }
     }
@@ -120,7 +112,7 @@ private Q_SLOTS:
 private:
     QString installed(const char* name) const
     {
-        return m_folder->filePath(QStringLiteral("installed/") + QString::fromLatin1(name));
+        return m_folder->filePath(S("installed/") + QString::fromLatin1(name));
     }
 
     QScopedPointer<QTemporaryDir> m_folder;
