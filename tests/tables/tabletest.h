@@ -2,6 +2,8 @@
 
 #include <kdQCore/kdDataTable>
 
+#include <algorithm>
+#include <cstring>
 #include <limits>
 
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
@@ -27,6 +29,13 @@ inline kdDataTable curve(const Points& points, kdUnitSystem::Dimension x = kdUni
     for (const QPointF& point : points)
         table.addPoint(point);
     return table;
+}
+
+inline double doubleOf(quint64 bits)
+{
+    double value;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
 }
 
 // Exact, and a NaN equals a NaN.

@@ -6,7 +6,6 @@
 #include <cmath>
 #include <random>
 #include <stdexcept>
-#include <thread>
 
 namespace {
 
@@ -19,6 +18,13 @@ coExpression bound(const QString& text)
     expression.setVariable(QStringLiteral("z"), 5.0);
     expression.setFunction(QStringLiteral("f"), [](double value) { return 2.0 * value; });
     return expression;
+}
+
+/// A row of four texts, named as the first.
+void row(const char* text, const char* second, const char* third, const char* fourth)
+{
+    QTest::newRow(text) << QStringList{QString::fromUtf8(text), QString::fromUtf8(second),
+                                       QString::fromUtf8(third), QString::fromUtf8(fourth)};
 }
 
 QString repeated(const char* text, int count)
@@ -72,10 +78,6 @@ private Q_SLOTS:
     void syntaxErrors_data()
     {
         QTest::addColumn<QStringList>("texts");
-        const auto row = [](const char* text, const char* second, const char* third, const char* fourth) {
-            QTest::newRow(text) << QStringList{QString::fromUtf8(text), QString::fromUtf8(second),
-                                               QString::fromUtf8(third), QString::fromUtf8(fourth)};
-        };
         const char* const operand = "a number, a name, a function, a sign, \"not\", \"if\" or \"(\"";
         const char* const after = "an operator or the end of the formula";
         const char* const inside = "an operator or \")\"";
@@ -125,10 +127,6 @@ private Q_SLOTS:
     void failures_data()
     {
         QTest::addColumn<QStringList>("texts");
-        const auto row = [](const char* text, const char* second, const char* third, const char* fourth) {
-            QTest::newRow(text) << QStringList{QString::fromUtf8(text), QString::fromUtf8(second),
-                                               QString::fromUtf8(third), QString::fromUtf8(fourth)};
-        };
         row("nan/x", "Division by zero.", "(nan / x)", "(nan / 2)");
         row("1 + x / (y - 3) * z", "Division by zero.", "(x / (y - 3))", "(2 / (3 - 3))");
         row("sqrt(x - y) + 1/0", "Domain error.", "sqrt((x - y))", "sqrt((2 - 3))");
@@ -197,9 +195,9 @@ private Q_SLOTS:
 
     void builtInsMayBeReplaced()
     {
-        coExpression expression(QStringLiteral("sqrt(e)"));
-        expression.setVariable(QStringLiteral("e"), 7.0);
-        expression.setFunction(QStringLiteral("sqrt"), [](double x) { return -x; });
+        coExpression expression(S("sqrt(e)"));
+        expression.setVariable(S("e"), 7.0);
+        expression.setFunction(S("sqrt"), [](double x) { return -x; });
         double value = 0.0;
         QVERIFY(expression.evaluate(&value) && value == -7.0);
     }
@@ -260,22 +258,18 @@ private Q_SLOTS:
     void threadsEvaluateCopies()
     {
         const coExpression shared = bound(QStringLiteral("if(x > 50) 1/(x-75) else f(x)^2 + sin(x)"));
-        std::vector<std::thread> threads;
         std::vector<double> sums(4, 0.0);
-        for (double& sum : sums)
-            threads.emplace_back([&sum, &shared] {
-                coExpression own(shared);
-                for (int i = 0; i < 2000; ++i) {
-                    double value = 0.0;
-                    own.setVariable(0, i % 100);
-                    if (own.evaluate(&value))
-                        sum += value;
-                    else if (own.errorDetails().contains(QLatin1String("(75 - 75)")))
-                        sum += 1e9; // so that the failures can be told from the values
-                }
-            });
-        for (std::thread& thread : threads)
-            thread.join();
+        kdqInThreads(4, [&](int thread) {
+            coExpression own(shared);
+            for (int i = 0; i < 2000; ++i) {
+                double value = 0.0;
+                own.setVariable(0, i % 100);
+                if (own.evaluate(&value))
+                    sums[std::size_t(thread)] += value;
+                else if (own.errorDetails().contains(QLatin1String("(75 - 75)")))
+                    sums[std::size_t(thread)] += 1e9; // so that the failures can be told from the values
+            }
+        });
         QCOMPARE(int(sums.front() / 1e9), 20);
         QCOMPARE(sums, std::vector<double>(4, sums.front()));
     }

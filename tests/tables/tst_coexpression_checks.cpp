@@ -4,25 +4,15 @@
 #include <kdQCore/coExpressionSyntaxChecker>
 #include <kdQCore/ncoExpressionValidator>
 
-using Pairs = QVector<QPair<QString, QString>>;
-
 namespace {
 
-// "a=b+1; b=2" as pairs.
-Pairs pairsOf(const QString& text)
-{
-    Pairs pairs;
-    const QStringList parts = text.split(QStringLiteral("; "), Qt::SkipEmptyParts);
-    for (const QString& part : parts)
-        pairs.append({part.section(QLatin1Char('='), 0, 0), part.section(QLatin1Char('='), 1)});
-    return pairs;
-}
-
-coExpressionOrder orderOf(const Pairs& pairs)
+/// Of formulas such as "a=b+1; b=2".
+coExpressionOrder orderOf(const QString& formulas)
 {
     coExpressionOrder order;
-    for (const auto& pair : pairs)
-        order.add(pair.first, pair.second);
+    const QStringList parts = formulas.split(S("; "), Qt::SkipEmptyParts);
+    for (const QString& part : parts)
+        order.add(part.section(QLatin1Char('='), 0, 0), part.section(QLatin1Char('='), 1));
     return order;
 }
 
@@ -35,18 +25,16 @@ class TestExpressionChecks : public QObject {
 private Q_SLOTS:
     void syntaxChecker()
     {
-        const coExpressionSyntaxChecker valid(QStringLiteral("x + 1"));
-        QCOMPARE(valid.getXmlComment(), QStringLiteral("Math expression syntax is valid."));
+        const coExpressionSyntaxChecker valid(S("x + 1"));
+        QCOMPARE(valid.getXmlComment(), S("Math expression syntax is valid."));
         const coExpressionSyntaxChecker copy(valid);
-        QCOMPARE(copy.expression().toString(), QStringLiteral("(x + 1)"));
+        QCOMPARE(copy.expression().toString(), S("(x + 1)"));
 
-        const coExpressionSyntaxChecker wrong(QStringLiteral("%1 --"));
-        const QString details = QStringLiteral("Line 1, column 1: found '%', expected a number, a name, a "
-                                               "function, a sign, \"not\", \"if\" or \"(\".");
-        QCOMPARE(wrong.getXmlComment(),
-                 QStringLiteral("Math expression syntax is not valid: Syntax error., ") + details);
-        QCOMPARE(wrong.getErrorMessage(),
-                 QStringLiteral("Math expression '%1 --': Syntax error., ") + details);
+        const coExpressionSyntaxChecker wrong(S("%1 --"));
+        const QString details = S("Line 1, column 1: found '%', expected a number, a name, a "
+                                  "function, a sign, \"not\", \"if\" or \"(\".");
+        QCOMPARE(wrong.getXmlComment(), S("Math expression syntax is not valid: Syntax error., ") + details);
+        QCOMPARE(wrong.getErrorMessage(), S("Math expression '%1 --': Syntax error., ") + details);
     }
 
     // A comment must not hold two hyphens.
@@ -61,11 +49,10 @@ private Q_SLOTS:
 
     void unresolvedFunctions()
     {
-        coExpression expression(QStringLiteral("f(sin(x)) + h(x)"));
-        QStringList messages{QStringLiteral("before")};
+        coExpression expression(S("f(sin(x)) + h(x)"));
+        QStringList messages{S("before")};
         QVERIFY(!ncoExpressionValidator::checkForUnresolvedFunctions(expression, &messages));
-        QCOMPARE(messages.mid(1),
-                 QStringList{QStringLiteral("The formula contains unknown functions: f, h")});
+        QCOMPARE(messages.mid(1), QStringList{S("The formula contains unknown functions: f, h")});
         QVERIFY(!ncoExpressionValidator::checkForUnresolvedFunctions(expression, nullptr));
     }
 
@@ -83,20 +70,19 @@ private Q_SLOTS:
     void spaceDomainFunctions()
     {
         const QStringList all{
-            QStringLiteral(
-                "The formula contains more than one function across the entire space domain but only "
-                "one function is supported to be used in the formula."),
-            QStringLiteral("If a function across the entire space domain like max is used, then only one "
-                           "variable is supported to be used in the formula."),
-            QStringLiteral("If a function across the entire space domain like max is used, then no other "
-                           "operations are supported to be used in the formula.")};
+            S("The formula contains more than one function across the entire space domain but only "
+              "one function is supported to be used in the formula."),
+            S("If a function across the entire space domain like max is used, then only one "
+              "variable is supported to be used in the formula."),
+            S("If a function across the entire space domain like max is used, then no other "
+              "operations are supported to be used in the formula.")};
         QFETCH(int, first);
         const QString text = QString::fromLatin1(QTest::currentDataTag());
         coExpression expression(text);
         const auto same = [](double x) { return x; };
-        expression.setFunction(QStringLiteral("max"), same);
-        expression.setFunction(QStringLiteral("min"), same, coExpression::SpaceDomain);
-        expression.setFunction(QStringLiteral("point"), same, coExpression::Pointwise);
+        expression.setFunction(S("max"), same);
+        expression.setFunction(S("min"), same, coExpression::SpaceDomain);
+        expression.setFunction(S("point"), same, coExpression::Pointwise);
         QStringList messages;
         QCOMPARE(ncoExpressionValidator::checkForValidSpaceDomainFctUsage(text, expression, &messages),
                  first > 2);
@@ -134,8 +120,8 @@ private Q_SLOTS:
     void orders()
     {
         QFETCH(QString, formulas);
-        coExpressionOrder order = orderOf(pairsOf(formulas));
-        order.addKnownName(QStringLiteral("known"));
+        coExpressionOrder order = orderOf(formulas);
+        order.addKnownName(S("known"));
         QFETCH(int, failure);
         QCOMPARE(order.sort(), failure == coExpressionOrder::NoFailure);
         QCOMPARE(int(order.failure()), failure);
@@ -147,30 +133,29 @@ private Q_SLOTS:
 
     void tellsPartsOfFailures()
     {
-        coExpressionOrder circle = orderOf(pairsOf(QStringLiteral("s=a; a=b; b=a")));
+        coExpressionOrder circle = orderOf(S("s=a; a=b; b=a"));
         QVERIFY(!circle.sort());
-        QCOMPARE(circle.circle(), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
-        coExpressionOrder undefined = orderOf(pairsOf(QStringLiteral("s=a; a=b")));
+        QCOMPARE(circle.circle(), (QStringList{S("a"), S("b")}));
+        coExpressionOrder undefined = orderOf(S("s=a; a=b"));
         QVERIFY(!undefined.sort());
-        QCOMPARE(undefined.failedName() + undefined.undefinedName(), QStringLiteral("ab"));
-        undefined.add(QStringLiteral("b"), QStringLiteral("1"));
+        QCOMPARE(undefined.failedName() + undefined.undefinedName(), S("ab"));
+        undefined.add(S("b"), S("1"));
         QVERIFY(undefined.sort());
         QCOMPARE(undefined.failedName() + undefined.errorString(), QString());
     }
 
     void evaluatesInOrder()
     {
-        coExpressionOrder order =
-            orderOf(pairsOf(QStringLiteral("power=voltage*180; voltage=24+t/10; heat=power/(t-7)")));
-        order.addKnownName(QStringLiteral("t"));
-        QHash<QString, double> values{{QStringLiteral("t"), 5.0}};
+        coExpressionOrder order = orderOf(S("power=voltage*180; voltage=24+t/10; heat=power/(t-7)"));
+        order.addKnownName(S("t"));
+        QHash<QString, double> values{{S("t"), 5.0}};
         QVERIFY2(order.evaluate(&values), qPrintable(order.errorString()));
-        QCOMPARE(values.value(QStringLiteral("heat")), 24.5 * 180 / -2);
-        values[QStringLiteral("t")] = 7.0;
+        QCOMPARE(values.value(S("heat")), 24.5 * 180 / -2);
+        values[S("t")] = 7.0;
         QVERIFY(!order.evaluate(&values));
-        QCOMPARE(order.failedName(), QStringLiteral("heat"));
+        QCOMPARE(order.failedName(), S("heat"));
         QVERIFY(order.errorString().contains(QLatin1String("Division by zero.")));
-        QCOMPARE(values.value(QStringLiteral("power")), 24.7 * 180);
+        QCOMPARE(values.value(S("power")), 24.7 * 180);
         values.clear();
         QVERIFY(!order.evaluate(&values));
         QVERIFY(order.errorString().contains(QLatin1String("Undefined variable(s): t.")));
@@ -181,11 +166,11 @@ private Q_SLOTS:
         constexpr int length = 20000;
         coExpressionOrder order;
         for (int i = 0; i < length; ++i)
-            order.add(QStringLiteral("v%1").arg(i), QStringLiteral("v%1 + 1").arg(i + 1));
-        order.add(QStringLiteral("v%1").arg(length), QStringLiteral("0"));
+            order.add(S("v%1").arg(i), S("v%1 + 1").arg(i + 1));
+        order.add(S("v%1").arg(length), S("0"));
         QHash<QString, double> values;
         QVERIFY(order.evaluate(&values));
-        QCOMPARE(values.value(QStringLiteral("v0")), double(length));
+        QCOMPARE(values.value(S("v0")), double(length));
     }
 };
 

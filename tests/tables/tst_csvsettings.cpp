@@ -6,8 +6,6 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#define S(text) QStringLiteral(text)
-
 /// The user's separators: their numbers, their storage, and what comes of settings that hold nonsense.
 class TestCsvSettings : public QObject {
     Q_OBJECT

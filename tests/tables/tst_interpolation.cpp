@@ -3,7 +3,6 @@
 
 #include <cmath>
 #include <random>
-#include <thread>
 
 using Rule = kdDataTable::e_InterpolationRuleOutsideInterval;
 Q_DECLARE_METATYPE(Rule)
@@ -172,17 +171,13 @@ private Q_SLOTS:
             xs.setValues({0, 1, 2, 3});
             kdDataTable table;
             QVERIFY(table.appendColumn(xs) && table.appendColumn(xs));
-            double sums[2] = {0, 0};
-            const auto work = [&shared = std::as_const(table)](double* sum) {
+            Values sums{0, 0};
+            kdqInThreads(2, [&shared = std::as_const(table), sum = sums.data()](int thread) {
                 for (double x = 0.0; x < 3.0; x += 0.25)
-                    *sum += shared.getInterpolDoubleValue(1, x) + shared.indexOfYMax()
+                    sum[thread] += shared.getInterpolDoubleValue(1, x) + shared.indexOfYMax()
                         + shared.maxYValue().value();
-            };
-            std::thread other(work, &sums[0]);
-            work(&sums[1]);
-            other.join();
-            QCOMPARE(sums[0], 16.5 + 12 * 6.0);
-            QCOMPARE(sums[1], sums[0]);
+            });
+            QCOMPARE(sums, Values(2, 16.5 + 12 * 6.0));
         }
     }
 };

@@ -3,7 +3,6 @@
 
 #include <cmath>
 #include <functional>
-#include <random>
 
 using Change = std::function<bool(kdDataTable&)>;
 Q_DECLARE_METATYPE(Change)
@@ -20,25 +19,6 @@ bool near(const Points& a, const Points& b)
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const QPointF& one, const QPointF& two) {
         return near(one.x(), two.x()) && near(one.y(), two.y());
     });
-}
-
-// Strictly rising X, some of them shared between curves.
-kdDataTable randomCurve(std::mt19937& random)
-{
-    Points points;
-    double x = int(random() % 8);
-    for (int size = 1 + int(random() % 12); size > 0; --size) {
-        points.append(QPointF(x, int(random() % 2001) - 1000));
-        x += random() % 2 ? 1.0 : 0.37;
-    }
-    return curve(points);
-}
-
-kdDataTable falling(const kdDataTable& table)
-{
-    kdDataTable result(table);
-    result.sortForXValues(true);
-    return result;
 }
 
 } // namespace
@@ -216,41 +196,6 @@ private Q_SLOTS:
         QVERIFY(near(part.points(), cut.isEmpty() ? one : cut));
     }
 
-    void randomCurvesKeepTheirLaws()
-    {
-        std::mt19937 random(11);
-        for (int round = 0; round < 2000; ++round) {
-            const kdDataTable a = round % 3 ? randomCurve(random) : falling(randomCurve(random));
-            const kdDataTable b = round % 2 ? randomCurve(random) : falling(randomCurve(random));
-            kdDataTable ab(a);
-            kdDataTable ba(b);
-            QVERIFY(ab.sumXY(b) && ba.sumXY(a));
-            kdDataTable back(ab);
-            QVERIFY(back.subtractXY(b));
-            for (const QPointF& point : back) {
-                QVERIFY(near(point.y(), a.getInterpolDoubleValue(1, point.x())));
-                QVERIFY(
-                    near(ab.getInterpolDoubleValue(1, point.x()), ba.getInterpolDoubleValue(1, point.x())));
-            }
-            for (const QPointF& point : a)
-                QVERIFY(back.column(0)->containsValue(point.x()));
-
-            kdDataTable half(b); // the result may take the place of a source
-            kdDataTable cut;
-            const bool meet = a.average(half, half);
-            QCOMPARE(a.getCutByOtherTable(b, cut), meet);
-            if (!meet) {
-                QCOMPARE(half, b);
-                continue;
-            }
-            for (const QPointF& point : half)
-                QVERIFY(near(point.y() * 2.0, ab.getInterpolDoubleValue(1, point.x())));
-            for (const QPointF& point : cut)
-                QVERIFY(near(point.y(), a.getInterpolDoubleValue(1, point.x())));
-            QVERIFY(cut.minXValue() == half.minXValue() && cut.maxXValue() == half.maxXValue());
-        }
-    }
-
     void combinesInItsOwnUnits()
     {
         kdDataTable metres = curve({{0, 1}, {0.3, 4}}, kdUnitSystem::Time, kdUnitSystem::Length);
@@ -269,17 +214,6 @@ private Q_SLOTS:
         QVERIFY(other.applySamplingPoints(samples));
         QVERIFY(near(other.points(), {{150, 2500}}));
         QVERIFY(!other.applySamplingPoints(*kelvin.column(1)));
-    }
-
-    void roundingOfAConversionMakesNoNodes()
-    {
-        kdDataTable metres(kdUnitSystem::Length, kdUnitSystem::Force);
-        for (int i = 0; i < 100; ++i)
-            metres.addPoint(0.037 + 0.1 * i, i);
-        kdDataTable inches(metres);
-        QVERIFY(inches.xToUnit(4));
-        QVERIFY(metres.sumXY(inches));
-        QCOMPARE(metres.rows(), 100);
     }
 
     void equalXKeepTheirOrder()
