@@ -417,6 +417,10 @@
         <source>&apos;%1&apos; holds no table.</source>
         <translation>„%1“ enthält keine Tabelle.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; has comments between its values: saving leaves them out.</source>
+        <translation>„%1“ hat Kommentare zwischen den Werten: Beim Speichern fallen sie weg.</translation>
+    </message>
 </context>
 <context>
     <name>EditCommand</name>

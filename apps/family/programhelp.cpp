@@ -84,9 +84,9 @@ QString nManual::section(const char* title)
 
 QCommandLineOption ProgramHelp::manualOption()
 {
-    return {QStringLiteral("manual"),
-            QCoreApplication::translate("ProgramHelp",
-                                        "Writes the manual page to standard output, in mdoc.")};
+    return {
+        QStringLiteral("manual"),
+        QCoreApplication::translate("ProgramHelp", "Writes the manual page to standard output, in mdoc.")};
 }
 
 bool ProgramHelp::isTextWanted(int argc, char** argv)

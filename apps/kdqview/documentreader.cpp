@@ -43,6 +43,20 @@ bool looksLikeDeck(const QByteArray& beginning)
     return false;
 }
 
+/// Whether kdDataTable skips the line as a comment. What follows "%" may also be a row of units.
+bool isComment(const QByteArray& line)
+{
+    return line.startsWith('#') || line.startsWith("//") || line.startsWith('!') || line.startsWith('$')
+        || line.startsWith('*') || line.startsWith("% ");
+}
+
+QString commentText(QByteArray line)
+{
+    while (isComment(line))
+        line = line.mid(line.startsWith("//") ? 2 : 1).trimmed();
+    return QString::fromUtf8(line);
+}
+
 } // namespace
 
 DocumentReader::DocumentReader(const kdReporterInterface& reporter, ProgressFile::StopCondition isStopped)
@@ -135,7 +149,29 @@ QSharedPointer<Document> DocumentReader::readText(QFile& file)
         return fail(error);
     if (table.columns() == 0)
         return fail(tr("'%1' holds no table.").arg(nameOf(file)));
+    table.setComment(readComments(file));
     return tableDocument(file, std::move(table));
+}
+
+/// Those above the first values or names, which saving keeps; tells of others, which it does not.
+QString DocumentReader::readComments(QFile& file)
+{
+    QStringList comments;
+    bool isAbove = true;
+    file.seek(0);
+    while (!file.atEnd() && !m_isStopped()) {
+        const QByteArray line = file.readLine().trimmed();
+        const bool isDescription = line.startsWith("#dimension=");
+        if (isAbove && isComment(line) && !isDescription)
+            comments.append(commentText(line));
+        isAbove = isAbove && (line.isEmpty() || isComment(line));
+        if (!isAbove && isComment(line)) {
+            m_reporter.message(
+                tr("'%1' has comments between its values: saving leaves them out.").arg(nameOf(file)), 0);
+            break;
+        }
+    }
+    return comments.join(QLatin1Char('\n'));
 }
 
 QSharedPointer<Document> DocumentReader::tableDocument(const QFile& file, kdDataTable table) const

@@ -26,6 +26,7 @@ private:
     Result readHeatTreatment(QFile& file);
     Result readDeck(QFile& file);
     Result readText(QFile& file);
+    QString readComments(QFile& file);
     Result tableDocument(const QFile& file, kdDataTable table) const;
     Result fail(const QString& errorText);
 

@@ -8,10 +8,34 @@
 
 namespace {
 
+QStringList commentLines(const kdDataTable& table)
+{
+    return table.comment().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+class CsvWriter : public coTableCSVWriter {
+public:
+    explicit CsvWriter(const kdDataTable& table)
+        : coTableCSVWriter(table), m_comments(commentLines(table)) { }
+
+    void writeColumnHeader(QTextStream& stream) const override
+    {
+        for (const QString& comment : m_comments)
+            writeComment(stream, comment);
+        coTableCSVWriter::writeColumnHeader(stream);
+    }
+
+private:
+    QStringList m_comments;
+};
+
 bool writeText(const kdDataTable& table, QIODevice& device)
 {
     QTextStream stream(&device);
     stream.setCodec("UTF-8");
+    const QStringList comments = commentLines(table);
+    for (const QString& comment : comments)
+        stream << "# " << comment << '\n';
     const bool isWritten = table.exportValuesToTextStream(stream);
     stream.flush();
     return isWritten && stream.status() == QTextStream::Ok;
@@ -19,7 +43,7 @@ bool writeText(const kdDataTable& table, QIODevice& device)
 
 bool writeCsv(const kdDataTable& table, QIODevice& device)
 {
-    coTableCSVWriter writer(table);
+    CsvWriter writer(table);
     writer.initFromSettings();
     writer.setHeader(coCSVWriter::TitleRow);
     return writer.write(&device);

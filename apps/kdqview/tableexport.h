@@ -8,7 +8,8 @@ QT_BEGIN_NAMESPACE
 class QIODevice;
 QT_END_NAMESPACE
 
-/// The forms in which a table can be written.
+/// The forms in which a table can be written. All keep its comment: text and CSV as comment lines above the
+/// rest, where the table has one.
 namespace TableExport {
 
 enum Form {

@@ -27,6 +27,7 @@
 #include <QtCharts/QXYSeries>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QTreeWidget>
 
 using namespace QtCharts;
 
@@ -229,13 +230,20 @@ private Q_SLOTS:
     void exports()
     {
         QFETCH(QString, name);
-        m_window->openFiles({curveFile()});
+        m_window->openFiles(
+            {write(QStringLiteral("noted.csv"),
+                   "# Furnace \"A\", 5 %\n// as measured\ntime [min];temperature [degC]\n0;20\n"
+                   "# door opened\n5;576.5\n30;842\n")});
+        const auto* const log = part<LogDock>("log").findChild<QTreeWidget*>();
+        QCOMPARE(log->findItems(QStringLiteral("comments between"), Qt::MatchContains, 1).size(), 1);
         type(2, 1, QStringLiteral("900.125"));
         const kdDataTable written = m_workspace->documents().constFirst()->sheet(0)->table();
         pressAndName(Qt::Key_E, Qt::ControlModifier, m_folder.filePath(name));
         m_window->openFiles({m_folder.filePath(name)});
         QCOMPARE(m_workspace->documents().size(), 2);
-        QVERIFY(m_workspace->documents().constLast()->sheet(0)->table().equalsContent(written));
+        const kdDataTable& again = m_workspace->documents().constLast()->sheet(0)->table();
+        QVERIFY(again.equalsContent(written));
+        QCOMPARE(again.comment(), QStringLiteral("Furnace \"A\", 5 %\nas measured"));
 
         pressAndName(Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier,
                      m_folder.filePath(name + QStringLiteral(".svg")));
