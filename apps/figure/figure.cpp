@@ -86,14 +86,12 @@ QVector<QVector<QPointF>> Figure::pieces(const Curve& curve) const
 {
     QVector<QVector<QPointF>> pieces;
     const Axis yAxis = y.value(curve.axis);
-    bool isInside = false;
-    for (const QPointF& point : curve.points) {
-        const bool wasInside = isInside;
-        isInside = isDrawable(point, yAxis);
-        if (isInside && !wasInside)
-            pieces.append(QVector<QPointF>());
-        if (isInside)
-            pieces.last().append(point);
+    const auto isShown = [&](const QPointF& point) { return isDrawable(point, yAxis); };
+    for (auto end = curve.points.begin(); end != curve.points.end();) {
+        const auto begin = std::find_if(end, curve.points.end(), isShown);
+        end = std::find_if_not(begin, curve.points.end(), isShown);
+        if (begin != end) // the whole curve is shared, not copied
+            pieces.append(curve.points.mid(int(begin - curve.points.begin()), int(end - begin)));
     }
     if (curve.form == Curve::Steps)
         std::transform(pieces.begin(), pieces.end(), pieces.begin(), withCorners);
@@ -128,17 +126,20 @@ QVector<QVector<QPointF>> Figure::clipped(const QVector<QVector<QPointF>>& piece
 Figure Figure::thinned(int columns) const
 {
     QVector<QVector<QVector<QPointF>>> allPieces;
-    QPointF ends(std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest());
+    double from = std::numeric_limits<double>::max();
+    double to = std::numeric_limits<double>::lowest();
     for (const Curve& curve : curves) {
         allPieces.append(pieces(curve));
         for (const QVector<QPointF>& piece : qAsConst(allPieces.last()))
-            for (const QPointF& point : piece)
-                ends = {std::min(ends.x(), point.x()), std::max(ends.y(), point.x())};
+            for (const QPointF& point : piece) {
+                from = std::min(from, point.x());
+                to = std::max(to, point.x());
+            }
     }
     Figure result = *this;
     for (int i = 0; i < curves.size(); ++i)
         if (curves.at(i).form != Curve::Points && curves.at(i).points.size() > 4 * columns)
-            thin(result.curves[i], allPieces.at(i), ends, columns);
+            thin(result.curves[i], allPieces.at(i), {from, to}, columns);
     return result;
 }
 
@@ -155,12 +156,18 @@ void Figure::thin(Curve& curve, const QVector<QVector<QPointF>>& pieces, const Q
             curve.points.append({unset, unset});
         Run run;
         double column = 0.0;
+        double left = 0.0; // of the column, as values: most points lie in that of the one before
+        double right = 0.0;
         for (int i = 0; i < piece.size(); ++i) {
-            const double itsColumn =
-                width > 0.0 ? std::floor((scale.to(piece.at(i).x()) - from) / width) : 0.0;
-            if (itsColumn != column)
-                run.moveTo(curve.points, piece);
-            column = itsColumn;
+            const double value = piece.at(i).x();
+            if (!(value >= left && value < right)) {
+                const double itsColumn = width > 0.0 ? std::floor((scale.to(value) - from) / width) : 0.0;
+                if (itsColumn != column)
+                    run.moveTo(curve.points, piece);
+                column = itsColumn;
+                left = scale.from(from + column * width);
+                right = scale.from(from + (column + 1.0) * width);
+            }
             run.add(piece.at(i), i);
         }
         run.moveTo(curve.points, piece);
