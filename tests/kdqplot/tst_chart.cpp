@@ -25,8 +25,6 @@ private Q_SLOTS:
     void refused();
 };
 
-#define S(text) QStringLiteral(text)
-
 namespace {
 
 Figure sample()
@@ -103,12 +101,12 @@ void TestChart::ticks_data()
     QTest::addColumn<double>("to");
     QTest::addColumn<double>("step");
     QTest::addColumn<int>("decimals");
-    QTest::newRow("round") << 0.0 << 1200.0 << 0.0 << 1200.0 << 200.0 << 0;
-    QTest::newRow("quarters") << -0.7 << 0.7 << -0.75 << 0.75 << 0.25 << 2;
-    QTest::newRow("rounded sums") << 0.1 << 0.1 + 0.2 << 0.1 << 0.3 << 0.05 << 2;
-    QTest::newRow("equal values") << 20.0 << 20.0 << 18.0 << 22.0 << 1.0 << 0;
-    QTest::newRow("nothing") << 0.0 << 0.0 << -1.0 << 1.0 << 0.5 << 1;
-    QTest::newRow("small") << 1e-300 << 6e-300 << 1e-300 << 6e-300 << 1e-300 << 12;
+    kdqRow("round", 0.0, 1200.0, 0.0, 1200.0, 200.0, 0);
+    kdqRow("quarters", -0.7, 0.7, -0.75, 0.75, 0.25, 2);
+    kdqRow("rounded sums", 0.1, 0.1 + 0.2, 0.1, 0.3, 0.05, 2);
+    kdqRow("equal values", 20.0, 20.0, 18.0, 22.0, 1.0, 0);
+    kdqRow("nothing", 0.0, 0.0, -1.0, 1.0, 0.5, 1);
+    kdqRow("small", 1e-300, 6e-300, 1e-300, 6e-300, 1e-300, 12);
 }
 
 void TestChart::ticks()
@@ -168,19 +166,16 @@ void TestChart::forms_data()
     QTest::addColumn<QVector<int>>("lines"); // points of each
     QTest::addColumn<int>("circles");
     const double gap = Figure::unset;
-    QTest::newRow("line") << oneCurve(Figure::Curve::Lines, {{0, 1}, {1, 3}, {2, 2}}) << QVector<int>{3} << 0;
-    QTest::newRow("gap") << oneCurve(Figure::Curve::Lines, {{0, 1}, {1, 3}, {gap, 0}, {2, 2}, {3, 2}, {4, 1}})
-                         << QVector<int>{2, 3} << 0;
-    QTest::newRow("steps") << oneCurve(Figure::Curve::Steps, {{0, 1}, {1, 3}, {2, 2}}) << QVector<int>{5}
-                           << 0;
-    QTest::newRow("single point") << oneCurve(Figure::Curve::Lines, {{2, 2}}) << QVector<int>{} << 1;
-    QTest::newRow("points") << oneCurve(Figure::Curve::Points, {{0, 1}, {1, 3}, {2, 2}}) << QVector<int>{}
-                            << 3;
+    kdqRow("line", oneCurve(Figure::Curve::Lines, {{0, 1}, {1, 3}, {2, 2}}), QVector<int>{3}, 0);
+    kdqRow("gap", oneCurve(Figure::Curve::Lines, {{0, 1}, {1, 3}, {gap, 0}, {2, 2}, {3, 2}, {4, 1}}),
+           QVector<int>{2, 3}, 0);
+    kdqRow("steps", oneCurve(Figure::Curve::Steps, {{0, 1}, {1, 3}, {2, 2}}), QVector<int>{5}, 0);
+    kdqRow("single point", oneCurve(Figure::Curve::Lines, {{2, 2}}), QVector<int>{}, 1);
+    kdqRow("points", oneCurve(Figure::Curve::Points, {{0, 1}, {1, 3}, {2, 2}}), QVector<int>{}, 3);
     Figure logarithmic = oneCurve(Figure::Curve::Lines, {{-1, 1}, {1, 1e-200}, {10, 1e200}});
     logarithmic.x.isLogarithmic = logarithmic.y[0].isLogarithmic = true;
-    QTest::newRow("logarithmic") << logarithmic << QVector<int>{2} << 0;
-    QTest::newRow("huge") << oneCurve(Figure::Curve::Lines, {{-1e300, -1e300}, {1e300, 1e300}})
-                          << QVector<int>{2} << 0;
+    kdqRow("logarithmic", logarithmic, QVector<int>{2}, 0);
+    kdqRow("huge", oneCurve(Figure::Curve::Lines, {{-1e300, -1e300}, {1e300, 1e300}}), QVector<int>{2}, 0);
 }
 
 void TestChart::forms()
@@ -210,10 +205,9 @@ void TestChart::refused_data()
     QTest::addColumn<Figure>("figure");
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("nothing") << oneCurve(Figure::Curve::Lines, {}) << QSize(640, 400) << S("nothing to draw");
-    QTest::newRow("small") << sample() << QSize(640, 199)
-                           << S("200 to 10000 pixels each way, not 1280 x 398");
-    QTest::newRow("large") << sample() << QSize(5001, 400) << S("not 10002 x 800");
+    kdqRow("nothing", oneCurve(Figure::Curve::Lines, {}), QSize(640, 400), "nothing to draw");
+    kdqRow("small", sample(), QSize(640, 199), "200 to 10000 pixels each way, not 1280 x 398");
+    kdqRow("large", sample(), QSize(5001, 400), "not 10002 x 800");
 }
 
 void TestChart::refused()
