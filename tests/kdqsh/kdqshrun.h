@@ -21,17 +21,8 @@ public:
     void setProgram(const QString& program) { m_program = program; }
     void setVariable(const QString& name, const QString& value) { m_environment.insert(name, value); }
 
-    bool write(const QString& name, const QByteArray& content) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-    }
-
-    QByteArray read(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    bool write(const QString& name, const QByteArray& content) const { return kdqWrite(path(name), content); }
+    QByteArray read(const QString& name) const { return kdqContentOf(path(name)); }
 
     /// False where it did not end in time or crashed.
     bool run(const QStringList& arguments, const QByteArray& input = QByteArray())
@@ -44,15 +35,20 @@ public:
 
     void start(const QStringList& arguments)
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
-        environment.insert(QStringLiteral("LOCALAPPDATA"), path(QStringLiteral("data")));
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("data/config")));
-        environment.insert(m_environment);
-        m_process.setProcessEnvironment(environment);
+        m_process.setProcessEnvironment(environment(path(S("data"))));
         m_process.setWorkingDirectory(folder());
         m_process.start(m_program, arguments);
         output.clear();
+    }
+
+    QProcessEnvironment environment(const QString& data) const
+    {
+        QProcessEnvironment result = QProcessEnvironment::systemEnvironment();
+        result.insert(S("LANGUAGE"), S("en"));
+        result.insert(S("LOCALAPPDATA"), data);
+        result.insert(S("XDG_CONFIG_HOME"), data + S("/config"));
+        result.insert(m_environment);
+        return result;
     }
 
     /// The next line of a shell that runs; empty where none comes.
@@ -75,7 +71,7 @@ public:
 
     bool runCommands(const QString& commands, const QStringList& options = {})
     {
-        return run(options + QStringList{QStringLiteral("-c"), commands});
+        return run(options + QStringList{S("-c"), commands});
     }
 
     QString output;
@@ -92,7 +88,7 @@ private:
     }
 
     QTemporaryDir m_folder;
-    QString m_program = QStringLiteral(KDQSH_PROGRAM);
+    QString m_program = S(KDQSH_PROGRAM);
     QProcess m_process;
     QProcessEnvironment m_environment;
 };

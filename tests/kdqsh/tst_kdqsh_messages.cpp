@@ -22,8 +22,6 @@ private:
     }
 };
 
-#define S(text) QStringLiteral(text)
-
 void TestKdqshMessages::shellsGreet()
 {
     KdqshRun listener;

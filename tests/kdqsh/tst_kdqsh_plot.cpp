@@ -23,8 +23,6 @@ private:
     static bool writeTables(const KdqshRun& shell);
 };
 
-#define S(text) QStringLiteral(text)
-
 namespace {
 
 const QString import = S("table import a.csv; table import b.csv; ");
@@ -54,30 +52,25 @@ void TestKdqshPlot::pictures_data()
 {
     QTest::addColumn<QString>("commands");
     QTest::addColumn<QStringList>("shown");
-    QTest::newRow("tables") << S("plot table a b to p.svg columns x,temperature xunit h title 'Two furnaces'")
-                            << QStringList{S("Two furnaces"), S("Time [h]"), S("Temperature [°C]"), S("a"),
-                                           S("b")};
-    QTest::newRow("two axes") << S("plot table a to p.svg columns 1,2,4 yunit m,K steps ytitle Furnace "
-                                   "y2title Strip names furnace,strip")
-                              << QStringList{S("a"), S("Furnace [K]"), S("Strip [m]"), S("strip")};
-    QTest::newRow("range") << S("plot table b to p.svg points xrange 0 7200 yrange 0 2000 size 400x300")
-                           << QStringList{S("7000"), S("2000")};
-    QTest::newRow("formulas") << S(
-        "parameter define square = x*x; plot formula square '1/x' over x from 0 to 4 to p.svg "
-        "yrange 0 16 xunit s xtitle Time")
-                              << QStringList{S("square"), S("1/x"), S("Time [s]"), S("15")};
-    QTest::newRow("logarithmic") << S("plot formula x^2 over x from 0.01 to 100 to p.svg logx logy")
-                                 << QStringList{S("x^2"), S("0.01"), S("10000")};
-    QTest::newRow("process") << S("heat new casehardening as g; plot heat g to p.svg yunit K,kg/kg xunit min")
-                             << QStringList{S("g"),
-                                            S("Time [min]"),
-                                            S("Temperature [K]"),
-                                            S("Carbon potential [kg/kg]"),
-                                            S("Diffusion"),
-                                            S("Quenching in oil")};
-    QTest::newRow("curve of a process")
-        << S("heat new stressrelief as g; heat curve g as t picture p.svg; table info t")
-        << QStringList{S("Temperature [°C]"), S("Heating")};
+    kdqRow("tables", "plot table a b to p.svg columns x,temperature xunit h title 'Two furnaces'",
+           QStringList{S("Two furnaces"), S("Time [h]"), S("Temperature [°C]"), S("a"), S("b")});
+    kdqRow("two axes",
+           "plot table a to p.svg columns 1,2,4 yunit m,K steps ytitle Furnace y2title Strip names "
+           "furnace,strip",
+           QStringList{S("a"), S("Furnace [K]"), S("Strip [m]"), S("strip")});
+    kdqRow("range", "plot table b to p.svg points xrange 0 7200 yrange 0 2000 size 400x300",
+           QStringList{S("7000"), S("2000")});
+    kdqRow("formulas",
+           "parameter define square = x*x; plot formula square '1/x' over x from 0 to 4 to p.svg yrange 0 16 "
+           "xunit s xtitle Time",
+           QStringList{S("square"), S("1/x"), S("Time [s]"), S("15")});
+    kdqRow("logarithmic", "plot formula x^2 over x from 0.01 to 100 to p.svg logx logy",
+           QStringList{S("x^2"), S("0.01"), S("10000")});
+    kdqRow("process", "heat new casehardening as g; plot heat g to p.svg yunit K,kg/kg xunit min",
+           QStringList{S("g"), S("Time [min]"), S("Temperature [K]"), S("Carbon potential [kg/kg]"),
+                       S("Diffusion"), S("Quenching in oil")});
+    kdqRow("curve of a process", "heat new stressrelief as g; heat curve g as t picture p.svg; table info t",
+           QStringList{S("Temperature [°C]"), S("Heating")});
 }
 
 void TestKdqshPlot::pictures()
@@ -145,25 +138,24 @@ void TestKdqshPlot::errors_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("error");
-    QTest::newRow("no file") << S("plot table a b c") << S("The picture is missing: to FILE");
-    QTest::newRow("other ending") << S("plot table a to p.pdf") << S("ends in .svg or .png");
-    QTest::newRow("no table") << S("plot table c to p.svg") << S("There is no table 'c'");
-    QTest::newRow("three quantities") << S("plot table a to p.svg") << S("choose columns");
-    QTest::newRow("one column") << S("plot table a to p.svg columns 2") << S("'columns' needs");
-    QTest::newRow("no column") << S("plot table a to p.svg columns 1,9") << S("Table 'a' has no column '9'");
-    QTest::newRow("few names") << S("plot table b to p.svg names a,b") << S("gives 2 names to 1 curves");
-    QTest::newRow("both forms") << S("plot table b to p.svg steps points") << S("exclude each other");
-    QTest::newRow("no unit") << S("plot formula x over x from 0 to 1 to p.svg xunit elephants")
-                             << S("'elephants' is no unit.");
-    QTest::newRow("no variable") << S("plot formula x from 0 to 1 to p.svg logx") << S("over NAME");
-    QTest::newRow("unknown name") << S("plot formula x+k over x from 0 to 1 to p.svg") << S("variable(s): k");
-    QTest::newRow("no end") << S("plot formula x over x from 0 to p.svg logx logy") << S("from A to B");
-    QTest::newRow("no values") << S("plot formula 'ln(0*x)' over x from 0 to 1 to p.svg") << S("ln(");
-    QTest::newRow("gaps only") << S("plot formula -1-x over x from 0 to 1 to p.svg logy")
-                               << S("nothing to draw");
-    QTest::newRow("two processes") << S("plot heat g h to p.svg") << S("One process");
-    QTest::newRow("no process") << S("plot heat g to p.svg") << S("There is no process 'g'");
-    QTest::newRow("curve") << S("heat curve g as t image p.svg") << S("'g'");
+    kdqRow("no file", "plot table a b c", "The picture is missing: to FILE");
+    kdqRow("other ending", "plot table a to p.pdf", "ends in .svg or .png");
+    kdqRow("no table", "plot table c to p.svg", "There is no table 'c'");
+    kdqRow("three quantities", "plot table a to p.svg", "choose columns");
+    kdqRow("one column", "plot table a to p.svg columns 2", "'columns' needs");
+    kdqRow("no column", "plot table a to p.svg columns 1,9", "Table 'a' has no column '9'");
+    kdqRow("few names", "plot table b to p.svg names a,b", "gives 2 names to 1 curves");
+    kdqRow("both forms", "plot table b to p.svg steps points", "exclude each other");
+    kdqRow("no unit", "plot formula x over x from 0 to 1 to p.svg xunit elephants",
+           "'elephants' is no unit.");
+    kdqRow("no variable", "plot formula x from 0 to 1 to p.svg logx", "over NAME");
+    kdqRow("unknown name", "plot formula x+k over x from 0 to 1 to p.svg", "variable(s): k");
+    kdqRow("no end", "plot formula x over x from 0 to p.svg logx logy", "from A to B");
+    kdqRow("no values", "plot formula 'ln(0*x)' over x from 0 to 1 to p.svg", "ln(");
+    kdqRow("gaps only", "plot formula -1-x over x from 0 to 1 to p.svg logy", "nothing to draw");
+    kdqRow("two processes", "plot heat g h to p.svg", "One process");
+    kdqRow("no process", "plot heat g to p.svg", "There is no process 'g'");
+    kdqRow("curve", "heat curve g as t image p.svg", "'g'");
 }
 
 void TestKdqshPlot::errors()

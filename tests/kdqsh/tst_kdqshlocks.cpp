@@ -1,8 +1,6 @@
 #include "kdqshrun.h"
 #include "kdqtest.h"
 
-#define S(text) QStringLiteral(text)
-
 namespace {
 
 const QString lockFile = S("kaldoran.lock");
@@ -12,10 +10,7 @@ class OtherShell : public QProcess {
 public:
     explicit OtherShell(const KdqshRun& shell)
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(S("LANGUAGE"), S("en"));
-        environment.insert(S("LOCALAPPDATA"), shell.path(S("other")));
-        setProcessEnvironment(environment);
+        setProcessEnvironment(shell.environment(shell.path(S("other"))));
         setWorkingDirectory(shell.folder());
         start(S(KDQSH_PROGRAM), {S("-")});
     }
@@ -52,24 +47,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("commands");
         QTest::addColumn<QString>("output"); // patterns
         QTest::addColumn<QString>("errors");
-        QTest::newRow("take, show, release")
-            << S("lock take .; lock show .; lock release .; lock show .")
-            << S("Folder '*' locked.\nFolder '*' is locked by * on * (kdqsh, process *), refreshed * s ago.\n"
-                 "Folder '*' released.\nFolder '*' is not locked.\n")
-            << S("");
-        QTest::newRow("deck in a folder locked by hand")
-            << S("lock take .; deck open a.dat; lock release .; deck close; lock show .")
-            << S("*stays locked for the open deck.\nDeck 'a.dat' written.\nFolder '*' is not locked.\n")
-            << S("");
-        QTest::newRow("hold") << S("lock hold . 0.01; lock show .") << S("*Folder '*' is not locked.\n")
-                              << S("");
-        QTest::newRow("own lock is no stale one")
-            << S("lock take .; lock break .") << S("*") << S("*The lock of '*' is not stale: * holds it.\n");
-        QTest::newRow("not taken") << S("lock release .") << S("")
-                                   << S("*has not been locked by 'lock take'.\n");
-        QTest::newRow("missing folder")
-            << S("lock take no") << S("") << S("*cannot be locked; the log says why.\n");
-        QTest::newRow("negative time") << S("lock hold . -1") << S("") << S("*SECONDS must be 0 to 1000000*");
+        kdqRow("take, show, release", "lock take .; lock show .; lock release .; lock show .",
+               "Folder '*' locked.\nFolder '*' is locked by * on * (kdqsh, process *), refreshed * s ago.\n"
+               "Folder '*' released.\nFolder '*' is not locked.\n",
+               "");
+        kdqRow("deck in a folder locked by hand",
+               "lock take .; deck open a.dat; lock release .; deck close; lock show .",
+               "*stays locked for the open deck.\nDeck 'a.dat' written.\nFolder '*' is not locked.\n", "");
+        kdqRow("hold", "lock hold . 0.01; lock show .", "*Folder '*' is not locked.\n", "");
+        kdqRow("own lock is no stale one", "lock take .; lock break .", "*",
+               "*The lock of '*' is not stale: * holds it.\n");
+        kdqRow("not taken", "lock release .", "", "*has not been locked by 'lock take'.\n");
+        kdqRow("missing folder", "lock take no", "", "*cannot be locked; the log says why.\n");
+        kdqRow("negative time", "lock hold . -1", "", "*SECONDS must be 0 to 1000000*");
     }
 
     void commands()
