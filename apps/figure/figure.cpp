@@ -182,11 +182,11 @@ QString Figure::fault() const
         return tr("A picture shows at most %1 curves, not %2.")
             .arg(QString::number(mostCurves), QString::number(curves.size()));
     for (const Axis& axis : QVector<Axis>{x} + y)
-        if (const QString fault = faultOfAxis(axis); !fault.isEmpty())
+        if (QString fault = faultOfAxis(axis); !fault.isEmpty())
             return fault;
     int pieceCount = 0;
     for (const Curve& curve : curves)
-        if (const QString fault = faultOfCurve(curve, pieceCount); !fault.isEmpty())
+        if (QString fault = faultOfCurve(curve, pieceCount); !fault.isEmpty())
             return fault;
     if (pieceCount == 0)
         return tr("There is nothing to draw: no curve has a point that can be shown.");

@@ -20,7 +20,7 @@ qint64 expectedSize(const coHeatTreatmentData& process)
     const auto add = [&size](const coTableInput& input) {
         size += !input.isConstant() && input.hasDataTable() ? input.dataTable()->rows() * sizeOfRow : 0;
     };
-    const QList<coHeatTreatmentData::StagePointer> stages = process.stages();
+    const QList<coHeatTreatmentData::StagePointer>& stages = process.stages();
     for (const coHeatTreatmentData::StagePointer& stage : stages) {
         size += sizeOfStage;
         add(stage->temperature());

@@ -28,18 +28,18 @@ void MainWindow::createActions()
 {
     m_actions.open = newAction("open", QKeySequence::Open, &MainWindow::open);
     m_actions.save = newAction("save", QKeySequence::Save, &MainWindow::save);
-    m_actions.saveAs = newAction("", Qt::CTRL | Qt::SHIFT | Qt::Key_S, &MainWindow::saveAs);
-    m_actions.exportTable = newAction("exporttable", Qt::CTRL | Qt::Key_E, &MainWindow::exportTable);
+    m_actions.saveAs = newAction("", QStringLiteral("Ctrl+Shift+S"), &MainWindow::saveAs);
+    m_actions.exportTable = newAction("exporttable", QStringLiteral("Ctrl+E"), &MainWindow::exportTable);
     m_actions.exportCurve =
-        newAction("exportcurve", Qt::CTRL | Qt::SHIFT | Qt::Key_E, &MainWindow::exportCurve);
-    m_actions.close = newAction("", Qt::CTRL | Qt::Key_W, &MainWindow::closeDocument);
-    m_actions.quit = newAction("", Qt::CTRL | Qt::Key_Q, nullptr);
+        newAction("exportcurve", QStringLiteral("Ctrl+Shift+E"), &MainWindow::exportCurve);
+    m_actions.close = newAction("", QStringLiteral("Ctrl+W"), &MainWindow::closeDocument);
+    m_actions.quit = newAction("", QStringLiteral("Ctrl+Q"), nullptr);
     m_actions.undo = newAction("undo", QKeySequence::Undo, nullptr);
     m_actions.redo = newAction("redo", QKeySequence::Redo, nullptr);
     m_actions.copy = newAction("", QKeySequence::Copy, nullptr);
-    m_actions.insertRow = newAction("insertrow", Qt::CTRL | Qt::Key_Plus, nullptr);
-    m_actions.appendRow = newAction("", Qt::CTRL | Qt::SHIFT | Qt::Key_Plus, nullptr);
-    m_actions.removeRows = newAction("removerows", Qt::CTRL | Qt::Key_Delete, nullptr);
+    m_actions.insertRow = newAction("insertrow", QStringLiteral("Ctrl++"), nullptr);
+    m_actions.appendRow = newAction("", QStringLiteral("Ctrl+Shift++"), nullptr);
+    m_actions.removeRows = newAction("removerows", QStringLiteral("Ctrl+Del"), nullptr);
     m_actions.about = newAction("", QKeySequence(), &MainWindow::about);
     m_actions.aboutQt = newAction("", QKeySequence(), nullptr);
     connect(m_actions.quit, &QAction::triggered, this, &QWidget::close);
