@@ -13,7 +13,9 @@
 #include <QtCharts/QScatterSeries>
 #include <QtCharts/QValueAxis>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 using namespace QtCharts;
 

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QLocale>
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QSaveFile>
@@ -109,6 +110,15 @@ private:
         return true;
     }
 
+    bool readFigure(const QString& path, const QByteArray& json, Figure& figure)
+    {
+        if (Figure::fromJson(json, figure, m_error))
+            m_error = figure.fault();
+        if (!m_error.isEmpty() && path != QLatin1String("-"))
+            m_error = QStringLiteral("'%1': %2").arg(path, m_error);
+        return m_error.isEmpty();
+    }
+
     bool write(const QString& path, const QByteArray& bytes)
     {
         QSaveFile file(path);
@@ -121,7 +131,7 @@ private:
         QByteArray json;
         Figure figure;
         QByteArray picture;
-        const bool ok = read(input, json) && Figure::fromJson(json, figure, m_error)
+        const bool ok = read(input, json) && readFigure(input, json, figure)
             && !(picture = nChart::picture(figure, m_format, m_size, m_scale, m_error)).isEmpty()
             && write(output, picture);
         return ok ? int(AllWell) : say(m_error, Failed);

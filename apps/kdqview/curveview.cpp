@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <limits>
 
 using namespace QtCharts;
 

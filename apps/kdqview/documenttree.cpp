@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QEvent>
-#include <QHeaderView>
 #include <QScopedValueRollback>
 
 namespace {

@@ -19,6 +19,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QUrl>
 
 MainWindow::MainWindow(Language& language)
     : m_language(language), m_sheet(new SheetView), m_pages(new QStackedWidget), m_welcome(new QLabel),

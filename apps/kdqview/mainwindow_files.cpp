@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMap>
 #include <QMenu>
 #include <QMessageBox>
 #include <QSaveFile>
@@ -165,8 +166,10 @@ void MainWindow::exportTable()
         return;
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    TableExport::write(document.sheet(m_sheet->sheet())->table(), buffer, TableExport::formOf(path));
-    writeFile(path, buffer.data());
+    if (TableExport::write(document.sheet(m_sheet->sheet())->table(), buffer, TableExport::formOf(path)))
+        writeFile(path, buffer.data());
+    else
+        refuse(tr("'%1' cannot be written: %2").arg(QDir::toNativeSeparators(path), buffer.errorString()));
 }
 
 void MainWindow::exportCurve()

@@ -3,7 +3,6 @@
 #include "document.h"
 
 #include <QEvent>
-#include <QHeaderView>
 
 OutlineView::OutlineView(QWidget* parent) : QTreeWidget(parent)
 {
