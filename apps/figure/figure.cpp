@@ -87,11 +87,13 @@ QVector<QVector<QPointF>> Figure::pieces(const Curve& curve) const
     QVector<QVector<QPointF>> pieces;
     const Axis yAxis = y.value(curve.axis);
     const auto isShown = [&](const QPointF& point) { return isDrawable(point, yAxis); };
-    for (auto end = curve.points.begin(); end != curve.points.end();) {
-        const auto begin = std::find_if(end, curve.points.end(), isShown);
-        end = std::find_if_not(begin, curve.points.end(), isShown);
+    const QPointF* const points = curve.points.constData();
+    const QPointF* const last = points + curve.points.size();
+    for (const QPointF* end = points; end != last;) {
+        const QPointF* const begin = std::find_if(end, last, isShown);
+        end = std::find_if_not(begin, last, isShown);
         if (begin != end) // the whole curve is shared, not copied
-            pieces.append(curve.points.mid(int(begin - curve.points.begin()), int(end - begin)));
+            pieces.append(curve.points.mid(int(begin - points), int(end - begin)));
     }
     if (curve.form == Curve::Steps)
         std::transform(pieces.begin(), pieces.end(), pieces.begin(), withCorners);
@@ -110,7 +112,8 @@ QVector<QVector<QPointF>> Figure::clipped(const QVector<QVector<QPointF>>& piece
     if (window.isOpen())
         return pieces;
     QVector<QVector<QPointF>> result;
-    for (QVector<QPointF> piece : pieces) {
+    for (const QVector<QPointF>& whole : pieces) {
+        QVector<QPointF> piece = whole;
         for (QPointF& point : piece)
             point = {xScale.to(point.x()), yScale.to(point.y())};
         QVector<QVector<QPointF>> parts =
@@ -181,7 +184,8 @@ QString Figure::fault() const
     if (curves.size() > mostCurves)
         return tr("A picture shows at most %1 curves, not %2.")
             .arg(QString::number(mostCurves), QString::number(curves.size()));
-    for (const Axis& axis : QVector<Axis>{x} + y)
+    const QVector<Axis> axes = QVector<Axis>{x} + y;
+    for (const Axis& axis : axes)
         if (QString fault = faultOfAxis(axis); !fault.isEmpty())
             return fault;
     int pieceCount = 0;

@@ -96,10 +96,11 @@ QVector<QPolygonF> StretchBands::curves() const
     QVector<QPolygonF> curves;
     const QList<QtCharts::QAbstractSeries*> allSeries = m_chart.series();
     for (QtCharts::QAbstractSeries* const series : allSeries) {
+        const auto* const line = qobject_cast<const QtCharts::QXYSeries*>(series);
+        const QVector<QPointF> points = line != nullptr ? line->pointsVector() : QVector<QPointF>();
         QPolygonF curve;
-        if (const auto* const points = qobject_cast<const QtCharts::QXYSeries*>(series))
-            for (const QPointF& point : points->pointsVector())
-                curve.append(m_chart.mapToPosition(point, series));
+        for (const QPointF& point : points)
+            curve.append(m_chart.mapToPosition(point, series));
         curves.append(curve);
     }
     return curves;

@@ -42,10 +42,6 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
     help.describeTo(parser);
     parser.addOptions(help.options);
 
-    const auto refuse = [this](const QString& reason) {
-        text = reason;
-        return Refuse;
-    };
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
     if (parser.isSet(helpOption)) {
@@ -62,29 +58,48 @@ ShellOptions::Outcome ShellOptions::parse(const QStringList& arguments, bool isI
         text = nShellManual::page(help);
         return ShowText;
     }
-    const QStringList scripts = parser.positionalArguments();
-    const bool hasCommands = parser.isSet(commandsOption);
     if (parser.isSet(keepGoingOption) && parser.isSet(stopOption))
         return refuse(tr("--keep-going and --stop-on-error exclude each other."));
-    if (scripts.size() + (hasCommands ? 1 : 0) > 1)
-        return refuse(tr("Only one script or one -c can be run."));
-
-    const QStringList colourWords{QStringLiteral("auto"), QStringLiteral("always"), QStringLiteral("never")};
-    const int colourWord = colourWords.indexOf(parser.value(colorOption));
-    if (colourWord < 0)
-        return refuse(tr("--color takes auto, always or never, not '%1'.").arg(parser.value(colorOption)));
-
-    colours = static_cast<ShellConsole::Colours>(colourWord);
     isQuiet = parser.isSet(quietOption);
-    if (hasCommands) {
+    if (!readColours(parser.value(colorOption))
+        || !readSource(parser.positionalArguments(), parser.values(commandsOption), isInteractive))
+        return Refuse;
+    keepsGoing = parser.isSet(keepGoingOption) || (source == Prompt && !parser.isSet(stopOption));
+    return Run;
+}
+
+ShellOptions::Outcome ShellOptions::refuse(const QString& reason)
+{
+    text = reason;
+    return Refuse;
+}
+
+bool ShellOptions::readColours(const QString& word)
+{
+    const QStringList words{QStringLiteral("auto"), QStringLiteral("always"), QStringLiteral("never")};
+    const int index = words.indexOf(word);
+    if (index < 0) {
+        text = tr("--color takes auto, always or never, not '%1'.").arg(word);
+        return false;
+    }
+    colours = static_cast<ShellConsole::Colours>(index);
+    return true;
+}
+
+bool ShellOptions::readSource(const QStringList& scripts, const QStringList& commandTexts, bool isInteractive)
+{
+    if (scripts.size() + (commandTexts.isEmpty() ? 0 : 1) > 1) {
+        text = tr("Only one script or one -c can be run.");
+        return false;
+    }
+    if (!commandTexts.isEmpty()) {
         source = CommandText;
-        commands = parser.values(commandsOption).join(QLatin1Char('\n'));
+        commands = commandTexts.join(QLatin1Char('\n'));
     } else if (!scripts.isEmpty() && scripts.first() != QLatin1String("-")) {
         source = ScriptFile;
         scriptFile = scripts.first();
     } else {
         source = isInteractive ? Prompt : StandardInput;
     }
-    keepsGoing = parser.isSet(keepGoingOption) || (source == Prompt && !parser.isSet(stopOption));
-    return Run;
+    return true;
 }

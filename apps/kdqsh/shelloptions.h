@@ -25,4 +25,10 @@ public:
     /// Reads the arguments, the program's name first. \a isInteractive tells that a person types into
     /// standard input, which then is the source where nothing else is named.
     Outcome parse(const QStringList& arguments, bool isInteractive);
+
+private:
+    Outcome refuse(const QString& reason);
+    // False, and text says why.
+    bool readColours(const QString& word);
+    bool readSource(const QStringList& scripts, const QStringList& commandTexts, bool isInteractive);
 };
