@@ -4,7 +4,6 @@
 #include <kdQCore/coProductInformation>
 #include <kdQCore/kdCommandDispatcher>
 #include <kdQCore/kdDebugLog>
-#include <kdQCore/kdQLanguage>
 #include <kdQCore/nCompanyInfo>
 #include <kdqcore_version.h>
 
@@ -12,17 +11,6 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QStandardPaths>
-
-namespace {
-
-/// The variable LANGUAGE overrides the system's choice, also on systems that do not know it.
-QStringList userLanguages()
-{
-    const QStringList chosen = qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'), Qt::SkipEmptyParts);
-    return chosen.isEmpty() ? QLocale::system().uiLanguages() : chosen;
-}
-
-} // namespace
 
 void FamilyApplication::prepare()
 {
@@ -63,11 +51,23 @@ QString FamilyApplication::dataFolder()
     return QDir(qEnvironmentVariable("LOCALAPPDATA")).filePath(QStringLiteral("kaldoran"));
 }
 
+QList<kdQLanguage::KDLANGUAGE> FamilyApplication::userLanguages()
+{
+    QStringList codes = qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    if (codes.isEmpty()) // Windows does not know the variable
+        codes = QLocale::system().uiLanguages();
+    QList<kdQLanguage::KDLANGUAGE> languages;
+    kdQLanguage::KDLANGUAGE language = kdQLanguage::English;
+    for (const QString& code : qAsConst(codes))
+        if (kdQLanguage::fromCode(code, language))
+            languages.append(language);
+    return languages;
+}
+
 void FamilyApplication::setUserLanguage()
 {
-    const QStringList wanted = userLanguages();
-    kdQLanguage::KDLANGUAGE language = kdQLanguage::English;
-    for (const QString& code : wanted)
-        if (kdQLanguage::fromCode(code, language) && kdCommandDispatcher::I().setLanguage(language))
+    const auto languages = userLanguages();
+    for (const kdQLanguage::KDLANGUAGE language : languages)
+        if (kdCommandDispatcher::I().setLanguage(language))
             return;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <kdQCore/kdQLanguage>
+
 #include <QCoreApplication>
 
 /// What every application of the family does at start-up and shut-down: the debug log first, then the paths
@@ -33,6 +35,9 @@ public:
 
     /// The user's own folder for data of the family, such as histories; need not exist.
     static QString dataFolder();
+    /// The languages of the user that the family speaks, the dearest first: those of the variable LANGUAGE,
+    /// or of the system where it is not set.
+    static QList<kdQLanguage::KDLANGUAGE> userLanguages();
     /// The first language of the user that the dispatcher has texts for; English where it has none.
     static void setUserLanguage();
 };

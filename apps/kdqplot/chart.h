@@ -28,6 +28,10 @@ std::unique_ptr<QtCharts::QChart> make(const Figure& figure);
 
 enum Format { Svg, Png };
 
+/// For programs that draw and show nothing, before their QApplication: lets them run where nobody sees a
+/// screen, unless the variable QT_QPA_PLATFORM chooses.
+void useNoScreen();
+
 /// The picture of a figure as the bytes of a file; with \a scale, a PNG has so many times the pixels. Empty,
 /// and \a error says why, where the figure has a fault or the size is out of range.
 QByteArray picture(const Figure& figure, Format format, const QSize& size, double scale, QString& error);

@@ -59,6 +59,13 @@ QByteArray png(QGraphicsScene& scene, const QSize& size, double scale)
 
 } // namespace
 
+void nChart::useNoScreen()
+{
+    // Windows' own platform needs no screen while nothing is shown, and knows where the fonts are.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "windows;offscreen");
+}
+
 QByteArray nChart::picture(const Figure& figure, Format format, const QSize& size, double scale,
                            QString& error)
 {

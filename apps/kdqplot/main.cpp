@@ -143,22 +143,16 @@ private:
     double m_scale = 1.0;
 };
 
-/// No window is ever shown, so none is needed to draw one.
-void drawWithoutDisplay()
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-}
-
-/// Straight from the files: it is started for every picture, and shall not leave a debug log for each.
+/// Straight from the file: it is started for every picture, and shall not leave a debug log for each.
 bool loadTexts(QTranslator& texts)
 {
+    const auto languages = FamilyApplication::userLanguages();
+    if (languages.isEmpty())
+        return false;
     const QString application = QCoreApplication::applicationDirPath();
-    const QLocale user = QLocale::system();
-    return texts.load(user, QStringLiteral("kdqcore"), QStringLiteral("_"),
-                      application + QLatin1String("/translations"))
-        || texts.load(user, QStringLiteral("kdqcore"), QStringLiteral("_"),
-                      application + QLatin1String("/../share/kdQCore/translations"));
+    const QString file = QStringLiteral("kdqcore_") + kdQLanguage::code(languages.constFirst());
+    return texts.load(file, application + QLatin1String("/translations"))
+        || texts.load(file, application + QLatin1String("/../share/kdQCore/translations"));
 }
 
 } // namespace
@@ -169,7 +163,7 @@ int main(int argc, char** argv)
     if (ProgramHelp::isTextWanted(argc, argv)) {
         application = std::make_unique<QCoreApplication>(argc, argv);
     } else {
-        drawWithoutDisplay();
+        nChart::useNoScreen();
         QLoggingCategory::setFilterRules(
             QStringLiteral("*.warning=false")); // of a desktop that is not needed
         application = std::make_unique<QApplication>(argc, argv);

@@ -222,7 +222,7 @@ void TestChart::refused()
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    nChart::useNoScreen();
     QApplication application(argc, argv);
     kdqPrepareTest("TestChart");
     TestChart test;

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void documents();
     void png();
     void oldPictureStaysUntilTheNewIsComplete();
+    void plotterSpeaksTheLanguageOfTheShell();
 #endif
     void errors_data();
     void errors();
@@ -130,6 +131,14 @@ void TestKdqshPlot::oldPictureStaysUntilTheNewIsComplete()
     QVERIFY(shell.runCommands(import + S("plot table b to none/p.svg")));
     QVERIFY2(shell.errors.startsWith(S("-c:1: plot table: 'none/p.svg' cannot be written: ")),
              qPrintable(shell.errors));
+}
+
+void TestKdqshPlot::plotterSpeaksTheLanguageOfTheShell()
+{
+    KdqshRun shell;
+    QVERIFY(writeTables(shell));
+    QVERIFY(shell.runCommands(S("language de; ") + import + S("plot table b to p.svg size 10x10")));
+    QVERIFY2(shell.errors.contains(S("Ein Bild hat in jeder Richtung 200 bis")), qPrintable(shell.errors));
 }
 
 #endif
