@@ -117,7 +117,8 @@ QStringList values(const QString& kind, const QString& after, const QStringList&
         return objects(typed.at(typed.first() == QLatin1String("plot") ? 1 : 0));
     if (is("STAGE"))
         return stages(session.processes.find(typed.at(2)));
-    for (const QString& word : typed.mid(2)) {
+    const QStringList words = typed.mid(2);
+    for (const QString& word : words) {
         const ShellTables::Table table = session.tables.find(word);
         if (!table.isNull() && is("COLUMN"))
             return columns(*table);

@@ -134,7 +134,8 @@ void MainWindow::retranslateUi()
                                 .arg(m_actions.open->shortcut().toString(QKeySequence::NativeText));
     m_welcome->setText(
         QStringLiteral("<div align='center'><img src=':/icons/kdqview.svg'>%1</div>").arg(welcome));
-    for (QAction* const action : m_languages->actions())
+    const QList<QAction*> languages = m_languages->actions();
+    for (QAction* const action : languages)
         action->setChecked(action->data().toInt() == Language::current());
     if (m_sheet->document() != nullptr)
         m_outlineDock->setWindowTitle(tr("Content of '%1'").arg(m_sheet->document()->fileName()));
