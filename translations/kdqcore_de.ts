@@ -381,13 +381,6 @@
     </message>
 </context>
 <context>
-    <name>Document</name>
-    <message>
-        <source>&apos;%1&apos; cannot be written: %2</source>
-        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
-    </message>
-</context>
-<context>
     <name>DocumentReader</name>
     <message>
         <source>&apos;%1&apos; cannot be read: %2</source>
@@ -1220,10 +1213,6 @@
     <message>
         <source>&apos;%1&apos; written.</source>
         <translation>„%1“ geschrieben.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot be written: %2</source>
-        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>XML</source>
@@ -2254,6 +2243,17 @@ alles gut ging, 1, wenn ein Befehl fehlschlug, 2, wenn diese Befehlszeile falsch
     <message>
         <source>table, rows: %1</source>
         <translation>Tabelle, Zeilen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TableExport</name>
+    <message>
+        <source>Writing &apos;%1&apos;</source>
+        <translation>„%1“ wird geschrieben</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be written: %2</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include <kdQCore/kdReporterInterface>
 
 #include <QFile>
+#include <QSaveFile>
 
 #include <functional>
 
@@ -36,4 +37,31 @@ private:
     const kdReporterInterface& m_reporter;
     StopCondition m_stopsWhen;
     qint64 m_read = 0;
+};
+
+/// A file that reports how much of about \a expectedSize has been written, and takes its place in the end.
+class ProgressSaveFile : public QSaveFile {
+    Q_OBJECT
+
+public:
+    ProgressSaveFile(const QString& path, const kdReporterInterface& reporter, qint64 expectedSize)
+        : QSaveFile(path), m_reporter(reporter), m_expectedSize(expectedSize)
+    {
+    }
+
+protected:
+    qint64 writeData(const char* data, qint64 size) override
+    {
+        constexpr qint64 interval = 65536; // XML comes in pieces of a few bytes
+        const bool isDue = m_written / interval != (m_written + size) / interval;
+        m_written += size;
+        if (isDue && m_written < m_expectedSize)
+            m_reporter.progress(static_cast<double>(m_written) / static_cast<double>(m_expectedSize));
+        return QSaveFile::writeData(data, size);
+    }
+
+private:
+    const kdReporterInterface& m_reporter;
+    qint64 m_expectedSize;
+    qint64 m_written = 0;
 };

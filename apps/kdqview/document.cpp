@@ -1,9 +1,9 @@
 #include "document.h"
 
+#include "tableexport.h"
 #include "tablefigure.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace {
 
@@ -52,13 +52,14 @@ bool Document::makeFigure(int index, const QVector<int>& columns, Figure& figure
     return error.isEmpty();
 }
 
-bool Document::save(const QString& path, QString& error)
+bool Document::save(const QString& path, const kdReporterInterface& reporter, QString& error)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !write(file, path) || !file.commit()) {
-        error = tr("'%1' cannot be written: %2").arg(path, file.errorString());
+    qint64 size = 0;
+    for (const QSharedPointer<TableModel>& model : qAsConst(m_sheets))
+        size += TableExport::expectedSize(model->table());
+    const auto content = [this, &path](QIODevice& device) { return write(device, path); };
+    if (!TableExport::writeFile(path, reporter, size, content, error))
         return false;
-    }
     m_path = path;
     m_fileTime = timeOf(path);
     m_savedState = m_state;

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QVector>
 
+class kdReporterInterface;
+
 /// What a file holds beside its tables, for a list beside them: the options of a deck, the stages of a
 /// process.
 struct Outline {
@@ -52,7 +54,7 @@ public:
     /// Of the names under which it can be saved; the ending decides on the form. None for what cannot be.
     virtual QStringList fileEndings() const = 0;
     /// Replaces the file, or leaves it as it was. False where it could not be written, \a error says why.
-    bool save(const QString& path, QString& error);
+    bool save(const QString& path, const kdReporterInterface& reporter, QString& error);
     /// Whether somebody else wrote to the file since it was read or saved.
     bool isChangedOnDisk() const;
 

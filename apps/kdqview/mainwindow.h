@@ -8,6 +8,8 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
 class Document;
 class DocumentTree;
 class LogDock;
@@ -72,7 +74,8 @@ private:
     void exportCurve();
     QString askForFile(const QString& title, const QString& baseName, const QStringList& endings);
     static QString filterOf(const QString& ending);
-    void writeFile(const QString& path, const QByteArray& content);
+    void writeFile(const QString& path, qint64 expectedSize,
+                   const std::function<bool(QIODevice& device)>& content);
 
     void createDocks();
     void connectAll();

@@ -7,14 +7,12 @@
 
 #include <kdQCore/kdCommandDispatcher>
 
-#include <QBuffer>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMap>
 #include <QMenu>
 #include <QMessageBox>
-#include <QSaveFile>
 #include <QSettings>
 
 namespace {
@@ -109,7 +107,7 @@ bool MainWindow::saveDocument(Document& document, bool asksForName)
     if (path.isEmpty())
         return false;
     QString error;
-    const bool isSaved = document.save(path, error);
+    const bool isSaved = document.save(path, m_reports, error);
     isSaved ? m_reports.message(tr("'%1' saved.").arg(document.fileName()), 1) : refuse(error);
     return isSaved;
 }
@@ -164,12 +162,10 @@ void MainWindow::exportTable()
         askForFile(tr("Export table"), document.sheetName(m_sheet->sheet()), TableExport::endings());
     if (path.isEmpty())
         return;
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    if (TableExport::write(document.sheet(m_sheet->sheet())->table(), buffer, TableExport::formOf(path)))
-        writeFile(path, buffer.data());
-    else
-        refuse(tr("'%1' cannot be written: %2").arg(QDir::toNativeSeparators(path), buffer.errorString()));
+    const kdDataTable& table = document.sheet(m_sheet->sheet())->table();
+    writeFile(path, TableExport::expectedSize(table), [&](QIODevice& device) {
+        return TableExport::write(table, device, TableExport::formOf(path));
+    });
 }
 
 void MainWindow::exportCurve()
@@ -182,16 +178,19 @@ void MainWindow::exportCurve()
     QString error;
     const QByteArray picture = nChart::picture(m_sheet->curve().figure(), isPng ? nChart::Png : nChart::Svg,
                                                pictureSize, isPng ? 2.0 : 1.0, error);
-    picture.isEmpty() ? refuse(error) : writeFile(path, picture);
+    if (picture.isEmpty())
+        refuse(error);
+    else
+        writeFile(path, picture.size(),
+                  [&](QIODevice& device) { return device.write(picture) == picture.size(); });
 }
 
-void MainWindow::writeFile(const QString& path, const QByteArray& content)
+void MainWindow::writeFile(const QString& path, qint64 expectedSize,
+                           const std::function<bool(QIODevice& device)>& content)
 {
-    QSaveFile file(path);
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
-    if (isWritten)
+    QString error;
+    if (TableExport::writeFile(path, m_reports, expectedSize, content, error))
         m_reports.message(tr("'%1' written.").arg(QDir::toNativeSeparators(path)), 1);
     else
-        refuse(tr("'%1' cannot be written: %2").arg(QDir::toNativeSeparators(path), file.errorString()));
+        refuse(error);
 }

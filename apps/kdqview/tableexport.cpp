@@ -1,8 +1,12 @@
 #include "tableexport.h"
 
+#include "progressfile.h"
+
 #include <kdQCore/coTableCSVWriter>
 #include <kdQCore/kdDataTable>
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QTextStream>
 
@@ -75,4 +79,25 @@ bool TableExport::write(const kdDataTable& table, QIODevice& device, Form form)
         return writeCsv(table, device);
     }
     return false;
+}
+
+qint64 TableExport::expectedSize(const kdDataTable& table)
+{
+    constexpr qint64 sizeOfRow = 25; // of its tags in XML
+    constexpr qint64 sizeOfValue = 18;
+    return table.rows() * (sizeOfRow + sizeOfValue * table.columns());
+}
+
+bool TableExport::writeFile(const QString& path, const kdReporterInterface& reporter, qint64 expectedSize,
+                            const std::function<bool(QIODevice& device)>& content, QString& error)
+{
+    const QString name = QDir::toNativeSeparators(path);
+    ProgressSaveFile file(path, reporter, expectedSize);
+    reporter.startOperation(QCoreApplication::translate("TableExport", "Writing '%1'").arg(name));
+    const bool isWritten = file.open(QIODevice::WriteOnly) && content(file) && file.commit();
+    reporter.finishOperation(QString());
+    if (!isWritten)
+        error = QCoreApplication::translate("TableExport", "'%1' cannot be written: %2")
+                    .arg(name, file.errorString());
+    return isWritten;
 }

@@ -2,7 +2,10 @@
 
 #include <QStringList>
 
+#include <functional>
+
 class kdDataTable;
+class kdReporterInterface;
 
 QT_BEGIN_NAMESPACE
 class QIODevice;
@@ -24,5 +27,13 @@ Form formOf(const QString& path);
 QStringList endings();
 
 bool write(const kdDataTable& table, QIODevice& device, Form form);
+
+/// Of a file of the table, roughly, in bytes.
+qint64 expectedSize(const kdDataTable& table);
+
+/// Replaces the file, or leaves it as it was; shows how much of \a expectedSize has been written. False where
+/// that fails, \a error says why.
+bool writeFile(const QString& path, const kdReporterInterface& reporter, qint64 expectedSize,
+               const std::function<bool(QIODevice& device)>& content, QString& error);
 
 } // namespace TableExport
