@@ -250,7 +250,7 @@ int SocketInbox::lineLength()
 
 QByteArray SocketInbox::taken(int count)
 {
-    const QByteArray bytes = m_bytes.mid(m_begin, count); // no copy where it is all
+    QByteArray bytes = m_bytes.mid(m_begin, count); // no copy where it is all
     m_begin += count;
     m_searched = qMax(m_searched, m_begin);
     if (available() == 0)
