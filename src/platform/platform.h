@@ -86,6 +86,61 @@ bool enableEscapeSequences(StandardStream stream);
 /// process by std::_Exit(), nothing else.
 void watchInterrupts(void (*handler)());
 
+/// A place in a console's window: column and row from 0, or how many there are.
+struct ConsoleCell {
+    int column = 0;
+    int row = 0;
+};
+
+/// What comes from a console's window.
+struct ConsoleKey {
+    enum Kind {
+        Other, ///< nothing to be obeyed; it also wakes who waits for keys after an interrupt
+        Character,
+        Left,
+        Right,
+        Up,
+        Down,
+        Home,
+        End,
+        Delete,
+        Resized, ///< the window; what stands in it may have moved
+        Closed   ///< nothing more will come
+    };
+    Kind kind = Other;
+    /// One character, whole: a control character for Enter ("\r"), Tab, Escape, Backspace ("\b", with Ctrl
+    /// "\x7f") and for letters with Ctrl.
+    QString text;
+    bool isModified = false; ///< Ctrl or Alt was held; for characters Alt
+    int count = 1;           ///< so many came while the key was held down
+};
+
+/// The console's window while a program edits itself what is typed: keys show nothing by themselves, Ctrl-C
+/// is one like others, escape sequences are not obeyed. The end of the object gives the window back as it
+/// was. What is written goes on in the next row once a row is full; behind the last row all of them move up.
+class ConsoleWindow {
+public:
+    ConsoleWindow() = default;
+    virtual ~ConsoleWindow() = default;
+    Q_DISABLE_COPY(ConsoleWindow)
+
+    virtual bool hasKeys() const = 0;
+    /// Blocks until there is something.
+    virtual ConsoleKey wait() = 0;
+
+    virtual ConsoleCell size() const = 0;
+    virtual ConsoleCell cursor() const = 0;
+    virtual void moveCursor(ConsoleCell cell) = 0;
+    /// Writes at the cursor; of the control characters only line feeds are obeyed.
+    virtual void write(const QString& text, bool isBold = false) = 0;
+    /// Makes that many cells blank, over the ends of rows.
+    virtual void erase(ConsoleCell from, int cells) = 0;
+};
+
+/// Null where standard input or output is no such window; always null on other systems than Windows, whose
+/// terminals have libraries for that.
+std::unique_ptr<ConsoleWindow> openConsoleWindow();
+
 /// Names the system's zone in the environment where it names none, so that the C library does not look the
 /// zone file up for every time text. Does nothing on Windows. Call it before other threads start.
 void presetTimeZone();

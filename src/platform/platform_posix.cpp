@@ -321,6 +321,11 @@ void watchInterrupts(void (*handler)())
     sigaction(SIGINT, &action, nullptr);
 }
 
+std::unique_ptr<ConsoleWindow> openConsoleWindow()
+{
+    return nullptr;
+}
+
 void presetTimeZone()
 {
     if (qEnvironmentVariableIsSet("TZ") || !QFile::exists(QStringLiteral("/etc/localtime")))

@@ -6,6 +6,7 @@
 #include <QtEndian>
 
 #include <climits>
+#include <utility>
 #include <windows.h>
 
 #define SECURITY_WIN32
@@ -351,7 +352,169 @@ BOOL WINAPI onConsoleEvent(DWORD event)
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
         return FALSE;
     interruptHandler();
+    INPUT_RECORD wake{};
+    wake.EventType = FOCUS_EVENT;
+    DWORD count = 0;
+    WriteConsoleInputW(handleOf(StandardStream::Input), &wake, 1, &count);
     return TRUE;
+}
+
+ConsoleKey::Kind kindOf(WORD virtualKey)
+{
+    switch (virtualKey) {
+    case VK_LEFT:
+        return ConsoleKey::Left;
+    case VK_RIGHT:
+        return ConsoleKey::Right;
+    case VK_UP:
+        return ConsoleKey::Up;
+    case VK_DOWN:
+        return ConsoleKey::Down;
+    case VK_HOME:
+        return ConsoleKey::Home;
+    case VK_END:
+        return ConsoleKey::End;
+    case VK_DELETE:
+        return ConsoleKey::Delete;
+    default:
+        return ConsoleKey::Other;
+    }
+}
+
+ConsoleKey keyOf(const KEY_EVENT_RECORD& event)
+{
+    const auto has = [&event](DWORD keys) { return (event.dwControlKeyState & keys) != 0; };
+    const bool isCtrl = has(LEFT_CTRL_PRESSED | RIGHT_CTRL_PRESSED);
+    const bool isAlt = has(LEFT_ALT_PRESSED | RIGHT_ALT_PRESSED);
+    const QChar character(event.uChar.UnicodeChar);
+    // A character that was typed by its number, or pasted without a key of its own, comes as Alt is released.
+    const bool isByNumber = !event.bKeyDown && event.wVirtualKeyCode == VK_MENU;
+    ConsoleKey key;
+    if (!event.bKeyDown && !isByNumber)
+        return key;
+    key.count = qMax<int>(1, event.wRepeatCount);
+    if (!character.isNull()) {
+        key.kind = ConsoleKey::Character;
+        key.text = character;
+        key.isModified = isAlt && !isCtrl && !isByNumber; // AltGr counts as both
+    } else if (!isAlt || has(ENHANCED_KEY)) {             // else digits of a number behind Alt
+        key.kind = kindOf(event.wVirtualKeyCode);
+        key.isModified = isCtrl || isAlt;
+    }
+    return key;
+}
+
+class SystemConsole : public ConsoleWindow {
+public:
+    SystemConsole()
+    {
+        constexpr DWORD obeyedByTheSystem = ENABLE_LINE_INPUT | ENABLE_ECHO_INPUT | ENABLE_PROCESSED_INPUT
+            | ENABLE_MOUSE_INPUT | ENABLE_VIRTUAL_TERMINAL_INPUT;
+        m_isOpen = GetConsoleMode(m_input, &m_inputMode) && GetConsoleMode(m_output, &m_outputMode)
+            && SetConsoleMode(m_input, (m_inputMode & ~obeyedByTheSystem) | ENABLE_WINDOW_INPUT);
+        // Where escape sequences are obeyed, the cursor does not leave a full row before the next character.
+        if (m_isOpen)
+            SetConsoleMode(m_output, ENABLE_PROCESSED_OUTPUT | ENABLE_WRAP_AT_EOL_OUTPUT);
+    }
+    ~SystemConsole() override
+    {
+        if (!m_isOpen)
+            return;
+        SetConsoleMode(m_input, m_inputMode);
+        SetConsoleMode(m_output, m_outputMode);
+    }
+
+    bool isOpen() const { return m_isOpen; }
+
+    bool hasKeys() const override
+    {
+        DWORD count = 0;
+        return GetNumberOfConsoleInputEvents(m_input, &count) && count > 0;
+    }
+    ConsoleKey wait() override;
+
+    ConsoleCell size() const override { return {state().dwSize.X, state().dwSize.Y}; }
+    ConsoleCell cursor() const override
+    {
+        const COORD cell = state().dwCursorPosition;
+        return {cell.X, cell.Y};
+    }
+    void moveCursor(ConsoleCell cell) override { SetConsoleCursorPosition(m_output, coordinates(cell)); }
+    void write(const QString& text, bool isBold) override;
+    void erase(ConsoleCell from, int cells) override;
+
+private:
+    static COORD coordinates(ConsoleCell cell)
+    {
+        return {static_cast<SHORT>(cell.column), static_cast<SHORT>(cell.row)};
+    }
+    CONSOLE_SCREEN_BUFFER_INFO state() const
+    {
+        CONSOLE_SCREEN_BUFFER_INFO information{};
+        GetConsoleScreenBufferInfo(m_output, &information);
+        return information;
+    }
+    ConsoleKey joined(ConsoleKey key);
+
+    const HANDLE m_input = handleOf(StandardStream::Input);
+    const HANDLE m_output = handleOf(StandardStream::Output);
+    DWORD m_inputMode = 0; ///< before
+    DWORD m_outputMode = 0;
+    bool m_isOpen = false;
+    QString m_firstHalf; ///< of a surrogate pair
+};
+
+ConsoleKey SystemConsole::wait()
+{
+    INPUT_RECORD record{};
+    DWORD count = 0;
+    ConsoleKey key;
+    if (!ReadConsoleInputW(m_input, &record, 1, &count) || count == 0)
+        key.kind = ConsoleKey::Closed;
+    else if (record.EventType == KEY_EVENT)
+        return joined(keyOf(record.Event.KeyEvent));
+    else if (record.EventType == WINDOW_BUFFER_SIZE_EVENT)
+        key.kind = ConsoleKey::Resized;
+    return key;
+}
+
+/// Surrogate pairs arrive as two characters.
+ConsoleKey SystemConsole::joined(ConsoleKey key)
+{
+    if (key.kind == ConsoleKey::Other)
+        return key;
+    const QString firstHalf = std::exchange(m_firstHalf, QString());
+    if (key.kind != ConsoleKey::Character || !key.text.at(0).isSurrogate())
+        return key;
+    if (key.text.at(0).isHighSurrogate())
+        m_firstHalf = key.text;
+    if (key.text.at(0).isHighSurrogate() || firstHalf.isEmpty())
+        return {};
+    key.text.prepend(firstHalf);
+    return key;
+}
+
+void SystemConsole::write(const QString& text, bool isBold)
+{
+    constexpr int mostAtOnce = 8192; // older systems refuse much more
+    const WORD attributes = state().wAttributes;
+    if (isBold)
+        SetConsoleTextAttribute(m_output, attributes | FOREGROUND_INTENSITY);
+    for (int begin = 0; begin < text.size(); begin += mostAtOnce) {
+        const QString piece = text.mid(begin, mostAtOnce);
+        DWORD count = 0;
+        WriteConsoleW(m_output, wide(piece), static_cast<DWORD>(piece.size()), &count, nullptr);
+    }
+    if (isBold)
+        SetConsoleTextAttribute(m_output, attributes);
+}
+
+void SystemConsole::erase(ConsoleCell from, int cells)
+{
+    DWORD count = 0;
+    FillConsoleOutputCharacterW(m_output, L' ', static_cast<DWORD>(cells), coordinates(from), &count);
+    FillConsoleOutputAttribute(m_output, state().wAttributes, static_cast<DWORD>(cells), coordinates(from),
+                               &count);
 }
 
 } // namespace
@@ -375,6 +538,12 @@ void watchInterrupts(void (*handler)())
     interruptHandler = handler;
     SetConsoleCtrlHandler(nullptr, FALSE); // a parent may have had it ignored
     SetConsoleCtrlHandler(onConsoleEvent, TRUE);
+}
+
+std::unique_ptr<ConsoleWindow> openConsoleWindow()
+{
+    auto console = std::make_unique<SystemConsole>();
+    return console->isOpen() ? std::move(console) : nullptr;
 }
 
 int terminalColumns()
