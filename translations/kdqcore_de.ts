@@ -1847,10 +1847,6 @@
         <translation>Verwirft die Zeile, die gerade getippt wird. Hält einen laufenden Befehl an und nimmt zurück, was er bis dahin geändert hat; noch einmal gedrückt, beendet es kdqsh sofort.</translation>
     </message>
     <message>
-        <source>Ends the session, on an empty line.</source>
-        <translation>Beendet die Sitzung, auf einer leeren Zeile.</translation>
-    </message>
-    <message>
         <source>Errors are red, warnings yellow: on terminals, unless NO_COLOR is set to anything or TERM is dumb; or as the option says.</source>
         <translation>Fehler sind rot, Warnungen gelb: auf Terminals, außer wenn NO_COLOR auf irgendetwas gesetzt oder TERM dumb ist; oder wie die Option es sagt.</translation>
     </message>
@@ -1869,6 +1865,10 @@
     <message>
         <source>Exit statuses: all went well; a command failed; the command line was wrong; ended by Ctrl-C.</source>
         <translation>Rückgabewerte: alles ging gut; ein Befehl schlug fehl; die Befehlszeile war falsch; beendet durch Strg-C.</translation>
+    </message>
+    <message>
+        <source>Ends the session, on an empty line; on Windows Ctrl-Z does, too.</source>
+        <translation>Beendet die Sitzung, auf einer leeren Zeile; unter Windows auch Strg-Z.</translation>
     </message>
 </context>
 <context>
@@ -2355,6 +2355,13 @@ alles gut ging, 1, wenn ein Befehl fehlschlug, 2, wenn diese Befehlszeile falsch
     <message>
         <source>No answer came within %1 s.</source>
         <translation>Innerhalb von %1 s kam keine Antwort.</translation>
+    </message>
+</context>
+<context>
+    <name>TypedLine</name>
+    <message>
+        <source>Search for &apos;%1&apos;: </source>
+        <translation>Suche nach „%1“: </translation>
     </message>
 </context>
 <context>

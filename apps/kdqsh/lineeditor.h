@@ -5,9 +5,10 @@
 #include <functional>
 #include <memory>
 
-/// Reads lines that a person types. With libedit (lineeditor_libedit.cpp) lines can be edited, earlier ones
-/// come back, also those of earlier sessions, and Tab completes; without it (lineeditor_plain.cpp) lines are
-/// read as the system's window has them edited. One object a process.
+/// Reads lines that a person types. Lines can be edited, earlier ones come back, also those of earlier
+/// sessions, and Tab completes: by libedit (lineeditor_libedit.cpp), or without it at a console's window of
+/// Windows (lineeditor_console.cpp). Where there is neither, lines are read as the terminal has them edited.
+/// One object a process.
 class LineEditor {
 public:
     /// How the text before the cursor may go on.
@@ -15,6 +16,14 @@ public:
         QStringList candidates; ///< whole words
         int begin = 0;          ///< of the word in that text
         QString text;           ///< what all candidates have in common, as it is typed in the word's place
+
+        /// Whether there is more to type; else the choice may be shown.
+        bool goesOn(const QString& beforeCursor) const
+        {
+            const QString typed = beforeCursor.mid(begin);
+            return text.size() > typed.size() || (candidates.size() == 1 && text != typed);
+        }
+        QString choice() const { return candidates.join(QLatin1String("  ")); }
     };
     using Completer = std::function<Completion(const QString& beforeCursor)>;
 

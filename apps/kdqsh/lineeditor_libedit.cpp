@@ -55,14 +55,12 @@ unsigned char LineEditor::Private::completeWord()
     const Completion completion = completer(before);
     if (completion.candidates.isEmpty())
         return CC_ERROR;
-    const QString typed = before.mid(completion.begin);
-    if (completion.text.size() > typed.size()
-        || (completion.candidates.size() == 1 && completion.text != typed)) {
-        el_deletestr(editor, static_cast<int>(typed.size()));
+    if (completion.goesOn(before)) {
+        el_deletestr(editor, static_cast<int>(before.size()) - completion.begin);
         el_insertstr(editor, completion.text.toLocal8Bit().constData());
         return CC_REFRESH;
     }
-    std::printf("\n%s\n", completion.candidates.join(QLatin1String("  ")).toLocal8Bit().constData());
+    std::printf("\n%s\n", completion.choice().toLocal8Bit().constData());
     return CC_REDISPLAY;
 }
 

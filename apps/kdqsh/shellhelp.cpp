@@ -109,7 +109,8 @@ QStringList ShellHelp::prompt()
         + lines(QStringLiteral("Ctrl-C"),
                 tr("Drops the line being typed. Stops a command that runs and takes back what it has changed "
                    "so far; pressed once more, ends kdqsh at once."))
-        + lines(QStringLiteral("Ctrl-D"), tr("Ends the session, on an empty line."))
+        + lines(QStringLiteral("Ctrl-D"),
+                tr("Ends the session, on an empty line; on Windows Ctrl-Z does, too."))
         + lines(
                QStringLiteral("--color=auto|always|never, NO_COLOR, TERM=dumb"),
                tr("Errors are red, warnings yellow: on terminals, unless NO_COLOR is set to anything or TERM "

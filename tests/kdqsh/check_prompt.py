@@ -1,6 +1,7 @@
 """The prompt in a pseudo-terminal, used as a person does: keys go in, and each step waits for what shows.
 
 usage: check_prompt.py COMMAND...
+A command that ends with ".exe" runs under wine, whose console paints on the terminal.
 """
 import contextlib
 import os
@@ -18,12 +19,21 @@ import termios
 import time
 
 program = sys.argv[1:]
+on_wine = program[-1].endswith(".exe")
 folder = pathlib.Path(tempfile.mkdtemp(prefix="kdqsh-prompt-"))
 environment = dict(os.environ, LANGUAGE="en", LOCALAPPDATA=str(folder / "data"), TERM="xterm", HOME=str(folder))
 environment.pop("NO_COLOR", None)
 CTRL_C, CTRL_D, UP, TAB = "\x03", "\x04", "\033[A", "\t"
 PROMPT, RED, WIDTH = "kdqsh> ", "\033[31m", 100
+NEXT_PROMPT = "\n" + PROMPT  # wine's console paints the row of the cursor anew with every key
 FOREVER = "lock hold . 500000"
+
+
+def as_text(painted):
+    """Wine's console paints blanks as moves of the cursor."""
+    if not on_wine:
+        return painted
+    return re.sub(r"\x1b\[[?\d;]*[a-zA-Z]", "", re.sub(r"\x1b\[(\d*)C", lambda move: " " * int(move[1] or 1), painted))
 
 
 class Shell:
@@ -34,7 +44,14 @@ class Shell:
                                         stdin=slave, stdout=slave, stderr=slave, start_new_session=True,
                                         preexec_fn=lambda: os.close(os.open(os.ttyname(0), os.O_RDWR)))
         os.close(slave)
+        self.unread = b""
         self.seen = ""
+
+    def read(self):
+        data = self.unread + os.read(self.master, 65536)
+        whole = re.search(rb"(\x1b[^a-zA-Z]*)?\Z", data).start() if on_wine else len(data)
+        self.unread = data[whole:]
+        self.seen += as_text(data[:whole].decode())
 
     def wait_for(self, text):
         """Everything up to the text, a pattern; what follows waits for the next call."""
@@ -43,7 +60,7 @@ class Shell:
             ready, _, _ = select.select([self.master], [], [], max(0, deadline - time.monotonic()))
             assert ready, (text, self.seen)
             try:
-                self.seen += os.read(self.master, 65536).decode()
+                self.read()
             except OSError:
                 raise EOFError((text, self.seen)) from None
         before, self.seen = self.seen[:found.end()], self.seen[found.end():]
@@ -51,7 +68,7 @@ class Shell:
 
     def look(self):
         if select.select([self.master], [], [], 0.1)[0]:
-            self.seen += os.read(self.master, 65536).decode()
+            self.read()
 
     def has_open(self, path):
         return any(os.path.realpath(file) == str(path)
@@ -63,12 +80,12 @@ class Shell:
     def run(self, line):
         """What a line shows until the next prompt."""
         self.type(line + "\r")
-        return self.wait_for(re.escape(PROMPT))
+        return self.wait_for(NEXT_PROMPT)
 
     def stop_when(self, text):
         self.wait_for(text)
         self.type(CTRL_C)
-        return self.wait_for(re.escape(PROMPT))
+        return self.wait_for(NEXT_PROMPT)
 
     def end(self):
         with contextlib.suppress(AssertionError, EOFError):
@@ -81,7 +98,7 @@ class Shell:
 def session(status=0):
     shell = Shell("--color=never")
     try:
-        shell.wait_for(PROMPT)
+        shell.wait_for(NEXT_PROMPT)
         yield shell
         shell.type(CTRL_D)
         assert shell.end() == status, shell.seen
@@ -96,9 +113,9 @@ def completion():
         shell.wait_for('"my square" ')
         assert "16" in shell.run("")
         shell.type("table l" + TAB)
-        assert "list  load  lookup" in shell.wait_for("lookup\r\n") + shell.seen
+        assert "list  load  lookup" in shell.wait_for("lookup\r+\n") + shell.seen
         shell.type(CTRL_C)
-        shell.wait_for(r"\^C\s+" + re.escape(PROMPT))  # what comes before it is dropped, too
+        shell.wait_for(r"\^C\s+" + PROMPT)  # what comes before it is dropped, too
 
 
 def history():
@@ -110,6 +127,8 @@ def history():
         shell.wait_for("first = 11")
         shell.run("")
         assert "first = 11" in shell.run("parameter value")
+    if on_wine:  # it has data folders of its own
+        return
     kept = (folder / "data/kaldoran/kdqsh_history").read_text().splitlines()
     assert kept[-2:] == ["parameter define first = 11", "parameter value"], kept
 
@@ -117,11 +136,11 @@ def history():
 def ctrl_c_drops_the_line():
     with session() as shell:
         shell.type("bogus words" + CTRL_C)
-        assert "Unknown" not in shell.wait_for(r"\^C\r\n" + PROMPT)
+        assert "Unknown" not in shell.wait_for(r"\^C\s+" + PROMPT)
         shell.type("table \\\r")
         shell.wait_for(r"\.\.\.\.\.\. ")
         shell.type("show x" + CTRL_C)
-        shell.wait_for(PROMPT)
+        shell.wait_for(NEXT_PROMPT)
         assert "No tables." in shell.run("table list")
 
 
@@ -138,6 +157,8 @@ def ctrl_c_stops_a_command():
         assert (folder / "d.dat").read_text() == "$ kept\n"
         assert "Table 'a': 11 rows" in shell.run("table list")
 
+        if on_wine:
+            return
         os.mkfifo(folder / "pipe") # a table that never ends
         writer = os.open(folder / "pipe", os.O_RDWR | os.O_NONBLOCK)
         shell.type("table import pipe as a\r")
@@ -215,8 +236,9 @@ def quiet():
 
 
 try:
-    for check in (completion, history, ctrl_c_drops_the_line, ctrl_c_stops_a_command,
-                  ctrl_c_ends_the_plotter, colours, exit_statuses, quiet):
+    checks = [completion, history, ctrl_c_drops_the_line, ctrl_c_stops_a_command,
+              ctrl_c_ends_the_plotter, colours, exit_statuses, quiet]
+    for check in checks[:4] if on_wine else checks:
         print(check.__name__, flush=True)
         check()
 finally:
