@@ -184,7 +184,9 @@ private Q_SLOTS:
         press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(mark(), QPointF(5.0, 576.5));
         QVERIFY(!m_window->isWindowModified());
-        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        const int redo = QKeySequence(QKeySequence::Redo)[0]; // differs between systems
+        press(redo & ~int(Qt::KeyboardModifierMask),
+              Qt::KeyboardModifiers(redo & int(Qt::KeyboardModifierMask)));
         QCOMPARE(mark(), QPointF(5.0, 650.25));
 
         type(1, 1, QStringLiteral("65O"));
