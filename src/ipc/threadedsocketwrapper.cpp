@@ -264,7 +264,8 @@ void coTcpSocket::ThreadedSocketWrapper::prepareConnection()
 /// cannot be kept apart from it and do not receive.
 void coTcpSocket::ThreadedSocketWrapper::shareReceiving()
 {
-    for (QSocketNotifier* notifier : m_socket.findChildren<QSocketNotifier*>())
+    const QList<QSocketNotifier*> notifiers = m_socket.findChildren<QSocketNotifier*>();
+    for (QSocketNotifier* const notifier : notifiers)
         if (notifier->type() == QSocketNotifier::Read)
             m_readNotifier = notifier;
     if (!m_readNotifier || !m_socket.isReadable())
