@@ -95,10 +95,11 @@ void SocketInbox::close()
     wake();
 }
 
+/// All of it: a request that ends the connection may follow.
 void SocketInbox::update()
 {
     const Lock lock(m_mutex);
-    receive();
+    while (receive()) { }
 }
 
 QAbstractSocket::SocketState SocketInbox::state() const
